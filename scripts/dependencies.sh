@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Installs what the project needs and the machine lacks. The one place that names Debian packages.
+#
+#   scripts/dependencies.sh GROUP...    groups: build, core, display, test, bench, check
+set -euo pipefail
+
+declare -A packages=(
+    [core]="cmake ninja-build g++ libsqlite3-dev ccache"
+    [build]="cmake ninja-build g++ libsqlite3-dev ccache qt6-base-dev qt6-webengine-dev libgl-dev
+             fonts-dejavu-core"
+    [display]="xvfb xauth"
+    [test]="libgtest-dev libgmock-dev locales xvfb xauth xdotool sqlite3"
+    [bench]="libbenchmark-dev"
+    [check]="clang clang-format clang-tidy libclang-rt-14-dev"
+)
+
+missing=()
+for group in "$@"; do
+    for package in ${packages[$group]:?no such group: $group}; do
+        status=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
+        [ "$status" = installed ] || missing+=("$package")
+    done
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

@@ -1,0 +1,97 @@
+#include "codegen/DeclarationText.h"
+
+#include "codegen/ColorNotation.h"
+#include "codegen/GradientDialect.h"
+#include "foundation/NumberText.h"
+#include "model/GlobalData.h"
+
+#include <array>
+
+namespace tessaly {
+namespace {
+
+constexpr std::string_view null = "(null)";
+constexpr std::string_view stopSeparator = ", \n";
+
+using StopSyntax = GradientDialect::StopSyntax;
+
+void appendStop(std::string& list, StopSyntax syntax, std::string_view color, std::string_view percent) {
+    list += "\t\t\t\t";
+    if (syntax == StopSyntax::ColorStop) {
+        list.append("color-stop(").append(percent).append("%,").append(color).append(")");
+    } else {
+        list.append(color).append(" ").append(percent).append("%");
+    }
+    list += stopSeparator;
+}
+
+// The stops in array order, a line each; never sorted. Only called with at least one stop.
+std::string stopList(StopSyntax syntax, const GlobalData& gradient) {
+    const std::int64_t format = gradient.colorFormatType();
+    if (!colorNotation::isKnown(format)) {
+        return std::string{null};
+    }
+    std::string list = "\n";
+    for (std::size_t i = 0; i < gradient.stopCount(); ++i) {
+        const auto color = colorNotation::colorText(format, gradient.colorMarkerColor()[i],
+                                                    gradient.colorMarkerOpacity()[i]);
+        appendStop(list, syntax, color ? std::string_view{*color} : null,
+                   percentText(gradient.colorMarkerPos()[i]));
+    }
+    list.resize(list.size() - stopSeparator.size());
+    return list;
+}
+
+std::string_view phraseFor(const GradientDialect& dialect, std::int64_t orientation) {
+    const bool known = orientation >= 0 && orientation < std::ssize(dialect.phrases);
+    return known ? dialect.phrases[static_cast<std::size_t>(orientation)] : null;
+}
+
+template <const GradientDialect& dialect>
+std::string gradientDeclaration(const GlobalData& gradient) {
+    const std::int64_t orientation = gradient.orientationType();
+    std::string text = "\tbackground: ";
+    text += orientation == orientation::radial ? dialect.radialFunction : dialect.linearFunction;
+    text.append("(").append(phraseFor(dialect, orientation)).append(", ");
+    text.append(stopList(dialect.stopSyntax, gradient)).append(");\n");
+    return text;
+}
+
+std::string plainColorDeclaration(const GlobalData& gradient) {
+    const ColorStop first = *gradient.stopAt(0);
+    const auto color = colorNotation::colorText(gradient.colorFormatType(), first.color, first.opacity);
+    return "\tbackground: " + color.value_or(std::string{null}) + ";\n";
+}
+
+// Always hexadecimal and always horizontal, whatever the gradient: deliberate, the filter knows no more.
+std::string filterDeclaration(const GlobalData& gradient) {
+    const auto hexadecimal = [&](std::size_t stop) {
+        return colorNotation::hexadecimalValueOfAnNSColor(gradient.colorMarkerColor()[stop])
+            .value_or(std::string{null});
+    };
+    return "\tfilter: progid:DXImageTransform.Microsoft.gradient(\n\t\tstartColorstr='" + hexadecimal(0) +
+           "',\n\t\tendColorstr='" + hexadecimal(gradient.stopCount() - 1) + "',GradientType=1 );\n";
+}
+
+using Generator = std::string (*)(const GlobalData& gradient);
+
+// In the order of the declarations.
+constexpr std::array<Generator, declarationCount> generators{
+    plainColorDeclaration,
+    gradientDeclaration<dialect::standard>,
+    gradientDeclaration<dialect::moz>,
+    gradientDeclaration<dialect::oldWebKit>,
+    gradientDeclaration<dialect::newWebKit>,
+    gradientDeclaration<dialect::opera>,
+    gradientDeclaration<dialect::ie>,
+    filterDeclaration,
+};
+
+} // namespace
+
+std::string declarationText(Declaration declaration, const GlobalData& gradient) {
+    return gradient.stopCount() == 0 ? std::string{}
+                                     : generators[static_cast<std::size_t>(declaration)](gradient);
+}
+
+} // namespace tessaly

@@ -1,0 +1,63 @@
+#include "foundation/Utf8.h"
+
+#include <cstdint>
+
+namespace tessaly {
+namespace {
+
+constexpr char32_t replacementCharacter = 0xFFFD;
+
+bool isHighSurrogate(char16_t unit) {
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool isLowSurrogate(char16_t unit) {
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+// Takes the next code point off the front of `text`.
+char32_t takeCodePoint(std::u16string_view& text) {
+    const char16_t unit = text.front();
+    text.remove_prefix(1);
+    if (isHighSurrogate(unit) && !text.empty() && isLowSurrogate(text.front())) {
+        const char32_t high = unit - 0xD800U;
+        const char32_t low = text.front() - 0xDC00U;
+        text.remove_prefix(1);
+        return 0x10000U + (high << 10U) + low;
+    }
+    return isHighSurrogate(unit) || isLowSurrogate(unit) ? replacementCharacter : unit;
+}
+
+void append(std::string& out, char32_t codePoint) {
+    const auto continuation = [&](unsigned shift) {
+        out += static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
+    };
+    if (codePoint < 0x80) {
+        out += static_cast<char>(codePoint);
+    } else if (codePoint < 0x800) {
+        out += static_cast<char>(0xC0U | (codePoint >> 6U));
+        continuation(0);
+    } else if (codePoint < 0x10000) {
+        out += static_cast<char>(0xE0U | (codePoint >> 12U));
+        continuation(6);
+        continuation(0);
+    } else {
+        out += static_cast<char>(0xF0U | (codePoint >> 18U));
+        continuation(12);
+        continuation(6);
+        continuation(0);
+    }
+}
+
+} // namespace
+
+std::string toUtf8(std::u16string_view text) {
+    std::string out;
+    out.reserve(text.size());
+    while (!text.empty()) {
+        append(out, takeCodePoint(text));
+    }
+    return out;
+}
+
+} // namespace tessaly

@@ -1,0 +1,230 @@
+#include "codegen/WebCode.h"
+
+#include "codegen/WebView.h"
+#include "support/FakeCodeText.h"
+#include "support/Gradients.h"
+#include "support/LogCapture.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace tessaly {
+namespace {
+
+const std::string defaultStylesheet = ".gradient {\n"
+                                      "\theight: 236px;\n"
+                                      "\tbackground: #000000;\n"
+                                      "\tbackground: linear-gradient(to right, \n"
+                                      "\t\t\t\t#000000 0%, \n"
+                                      "\t\t\t\t#ffffff 100%);\n"
+                                      "\tbackground: -moz-linear-gradient(left, \n"
+                                      "\t\t\t\t#000000 0%, \n"
+                                      "\t\t\t\t#ffffff 100%);\n"
+                                      "\tbackground: -webkit-gradient(linear, left top, right top, \n"
+                                      "\t\t\t\tcolor-stop(0%,#000000), \n"
+                                      "\t\t\t\tcolor-stop(100%,#ffffff));\n"
+                                      "\tbackground: -webkit-linear-gradient(left, \n"
+                                      "\t\t\t\t#000000 0%, \n"
+                                      "\t\t\t\t#ffffff 100%);\n"
+                                      "\tbackground: -o-linear-gradient(left, \n"
+                                      "\t\t\t\t#000000 0%, \n"
+                                      "\t\t\t\t#ffffff 100%);\n"
+                                      "\tbackground: -ms-linear-gradient(left, \n"
+                                      "\t\t\t\t#000000 0%, \n"
+                                      "\t\t\t\t#ffffff 100%);\n"
+                                      "\tfilter: progid:DXImageTransform.Microsoft.gradient(\n"
+                                      "\t\tstartColorstr='#000000',\n"
+                                      "\t\tendColorstr='#ffffff',GradientType=1 );\n"
+                                      "}\n";
+
+class FakeWebView : public WebView {
+  public:
+    void loadFile(const std::filesystem::path& page) override { loaded = page; }
+    void reload() override { ++reloads; }
+    void redisplay() override {}
+
+    std::filesystem::path loaded;
+    int reloads = 0;
+};
+
+class WebCodeTest : public testing::Test {
+  protected:
+    WebCodeTest() {
+        resetToDefaultGradient();
+        code.insertHTML5Code();
+        code.insertCSS3Code();
+    }
+
+    void update() { code.updateBackgroundColorDataUpdatedNotification({}); }
+
+    // What the user does in the stylesheet view.
+    void edit(std::size_t position, std::size_t removed, const std::u16string& added) {
+        css.contents.replace(position, removed, added);
+        code.stylesheetEdited(position, removed, added.size());
+    }
+
+    static std::string freshStylesheet() {
+        FakeCodeText html;
+        FakeCodeText fresh;
+        FakeWebView web;
+        WebCode writer{html, fresh, web, {}};
+        writer.insertCSS3Code();
+        return fresh.utf8();
+    }
+
+    const LogCapture log;
+    const TemporaryFolder temporary;
+    FakeCodeText html;
+    FakeCodeText css;
+    FakeWebView web;
+    WebCode code{html, css, web, temporary.path};
+};
+
+TEST_F(WebCodeTest, writesTheDefaultTexts) {
+    EXPECT_EQ(css.utf8(), defaultStylesheet);
+    EXPECT_EQ(css.length(), 678U);
+    const DeclarationRanges& ranges = code.ranges();
+    EXPECT_EQ((std::array{ranges.backgroundColorOldIndex(), ranges.backgroundColorIndex(),
+                          ranges.backgroundColorMozIndex(), ranges.backgroundColorOldWebKitIndex(),
+                          ranges.backgroundColorNewWebKitIndex(), ranges.backgroundColorOperaIndex(),
+                          ranges.backgroundColorIEIndex(), ranges.backgroundColorMSFilterIndex()}),
+              (std::array<std::size_t, 8>{28, 50, 126, 203, 323, 403, 478, 554}));
+    EXPECT_EQ(html.utf8(),
+              "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n\t<meta charset=\"utf-8\">\n"
+              "\t<link rel=\"stylesheet\" type=\"text/css\" href=\"styles.css\" media=\"screen\" />\n"
+              "\t<title>My Button</title>\n</head>\n<body>\n\t<div class=\"gradient\">\n\t</div>\n"
+              "</body>\n</html>\n");
+    EXPECT_TRUE(css.editable && html.editable);
+    EXPECT_EQ(css.caret, 0U);
+    EXPECT_FALSE(code.shouldChangeTextInRange());
+    EXPECT_TRUE(log.has("backgroundColorOldText: \tbackground: #000000;\n"));
+}
+
+TEST_F(WebCodeTest, anyChangeLeavesTheTextThatIsWrittenFromScratch) {
+    std::mt19937 random{1};
+    for (int i = 0; i < 500; ++i) {
+        setRandomGradient(random);
+        update();
+        ASSERT_EQ(css.utf8(), freshStylesheet()) << "change " << i;
+    }
+    EXPECT_TRUE(css.rangesInBounds);
+}
+
+TEST_F(WebCodeTest, keepsWhatTheUserAddsAroundTheDeclarations) {
+    edit(0, 0, u"/* mine \U0001F308 */\n");
+    edit(code.ranges().backgroundColorMozIndex(), 0, u"\tcolor: red;\n");
+    edit(css.length() - 2, 0, u"\tmargin: 0;\n");
+    GlobalData::sharedData().setColorFormatType(colorFormat::rgba);
+    update();
+    std::string expected = freshStylesheet();
+    expected.insert(expected.size() - 2, "\tmargin: 0;\n");
+    expected.insert(expected.find("\tbackground: -moz-"), "\tcolor: red;\n");
+    EXPECT_EQ(css.utf8(), "/* mine \xF0\x9F\x8C\x88 */\n" + expected);
+}
+
+TEST_F(WebCodeTest, rewritesAChangedDeclarationAndBringsBackADeletedOne) {
+    const DeclarationRanges& ranges = code.ranges();
+    edit(ranges.backgroundColorIndex() + 5, 3, u"oops");                           // inside the standard one
+    edit(ranges[Declaration::Moz].location, ranges[Declaration::Moz].length, u""); // a whole one
+    edit(ranges.backgroundColorOperaIndex() - 10, 20, u"x"); // across an edge: the x is the user's
+    update();
+    std::string expected = freshStylesheet();
+    expected.insert(expected.find("\tbackground: -o-"), "x");
+    EXPECT_EQ(css.utf8(), expected);
+    edit(0, css.length(), u"");
+    update();
+    EXPECT_EQ(css.utf8(), [&] {
+        const std::string fresh = freshStylesheet();
+        return fresh.substr(28, fresh.size() - 30); // all eight are back, the frame around them is not
+    }());
+}
+
+TEST_F(WebCodeTest, findsDeclarationsThatACoarseEditCarriedAlong) {
+    // Dragging the closing brace to the front is reported as one edit of everything between.
+    const std::u16string text = css.text();
+    edit(0, text.size(), u"}\n" + text.substr(0, text.size() - 2));
+    GlobalData::sharedData().setOrientationType(orientation::radial);
+    update();
+    const std::string fresh = freshStylesheet();
+    EXPECT_EQ(css.utf8(), "}\n" + fresh.substr(0, fresh.size() - 2));
+}
+
+TEST_F(WebCodeTest, noRandomEditMakesARangeRunPastTheEnd) {
+    std::mt19937 random{2};
+    for (int i = 0; i < 2000; ++i) {
+        const auto upTo = [&](std::size_t most) {
+            return std::uniform_int_distribution<std::size_t>{0, most}(random);
+        };
+        const std::size_t position = upTo(css.length());
+        const std::size_t removed = upTo(std::min<std::size_t>(css.length() - position, upTo(1) * 400));
+        edit(position, removed, std::u16string(upTo(40), u'u'));
+        if (i % 3 == 0) {
+            setRandomGradient(random, 4);
+            update();
+        }
+        std::size_t end = 0;
+        for (const Declaration declaration : allDeclarations) {
+            ASSERT_GE(code.ranges()[declaration].location, end);
+            end = code.ranges()[declaration].end();
+        }
+        ASSERT_LE(end, css.length());
+    }
+    css.contents.resize(10); // shortened without a word
+    update();
+    EXPECT_TRUE(css.rangesInBounds);
+}
+
+TEST_F(WebCodeTest, writesThePreviewIntoTheFirstFreeFolderAndTakesItAwayAtTheEnd) {
+    std::filesystem::create_directory(temporary.path / "WebFolder0");
+    std::filesystem::create_symlink("nowhere", temporary.path / "WebFolder1");
+    const auto folder = temporary.path / "WebFolder2";
+    {
+        WebCode owner{html, css, web, temporary.path};
+        css.contents.clear();
+        owner.insertCSS3Code();
+        owner.createHTMLIndexFile();
+        EXPECT_EQ(owner.folderPath(), folder);
+        EXPECT_EQ(GlobalData::sharedData().tempFolderPath(), folder.native());
+        EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
+        EXPECT_EQ(contentsOf(folder / "styles.css"), defaultStylesheet);
+        EXPECT_EQ(contentsOf(folder / "index.html"), html.utf8());
+        EXPECT_EQ(web.loaded, folder / "index.html");
+        EXPECT_TRUE(log.has("htmlPath: " + (folder / "index.html").native()));
+        EXPECT_FALSE(owner.needToWriteCSSFile());
+        owner.writeFile();
+        EXPECT_EQ(web.reloads, 0) << "nothing changed yet";
+
+        html.contents = u"edited by hand";
+        for (const std::int64_t orientation : {orientation::radial, orientation::bottomToTop}) {
+            GlobalData::sharedData().setOrientationType(orientation);
+            owner.updateBackgroundColorDataUpdatedNotification({});
+            EXPECT_EQ(contentsOf(folder / "styles.css"), css.utf8());
+        }
+        EXPECT_EQ(web.reloads, 2);
+        EXPECT_TRUE(owner.needToWriteCSSFile());
+        EXPECT_FALSE(owner.needToWriteHTMLFile());
+        EXPECT_NE(contentsOf(folder / "index.html"), html.utf8()) << "the page file is never rewritten";
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder));
+}
+
+TEST_F(WebCodeTest, goesOnWithoutAPreviewWhenTheDiskRefuses) {
+    const auto file = temporary.path / "file";
+    std::ofstream{file} << "x";
+    for (const auto& refused : {temporary.path / "missing", file}) {
+        WebCode owner{html, css, web, refused};
+        owner.createHTMLIndexFile();
+        EXPECT_EQ(owner.folderPath(), "");
+        EXPECT_EQ(log.messages.back().rfind("No preview folder: " + refused.native(), 0), 0U);
+    }
+    EXPECT_EQ(web.loaded, "");
+
+    code.createHTMLIndexFile();
+    std::filesystem::remove_all(code.folderPath()); // someone tidied up
+    update();
+    EXPECT_EQ(log.messages.back().rfind("Preview file not written: ", 0), 0U);
+    EXPECT_EQ(css.utf8(), defaultStylesheet);
+}
+
+} // namespace
+} // namespace tessaly

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+
+namespace tessaly {
+
+inline std::string contentsOf(const std::filesystem::path& file) {
+    std::ifstream stream{file, std::ios::binary};
+    return {std::istreambuf_iterator<char>{stream}, {}};
+}
+
+/// A fresh folder that goes with the test.
+class TemporaryFolder {
+  public:
+    TemporaryFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "tessaly-test-XXXXXX").native();
+        if (::mkdtemp(name.data()) == nullptr) {
+            throw std::runtime_error{"no temporary folder"};
+        }
+        path = name;
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() { std::filesystem::remove_all(path); }
+
+    std::size_t entries() const {
+        return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator{path}, {}));
+    }
+
+    std::filesystem::path path;
+};
+
+} // namespace tessaly
