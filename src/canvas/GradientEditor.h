@@ -36,6 +36,7 @@ class GradientEditor {
     const CanvasGeometry& geometry() const { return geometry_; }
     const MarkerHitAreas& hitAreas() const { return hitAreas_; }
     ColorMarkers& markers() { return markers_; }
+    const ColorMarkers& markers() const { return markers_; }
     MarkerInteraction& interaction() { return interaction_; }
     StopControls& controls() { return controls_; }
 

@@ -1,0 +1,13 @@
+// Widget tests: one application object for all of them.
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    if (testing::GTEST_FLAG(list_tests)) {
+        return RUN_ALL_TESTS(); // needs no platform
+    }
+    const QApplication application{argc, argv};
+    return RUN_ALL_TESTS();
+}
