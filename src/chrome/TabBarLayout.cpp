@@ -3,6 +3,7 @@
 #include "foundation/Truncation.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessaly {
 namespace {
@@ -81,6 +82,14 @@ std::optional<std::int64_t> TabBarLayout::neighbour(std::int64_t index, std::int
     }
     const auto last = static_cast<std::int64_t>(textSizes_.size()) - 1;
     return std::clamp(std::clamp<std::int64_t>(index, -1, last + 1) + step, std::int64_t{0}, last);
+}
+
+Size TabBarLayout::preferredSize() const {
+    constexpr double step = 8.0; // the rhythm of the window
+    constexpr double leastHeight = 32.0;
+    const double twoTitles = 2 * static_cast<double>(textHeight_);
+    return {static_cast<double>(totalWidth_) + 2 * gap,
+            std::max(leastHeight, std::ceil(twoTitles / step) * step)};
 }
 
 } // namespace tessaly

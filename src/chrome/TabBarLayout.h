@@ -43,6 +43,9 @@ class TabBarLayout {
     /// The tab `step` places further, kept within the row; none when there are no tabs.
     std::optional<std::int64_t> neighbour(std::int64_t index, std::int64_t step) const;
 
+    /// A bar of this size holds the group with a margin, and every hit rectangle and box within its height.
+    Size preferredSize() const;
+
     const std::vector<Size>& textSizes() const { return textSizes_; }
     const std::vector<Rect>& hitRectangles() const { return hitRectangles_; }
 

@@ -1,0 +1,13 @@
+// The tests of the widgets run on the offscreen platform unless the environment names another.
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const QApplication application{argc, argv};
+    return RUN_ALL_TESTS();
+}
