@@ -1,0 +1,13 @@
+#include "chrome/ProductInfo.h"
+
+namespace tessaly::product {
+
+std::string_view version() {
+    return TESSALY_VERSION;
+}
+
+std::string_view homepage() {
+    return TESSALY_HOMEPAGE_URL;
+}
+
+} // namespace tessaly::product

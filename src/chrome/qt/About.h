@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QDialog>
+
+namespace tessaly {
+
+/// The About sheet: icon, name, version, what the program is for, and a link to its homepage. Shown with
+/// `open()`, closed with `closeWindow()`, and kept for the next showing.
+class About : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// Shows the application's window icon as it is now.
+    explicit About(QWidget* mainWindow = nullptr);
+
+    void closeWindow();
+};
+
+} // namespace tessaly

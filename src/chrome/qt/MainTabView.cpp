@@ -1,0 +1,203 @@
+#include "chrome/qt/MainTabView.h"
+
+#include "chrome/qt/MainTabListAccessible.h"
+#include "foundation/NotificationCenter.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+QColor toQColor(const RGBAComponents& color) {
+    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
+                            static_cast<float>(color.blue), static_cast<float>(color.alpha));
+}
+
+} // namespace
+
+MainTabView::MainTabView(const QStringList& titles, QWidget* parent) : QWidget{parent} {
+    MainTabListAccessible::install();
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    for (const QString& title : titles) {
+        addTab(title);
+    }
+    selectIndex_ = 0;
+    windowDidResize();
+    nextPass_.setSingleShot(true);
+    connect(&nextPass_, &QTimer::timeout, this, &MainTabView::windowDidResize);
+    QCoreApplication::instance()->installEventFilter(this); // until this object ends
+}
+
+void MainTabView::addTab(const QString& title) {
+    const QFontMetricsF metrics{font()};
+    tabs_.push_back(title);
+    textFonts_.push_back(font());
+    layout_.addTab({metrics.horizontalAdvance(title), metrics.height()});
+    updateGeometry();
+    update();
+}
+
+void MainTabView::windowDidResize() {
+    layout_.layOutHitRectangles(width());
+}
+
+void MainTabView::setSelectIndex(std::int64_t index) {
+    selectIndex_ = index;
+    update();
+    announceToAssistiveTools();
+    sendMessage(selectIndex_);
+}
+
+void MainTabView::sendMessage(std::int64_t index) const {
+    NotificationCenter::defaultCenter().post({"SelectIndexChanged", this, {{"Index", index}}});
+}
+
+void MainTabView::pressTab(std::int64_t index) {
+    highlightIndex_ = index;
+    update();
+    if (index != selectIndex_) {
+        setSelectIndex(index);
+    }
+}
+
+QRectF MainTabView::tabRectangle(std::int64_t index) const {
+    const auto& rectangles = layout_.hitRectangles();
+    const auto position = static_cast<std::size_t>(index);
+    return index >= 0 && position < rectangles.size() ? fromLayout(rectangles[position]) : QRectF{};
+}
+
+std::int64_t MainTabView::tabAt(QPointF position) const {
+    return layout_.tabAt({position.x(), height() - position.y()}).value_or(-1);
+}
+
+QSize MainTabView::sizeHint() const {
+    const Size size = layout_.preferredSize();
+    return {static_cast<int>(std::ceil(size.width)), static_cast<int>(std::ceil(size.height))};
+}
+
+bool MainTabView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && watched->isWidgetType() &&
+        static_cast<QWidget*>(watched)->isWindow()) {
+        // The event comes before the window has given its children their new places.
+        nextPass_.start();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void MainTabView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter{this};
+    QLinearGradient grey{0, static_cast<double>(height()), 0, 0};
+    grey.setColorAt(0, toQColor(colors_.gradientBottom));
+    grey.setColorAt(1, toQColor(colors_.gradientTop));
+    painter.fillRect(rect(), grey);
+    if (tabs_.isEmpty()) {
+        return;
+    }
+    const DrawnTabs tabs = layout_.drawn(frameSize(), selectIndex_);
+    for (std::size_t i = 0; i < tabs.titles.size(); ++i) {
+        drawTab(painter, i, tabs);
+    }
+    trackingArea_ = fromLayout(tabs.trackingPath);
+    if (hasFocus()) {
+        drawFocusFrame(painter, tabs);
+    }
+}
+
+void MainTabView::drawTab(QPainter& painter, std::size_t index, const DrawnTabs& tabs) const {
+    if (tabs.selectedBox && static_cast<std::int64_t>(index) == selectIndex_) {
+        painter.setPen(QPen{toQColor(colors_.borderSelectColor), 1});
+        painter.setBrush(toQColor(colors_.selectColor));
+        painter.drawRect(fromLayout(*tabs.selectedBox));
+    }
+    const Point origin = tabs.titles[index];
+    const Size size = layout_.textSizes()[index];
+    painter.setFont(textFonts_[index]);
+    painter.setPen(toQColor(colors_.title));
+    painter.drawText(fromLayout({origin.x, origin.y, size.width, size.height}),
+                     Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                     tabs_[static_cast<qsizetype>(index)]);
+    if (index < tabs.separators.size()) {
+        drawSeparator(painter, tabs.separators[index]);
+    }
+}
+
+void MainTabView::drawSeparator(QPainter& painter, const TabSeparator& separator) const {
+    const auto stroke = [&](const Line& line, const RGBAComponents& color) {
+        painter.setPen(QPen{toQColor(color), 1, Qt::SolidLine, Qt::FlatCap});
+        painter.drawLine(QPointF{line.from.x, height() - line.from.y},
+                         QPointF{line.to.x, height() - line.to.y});
+    };
+    stroke(separator.dark, colors_.separatorDark);
+    stroke(separator.light, colors_.separatorLight);
+}
+
+void MainTabView::drawFocusFrame(QPainter& painter, const DrawnTabs& tabs) const {
+    constexpr double outset = 1.0; // clear of the separators
+    const QRectF frame = tabs.selectedBox ? fromLayout(*tabs.selectedBox) : trackingArea_;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen{toQColor(colors_.title), 1.5});
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(frame.adjusted(-outset, -outset, outset, outset), 3, 3);
+}
+
+void MainTabView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    if (const std::int64_t index = tabAt(event->position()); index >= 0) {
+        pressTab(index);
+    }
+}
+
+void MainTabView::keyPressEvent(QKeyEvent* event) {
+    const auto row = static_cast<std::int64_t>(tabs_.size());
+    std::int64_t step = 0;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        step = -1;
+        break;
+    case Qt::Key_Right:
+        step = 1;
+        break;
+    case Qt::Key_Home:
+        step = -row;
+        break;
+    case Qt::Key_End:
+        step = row;
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (const auto index = layout_.neighbour(selectIndex_, step); index && *index != selectIndex_) {
+        setSelectIndex(*index);
+    }
+}
+
+QRectF MainTabView::fromLayout(const Rect& rectangle) const {
+    return {rectangle.x, height() - rectangle.maxY(), rectangle.width, rectangle.height};
+}
+
+void MainTabView::announceToAssistiveTools() {
+    if (selectIndex_ < 0 || selectIndex_ >= tabs_.size()) {
+        return;
+    }
+    for (const QAccessible::Event change : {QAccessible::Selection, QAccessible::Focus}) {
+        if (change == QAccessible::Selection || hasFocus()) {
+            QAccessibleEvent event{this, change};
+            event.setChild(static_cast<int>(selectIndex_));
+            QAccessible::updateAccessibility(&event);
+        }
+    }
+}
+
+} // namespace tessaly

@@ -1,0 +1,134 @@
+#include "chrome/qt/MainTabView.h"
+
+#include "foundation/NotificationCenter.h"
+#include "support/Palettes.h"
+
+#include <QAccessible>
+#include <QTest>
+#include <any>
+#include <gtest/gtest.h>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class MainTabViewTest : public testing::Test {
+  protected:
+    MainTabViewTest() {
+        window.resize(500, 100);
+        bar.setGeometry(0, 0, 500, 32);
+        window.show();
+        QCoreApplication::processEvents();
+        observation = NotificationCenter::defaultCenter().addObserver(
+            "SelectIndexChanged", &bar, [this](const Notification& change) {
+                posts.push_back(std::any_cast<std::int64_t>(change.userInfo.at("Index")));
+            });
+    }
+
+    void click(QPointF position) { QTest::mouseClick(&bar, Qt::LeftButton, {}, position.toPoint()); }
+    void clickTab(std::int64_t index) { click(bar.tabRectangle(index).center()); }
+
+    using Posts = std::vector<std::int64_t>;
+
+    QWidget window;
+    MainTabView bar{{u"CSS 3"_s, u"HTML"_s, u"Web Preview"_s}, &window};
+    Posts posts;
+    NotificationCenter::Observation observation;
+};
+
+TEST_F(MainTabViewTest, announcesClicksThatChangeTheTabAndEverySelectionByTheProgram) {
+    EXPECT_EQ(bar.selectIndex(), 0);
+    EXPECT_EQ(bar.highlightIndex(), -1);
+    clickTab(0);
+    EXPECT_EQ(bar.highlightIndex(), 0);
+    EXPECT_EQ(posts, Posts{}) << "the selected tab again";
+    clickTab(2);
+    clickTab(1);
+    EXPECT_EQ(posts, (Posts{2, 1}));
+    click({3, 16});
+    QTest::mouseClick(&bar, Qt::RightButton, {}, bar.tabRectangle(0).center().toPoint());
+    EXPECT_EQ(bar.selectIndex(), 1);
+    bar.setSelectIndex(1);
+    bar.setSelectIndex(9);
+    EXPECT_EQ(posts, (Posts{2, 1, 1, 9}));
+    EXPECT_EQ(bar.highlightIndex(), 1);
+}
+
+TEST_F(MainTabViewTest, countsYUpwardsFromItsBottomEdge) {
+    const QRectF tab = bar.tabRectangle(0);
+    bar.resize(500, 64);
+    EXPECT_EQ(bar.tabRectangle(0), tab.translated(0, 32)) << "the hit rectangles stay at the bottom";
+    click({tab.center().x(), 5});
+    EXPECT_EQ(bar.highlightIndex(), -1) << "above them, where a bar this tall draws its box";
+}
+
+TEST_F(MainTabViewTest, takesItsHitRectanglesFromTheLastResizeOfAnyWindow) {
+    const double before = bar.tabRectangle(0).x();
+    bar.resize(700, 32);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.tabRectangle(0).x(), before) << "no window was resized";
+    QWidget other;
+    other.show();
+    other.resize(300, 300);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.tabRectangle(0).x(), before + 100);
+}
+
+TEST_F(MainTabViewTest, isWorkedWithTheKeyboard) {
+    bar.setFocus();
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left,
+                              Qt::Key_Home, Qt::Key_Home, Qt::Key_End, Qt::Key_Space}) {
+        QTest::keyClick(&bar, key);
+    }
+    EXPECT_EQ(posts, (Posts{1, 2, 1, 0, 2}));
+    bar.setSelectIndex(-1);
+    QTest::keyClick(&bar, Qt::Key_Left);
+    EXPECT_EQ(bar.selectIndex(), 0);
+}
+
+TEST_F(MainTabViewTest, assistiveToolsSeePageTabsThatCanBePressed) {
+    QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&bar);
+    ASSERT_EQ(list->role(), QAccessible::PageTabList);
+    ASSERT_EQ(list->childCount(), 3);
+    QAccessibleInterface* const tab = list->child(2);
+    EXPECT_EQ(tab->role(), QAccessible::PageTab);
+    EXPECT_EQ(tab->text(QAccessible::Name), u"Web Preview"_s);
+    EXPECT_FALSE(tab->state().selected);
+    tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(posts, Posts{2});
+    EXPECT_TRUE(tab->state().selected);
+    EXPECT_EQ(list->child(2), tab);
+    EXPECT_EQ(list->indexOfChild(tab), 2);
+    EXPECT_EQ(list->childAt(tab->rect().center().x(), tab->rect().center().y()), tab);
+    EXPECT_EQ(tab->parent(), list);
+    bar.setFocus();
+    EXPECT_EQ(list->focusChild(), tab);
+    for (const int none : {-1, 3}) {
+        EXPECT_EQ(list->child(none), nullptr);
+    }
+}
+
+TEST_F(MainTabViewTest, paintsItsOwnColoursOnEveryDesktop) {
+    const auto greyAt = [](const QImage& image, int y) { return image.pixelColor(2, y).red(); };
+    const QImage light = bar.grab().toImage();
+    bar.setPalette(darkPalette());
+    EXPECT_EQ(bar.grab().toImage(), light);
+    EXPECT_NEAR(greyAt(light, 31), 179, 2);
+    EXPECT_NEAR(greyAt(light, 0), 220, 2);
+
+    const QPoint inBox = bar.tabRectangle(2).center().toPoint() + QPoint{0, -5};
+    const QColor plain = light.pixelColor({inBox.x(), 10});
+    bar.setSelectIndex(2);
+    const QColor boxed = bar.grab().toImage().pixelColor({inBox.x(), 10});
+    EXPECT_NEAR(boxed.red(), 0.6 * plain.red() + 0.4 * 124, 2);
+    EXPECT_NEAR(boxed.blue(), 0.6 * plain.blue() + 0.4 * 173, 2);
+    bar.setFocus();
+    const QImage focused = bar.grab().toImage();
+    bar.clearFocus();
+    EXPECT_NE(focused, bar.grab().toImage()) << "the focus is visible";
+    EXPECT_LT(bar.trackingArea().width(), 300);
+}
+
+} // namespace
+} // namespace tessaly
