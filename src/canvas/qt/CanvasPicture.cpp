@@ -1,7 +1,7 @@
 #include "canvas/qt/CanvasPicture.h"
 
 #include "canvas/GradientRaster.h"
-#include "canvas/qt/ColorBridge.h"
+#include "model/qt/ColorBridge.h"
 
 #include <QPainter>
 #include <cmath>

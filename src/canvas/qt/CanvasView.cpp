@@ -1,8 +1,9 @@
 #include "canvas/qt/CanvasView.h"
 
-#include "canvas/qt/ColorBridge.h"
 #include "canvas/qt/StopControlPanel.h"
 #include "foundation/NumberText.h"
+#include "foundation/qt/ToQString.h"
+#include "model/qt/ColorBridge.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -152,7 +153,7 @@ QString CanvasView::accessibleItemName(int item) const {
 QString CanvasView::accessibleItemDescription(int item) const {
     const ColorStop stop = GlobalData::sharedData().stopAt(item).value_or(ColorStop{});
     return tr("Position %1, color %2")
-        .arg(QString::fromStdString(fixedText(stop.position, 3)), toQColor(stop.color).name());
+        .arg(toQString(fixedText(stop.position, 3)), toQColor(stop.color).name());
 }
 
 QRect CanvasView::accessibleItemRect(int item) const {

@@ -1,8 +1,8 @@
 #include "canvas/qt/ColorPickerImageView.h"
 
 #include "canvas/CanvasNotifications.h"
-#include "canvas/qt/ColorBridge.h"
 #include "foundation/NotificationCenter.h"
+#include "model/qt/ColorBridge.h"
 
 #include <QColorDialog>
 #include <QKeyEvent>

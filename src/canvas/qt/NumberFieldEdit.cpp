@@ -1,4 +1,5 @@
 #include "canvas/qt/NumberFieldEdit.h"
+#include "foundation/qt/ToQString.h"
 
 #include <QFontMetrics>
 #include <QKeyEvent>
@@ -49,7 +50,7 @@ NumberFieldEdit::NumberFieldEdit(const NumberFormatter& formatter, int widestTex
 }
 
 void NumberFieldEdit::setText(std::string_view text) {
-    const QString wanted = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const QString wanted = toQString(text);
     shown_ = wanted;
     if (QLineEdit::text() != wanted) {
         QLineEdit::setText(wanted);

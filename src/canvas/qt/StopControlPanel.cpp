@@ -5,6 +5,7 @@
 #include "canvas/qt/NumberFieldEdit.h"
 #include "canvas/qt/TitledComboBox.h"
 #include "canvas/qt/ValueStepper.h"
+#include "foundation/qt/ToQString.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -36,10 +37,6 @@ constexpr std::array<Cell, stopValues.size()> cells{{
 
 constexpr int columnsPerBlock = 4;
 constexpr int lastBlock = 3;
-
-QString textOf(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QLabel* labelFor(QWidget& buddy, const QString& text) {
     auto* const label = new QLabel{text};
@@ -81,9 +78,9 @@ void StopControlPanel::addPair(QGridLayout& grid, const StopValueTraits& traits,
     }
     auto& [field, stepper] = pairs_[static_cast<std::size_t>(traits.value)];
     field = new NumberFieldEdit{*formatter, traits.decimal ? decimalDigits : integerDigits};
-    field->setAccessibleName(textOf(traits.name));
+    field->setAccessibleName(toQString(traits.name));
     stepper = new ValueStepper{traits};
-    stepper->setAccessibleName(textOf(traits.name) + tr(" stepper"));
+    stepper->setAccessibleName(toQString(traits.name) + tr(" stepper"));
     connect(field, &NumberFieldEdit::stepped, stepper, &ValueStepper::stepBy);
     auto* const pairLayout = new QHBoxLayout;
     pairLayout->setContentsMargins(spacing, 0, 0, 0);

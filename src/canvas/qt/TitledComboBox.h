@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvas/ControlInterfaces.h"
+#include "foundation/qt/ToQString.h"
 
 #include <QComboBox>
 #include <span>
@@ -15,9 +16,7 @@ class TitledComboBox : public QComboBox, public ComboBox {
   public:
     explicit TitledComboBox(QWidget* parent = nullptr) : QComboBox{parent} {}
 
-    void addTitle(std::string_view title) {
-        addItem(QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size())));
-    }
+    void addTitle(std::string_view title) { addItem(toQString(title)); }
 
     std::int64_t indexOfSelectedItem() const override { return currentIndex(); }
     void selectItemAtIndex(std::int64_t index) override { setCurrentIndex(static_cast<int>(index)); }

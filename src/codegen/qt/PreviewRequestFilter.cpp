@@ -1,12 +1,12 @@
 #include "codegen/qt/PreviewRequestFilter.h"
 
 #include "codegen/PreviewFolder.h"
+#include "foundation/qt/ToQString.h"
 
 namespace tessaly {
 
 bool PreviewRequestFilter::isOwnFile(const QUrl& url) const {
-    const auto stylesheet = PreviewFolder::stylesheetName;
-    const QString name = QString::fromLatin1(stylesheet.data(), static_cast<qsizetype>(stylesheet.size()));
+    const QString name = toQString(PreviewFolder::stylesheetName);
     return page_.isValid() && (url == page_ || url == page_.resolved(QUrl{name}));
 }
 

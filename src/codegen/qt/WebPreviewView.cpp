@@ -91,8 +91,8 @@ void WebPreviewView::startEngine() {
 }
 
 void WebPreviewView::embedView() {
-    // As a child widget the view would make the toolkit build the main window anew, visibly, and draw all of it
-    // through the graphics card from then on. As a native window of its own it concerns nobody else.
+    // As a child widget the view would make the toolkit build the main window anew, visibly, and draw all of
+    // it through the graphics card from then on. As a native window of its own it concerns nobody else.
     view_->winId();
     layout()->addWidget(QWidget::createWindowContainer(view_->windowHandle()));
 }

@@ -6,11 +6,14 @@
 
 namespace tessaly {
 
-/// The toolkit's colour for one of ours; transparent for a colour without RGB form.
-inline QColor toQColor(const Color& color) {
-    const RGBAComponents rgb = color.calibratedRGB().value_or(RGBAComponents{0.0, 0.0, 0.0, 0.0});
+inline QColor toQColor(const RGBAComponents& rgb) {
     return QColor::fromRgbF(static_cast<float>(rgb.red), static_cast<float>(rgb.green),
                             static_cast<float>(rgb.blue), static_cast<float>(rgb.alpha));
+}
+
+/// The toolkit's colour for one of ours; transparent for a colour without RGB form.
+inline QColor toQColor(const Color& color) {
+    return toQColor(color.calibratedRGB().value_or(RGBAComponents{0.0, 0.0, 0.0, 0.0}));
 }
 
 /// Our colour for one of the toolkit's; an invalid one has no RGB form.
