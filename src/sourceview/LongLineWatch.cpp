@@ -38,4 +38,8 @@ void LongLineWatch::textEdited(std::u16string_view text, const TextEdit& edit) {
     }
 }
 
+bool LongLineWatch::isLongLineIn(std::u16string_view text) {
+    return longLineIn(text, 0, text.size()).has_value();
+}
+
 } // namespace tessaly

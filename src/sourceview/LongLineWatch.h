@@ -18,6 +18,8 @@ class LongLineWatch {
     /// `text` is the text after `edit`.
     void textEdited(std::u16string_view text, const TextEdit& edit);
 
+    static bool isLongLineIn(std::u16string_view text);
+
     bool hasLongLine() const { return longLine_.has_value(); }
 
   private:

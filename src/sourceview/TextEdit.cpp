@@ -52,4 +52,11 @@ TextEdit TextEdit::between(std::u16string_view before, std::u16string_view after
     return {start, before.size() - start - end, after.size() - start - end};
 }
 
+TextEdit TextEdit::reported(const TextEdit& report, std::size_t before, std::size_t after) {
+    const std::size_t position = std::min({report.position, before, after});
+    const TextEdit edit{position, std::min(report.removed, before - position),
+                        std::min(report.added, after - position)};
+    return before - edit.removed + edit.added == after ? edit : TextEdit{0, before, after};
+}
+
 } // namespace tessaly

@@ -21,6 +21,11 @@ struct TextEdit {
     /// surrogate pair in two.
     static TextEdit between(std::u16string_view before, std::u16string_view after);
 
+    /// A toolkit's report of an edit, for a text that was `before` units long and is now `after`: its
+    /// stretches may count the separator that ends the last line. A report that contradicts the lengths
+    /// becomes an edit of the whole text.
+    static TextEdit reported(const TextEdit& report, std::size_t before, std::size_t after);
+
     bool operator==(const TextEdit&) const = default;
 };
 
