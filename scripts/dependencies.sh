@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the project needs and the machine lacks. The one place that names Debian packages.
 #
-#   scripts/dependencies.sh GROUP...    groups: build, core, display, test, bench, check
+#   scripts/dependencies.sh GROUP...    groups: core, build, display, screenshot, test, bench, check
 set -euo pipefail
 
 declare -A packages=(
@@ -9,6 +9,7 @@ declare -A packages=(
     [build]="cmake ninja-build g++ libsqlite3-dev ccache qt6-base-dev qt6-webengine-dev libgl-dev
              fonts-dejavu-core"
     [display]="xvfb xauth"
+    [screenshot]="xdotool imagemagick"
     [test]="libgtest-dev libgmock-dev locales xvfb xauth xdotool sqlite3"
     [bench]="libbenchmark-dev"
     [check]="clang clang-format clang-tidy libclang-rt-14-dev"

@@ -57,10 +57,10 @@ TEST(ColorConversion, readsHueAsAWholeNumberAndTheRestUnrounded) {
 
 TEST(ColorConversion, convertsBackWithTheLiteralThirds) {
     const std::pair<HSLValue, RGBValue> rows[] = {
-        {{0, 100, 50}, {255, 0, 0}},       {{240, 100, 50}, {0, 0, 255}},      {{60, 100, 50}, {255, 255, 0}},
-        {{120, 100, 50}, {-1, 255, 1}},    {{0, 0, 50}, {127, 127, 127}},      {{0, 0, 100}, {255, 255, 255}},
+        {{0, 100, 50}, {255, 0, 0}},       {{240, 100, 50}, {0, 0, 255}},     {{60, 100, 50}, {255, 255, 0}},
+        {{120, 100, 50}, {-1, 255, 1}},    {{0, 0, 50}, {127, 127, 127}},     {{0, 0, 100}, {255, 255, 255}},
         {{0, 0.001, 50}, {128, 127, 127}}, {{-360, 100, 50}, {255, 0, -509}}, // wrapped only once, and never
-                                                                               // clamped
+                                                                              // clamped
     };
     for (const auto& [hsl, expected] : rows) {
         EXPECT_EQ(GlobalData::hslToRGB(hsl), expected) << testing::PrintToString(hsl);

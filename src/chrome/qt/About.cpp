@@ -2,8 +2,8 @@
 
 #include "chrome/LinkAddress.h"
 #include "chrome/ProductInfo.h"
-#include "chrome/qt/ToQString.h"
 #include "chrome/qt/WebLabel.h"
+#include "foundation/qt/ToQString.h"
 
 #include <QApplication>
 #include <QFontInfo>

@@ -1,9 +1,8 @@
 #include "chrome/qt/MainTabView.h"
 
-#include "chrome/qt/MainTabListAccessible.h"
 #include "foundation/NotificationCenter.h"
+#include "model/qt/ColorBridge.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -12,17 +11,8 @@
 #include <cmath>
 
 namespace tessaly {
-namespace {
-
-QColor toQColor(const RGBAComponents& color) {
-    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
-                            static_cast<float>(color.blue), static_cast<float>(color.alpha));
-}
-
-} // namespace
-
 MainTabView::MainTabView(const QStringList& titles, QWidget* parent) : QWidget{parent} {
-    MainTabListAccessible::install();
+    installAccessibleItems();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -53,7 +43,7 @@ void MainTabView::windowDidResize() {
 void MainTabView::setSelectIndex(std::int64_t index) {
     selectIndex_ = index;
     update();
-    announceToAssistiveTools();
+    announceCurrentAccessibleItem(*this, *this);
     sendMessage(selectIndex_);
 }
 
@@ -187,17 +177,17 @@ QRectF MainTabView::fromLayout(const Rect& rectangle) const {
     return {rectangle.x, height() - rectangle.maxY(), rectangle.width, rectangle.height};
 }
 
-void MainTabView::announceToAssistiveTools() {
-    if (selectIndex_ < 0 || selectIndex_ >= tabs_.size()) {
-        return;
-    }
-    for (const QAccessible::Event change : {QAccessible::Selection, QAccessible::Focus}) {
-        if (change == QAccessible::Selection || hasFocus()) {
-            QAccessibleEvent event{this, change};
-            event.setChild(static_cast<int>(selectIndex_));
-            QAccessible::updateAccessibility(&event);
-        }
-    }
+QString MainTabView::accessibleItemName(int item) const {
+    return tabs_[item];
+}
+
+QRect MainTabView::accessibleItemRect(int item) const {
+    return tabRectangle(item).toAlignedRect();
+}
+
+int MainTabView::currentAccessibleItem() const {
+    const bool known = selectIndex_ >= 0 && selectIndex_ < tabs_.size();
+    return known ? static_cast<int>(selectIndex_) : -1;
 }
 
 } // namespace tessaly

@@ -2,6 +2,7 @@
 
 #include "chrome/TabBarColors.h"
 #include "chrome/TabBarLayout.h"
+#include "foundation/qt/AccessibleItems.h"
 
 #include <QFont>
 #include <QStringList>
@@ -15,7 +16,7 @@ namespace tessaly {
 /// A strip of text tabs. The tab that a click, a key or the program selects is announced by the notification
 /// "SelectIndexChanged" with this object as its poster and the index, a std::int64_t, under "Index". The
 /// strip knows nothing of the pages that belong to its tabs.
-class MainTabView : public QWidget {
+class MainTabView : public QWidget, public AccessibleItems {
     Q_OBJECT
 
   public:
@@ -56,6 +57,14 @@ class MainTabView : public QWidget {
     QSize minimumSizeHint() const override { return sizeHint(); }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    QAccessible::Role accessibleListRole() const override { return QAccessible::PageTabList; }
+    QAccessible::Role accessibleItemRole() const override { return QAccessible::PageTab; }
+    int accessibleItemCount() const override { return static_cast<int>(tabs_.size()); }
+    QString accessibleItemName(int item) const override;
+    QRect accessibleItemRect(int item) const override;
+    int currentAccessibleItem() const override;
+    void pressAccessibleItem(int item) override { pressTab(item); }
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -67,7 +76,6 @@ class MainTabView : public QWidget {
     void drawTab(QPainter& painter, std::size_t index, const DrawnTabs& tabs) const;
     void drawSeparator(QPainter& painter, const TabSeparator& separator) const;
     void drawFocusFrame(QPainter& painter, const DrawnTabs& tabs) const;
-    void announceToAssistiveTools();
 
     QStringList tabs_;
     std::vector<QFont> textFonts_; // one per tab, as it was measured

@@ -2,8 +2,8 @@
 
 #include "chrome/RelatedTools.h"
 #include "chrome/qt/MainTabView.h"
-#include "chrome/qt/ToQString.h"
 #include "chrome/qt/WebAddressOpener.h"
+#include "foundation/qt/ToQString.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,10 +1,10 @@
 #include "chrome/qt/WebLabel.h"
 
 #include "chrome/LinkAddress.h"
-#include "chrome/qt/ToQString.h"
 #include "chrome/qt/WebAddressOpener.h"
 #include "chrome/qt/WebLabelAccessible.h"
 #include "foundation/DiagnosticLog.h"
+#include "foundation/qt/ToQString.h"
 
 #include <QEvent>
 #include <QKeyEvent>

@@ -3,15 +3,17 @@
 #include <QAccessibleActionInterface>
 #include <QAccessibleInterface>
 #include <QPointer>
+#include <QWidget>
 
 namespace tessaly {
 
-class MainTabView;
+class AccessibleItems;
 
-/// One tab as assistive tools see it: a page tab named by its title, which can be pressed.
-class MainTabAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
+/// One item of a widget that paints its items itself: has a name and a place, and can be pressed.
+class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInterface {
   public:
-    MainTabAccessible(MainTabView* bar, int index);
+    /// `items` is the widget itself.
+    AccessibleItem(QWidget& widget, AccessibleItems& items, int index);
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -23,16 +25,17 @@ class MainTabAccessible : public QAccessibleInterface, public QAccessibleActionI
     QString text(QAccessible::Text kind) const override;
     void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
     QRect rect() const override;
-    QAccessible::Role role() const override { return QAccessible::PageTab; }
+    QAccessible::Role role() const override;
     QAccessible::State state() const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
 
-    QStringList actionNames() const override;
+    QStringList actionNames() const override { return {pressAction()}; }
     void doAction(const QString& name) override;
     QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
   private:
-    QPointer<MainTabView> bar_;
+    QPointer<QWidget> widget_;
+    AccessibleItems& items_; ///< as alive as the widget
     int index_;
 };
 

@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Starts PROGRAM on the current display, saves a picture of its window as FILE.png and ends it.
+#
+#   scripts/screenshot.sh PROGRAM FILE.png [COMMAND...]    COMMAND runs first, with the window's id as last argument
+set -euo pipefail
+program=$1
+picture=$2
+shift 2
+
+export XDG_DATA_HOME
+XDG_DATA_HOME=$(mktemp -d) # the presets of the user stay out of the picture
+"$program" &
+pid=$!
+trap 'kill "$pid" 2>/dev/null || true; wait "$pid" 2>/dev/null || true; rm -rf "$XDG_DATA_HOME"' EXIT
+
+window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$pid" --name Tessaly | head -n 1)
+sleep 1
+if [ $# -gt 0 ]; then
+    "$@" "$window"
+fi
+import -window "$window" "$picture"
+echo "Saved $picture"

@@ -1,0 +1,126 @@
+#include "canvas/CanvasGeometry.h"
+
+#include "foundation/DiagnosticLog.h"
+#include "foundation/NumberText.h"
+#include "foundation/Truncation.h"
+#include "model/Orientation.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+constexpr double markerInset = 10;   // from a marker's corner to its centre
+constexpr double markerOverlap = 15; // corner of the markers that run 5 points inside an edge of the strip
+
+} // namespace
+
+CanvasGeometry::CanvasGeometry(Size viewSize)
+    : viewSize_{viewSize},
+      extentX_{truncated(backgroundSize().width)},
+      extentY_{truncated(backgroundSize().height)},
+      extentDiagonal_{truncated(std::hypot(backgroundSize().width, backgroundSize().height))} {}
+
+Rect CanvasGeometry::strip() const {
+    return {frameWidth, frameWidth, viewSize_.width - 2 * frameWidth, viewSize_.height - 2 * frameWidth};
+}
+
+Rect CanvasGeometry::markerRect(std::int64_t orientation, double position) const {
+    const auto width = static_cast<double>(extentX_);
+    const auto height = static_cast<double>(extentY_);
+    Point corner;
+    switch (orientation) {
+    case orientation::leftToRight:
+        corner = {width * position + markerInset, markerOverlap};
+        break;
+    case orientation::bottomToTop:
+        corner = {markerOverlap, height * position + markerInset};
+        break;
+    case orientation::diagonalToTopRight:
+        corner = {width * position + markerInset, height * position + markerInset};
+        break;
+    case orientation::radial:
+        corner = {width * position * 0.5 + static_cast<double>(extentX_ / 2) + markerInset,
+                  static_cast<double>(extentY_ / 2)};
+        break;
+    default:
+        corner = {width - width * position + markerInset, height * position + markerInset};
+    }
+    return {corner.x, corner.y, colorMarkerSize.width, colorMarkerSize.height};
+}
+
+std::optional<GuideLine> CanvasGeometry::guideLine(std::int64_t orientation) const {
+    const auto [width, height] = backgroundSize();
+    const double left = frameWidth;
+    const double bottom = frameWidth;
+    const double right = width + frameWidth;
+    const double top = height + frameWidth;
+    switch (orientation) {
+    case orientation::diagonalToTopRight:
+        return GuideLine{{{left, bottom}, {right, top}}, {{left + 1, bottom}, {right, top - 1}}};
+    case orientation::diagonalToTopLeft:
+        return GuideLine{{{left, top}, {right, bottom}}, {{left, top - 1}, {right - 1, bottom}}};
+    case orientation::radial: {
+        const Point middle{right / 2, top / 2};
+        return GuideLine{{middle, {right, middle.y}}, {{middle.x, middle.y + 1}, {right, middle.y + 1}}};
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+Point CanvasGeometry::radialCenter() const {
+    const auto [width, height] = backgroundSize();
+    return {(width - frameWidth) * 0.5 + frameWidth, (height - frameWidth) * 0.5 + frameWidth};
+}
+
+CanvasGeometry::TrackOffset CanvasGeometry::offsetOnDiagonal(Point start, double slope, double startHeight,
+                                                             Point point) const {
+    const double x = (frameWidth * slope + (point.x * slope + (point.y - startHeight))) / (2 * slope);
+    if (slope < 0) {
+        DiagnosticLog::write("x: " + fixedText(x, 6) +
+                             " y: " + fixedText((point.x - x) * slope + point.y, 6));
+    }
+    const double y = (point.x - x) * slope + point.y - frameWidth;
+    return {std::sqrt((x - start.x) * (x - start.x) + y * y), extentDiagonal_};
+}
+
+CanvasGeometry::TrackOffset CanvasGeometry::offsetOnTrack(std::int64_t orientation, Point point) const {
+    const auto [width, height] = backgroundSize();
+    switch (orientation) {
+    case orientation::leftToRight:
+    case orientation::radial:
+        return {point.x - markerInset - colorMarkerSize.width * 0.5, extentX_};
+    case orientation::bottomToTop:
+        return {point.y - markerInset - colorMarkerSize.height * 0.5, extentY_};
+    case orientation::diagonalToTopRight:
+        return offsetOnDiagonal({frameWidth, frameWidth}, diagonalBottomGradient(), frameWidth, point);
+    default:
+        return offsetOnDiagonal({width + frameWidth, frameWidth}, diagonalTopGradient(), height + frameWidth,
+                                point);
+    }
+}
+
+bool CanvasGeometry::dragsHorizontally(std::int64_t orientation) {
+    return orientation == orientation::leftToRight || orientation == orientation::radial;
+}
+
+std::int64_t CanvasGeometry::dragLimit(std::int64_t orientation) const {
+    return dragsHorizontally(orientation) ? extentX_ : extentY_;
+}
+
+double CanvasGeometry::dragOffset(std::int64_t orientation, double position) const {
+    const double way = static_cast<double>(dragLimit(orientation)) * position;
+    return orientation == orientation::radial ? way * 0.5 + static_cast<double>(extentX_ / 2) : way;
+}
+
+double CanvasGeometry::positionAtDragOffset(std::int64_t orientation, std::int64_t offset) const {
+    const std::int64_t limit = dragLimit(orientation);
+    if (orientation == orientation::radial) {
+        return std::max(0.0, static_cast<double>(offset - limit / 2) / static_cast<double>(limit / 2));
+    }
+    return static_cast<double>(offset) / static_cast<double>(limit);
+}
+
+} // namespace tessaly

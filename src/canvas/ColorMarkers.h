@@ -1,0 +1,44 @@
+#pragma once
+
+#include "model/GlobalData.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace tessaly {
+
+/// The stops as the editor changes them, and which of them is selected. The stops themselves are in
+/// `GlobalData`.
+class ColorMarkers {
+  public:
+    /// Modes of `addColorMarker`.
+    static constexpr std::int64_t append = -1;
+    static constexpr std::int64_t insertSorted = -2;
+
+    /// Adds a stop and selects it: at the end, or before the first stop whose position is greater. Any other
+    /// `index` changes nothing. Neither redraws nor notifies.
+    void addColorMarker(const Color& color, double position, double opacity, std::int64_t index);
+
+    /// Removes the selected stop and selects the one before it. Deliberately leaves its opacity behind, so
+    /// that it passes to the next stop: gradients that people have edited this way keep their look.
+    void deleteColorMarker();
+
+    /// Gives the selected stop another position and its sorted place; it stays selected.
+    void moveSelected(double position);
+
+    /// The selection may point past the stops (after a deletion, or when a preset with fewer stops was
+    /// applied).
+    std::int64_t selectedColorMarkerIndex() const { return selectedColorMarkerIndex_; }
+    void select(std::int64_t index) { selectedColorMarkerIndex_ = index; }
+    std::optional<ColorStop> selectedStop() const;
+
+    /// Change the selected stop in place, without sorting; nothing happens when there is no such stop.
+    void setSelectedColor(const Color& color);
+    void setSelectedPosition(double position);
+    void setSelectedOpacity(double opacity);
+
+  private:
+    std::int64_t selectedColorMarkerIndex_ = 0;
+};
+
+} // namespace tessaly

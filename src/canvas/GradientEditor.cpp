@@ -1,0 +1,54 @@
+#include "canvas/GradientEditor.h"
+
+#include "canvas/CanvasNotifications.h"
+#include "canvas/CanvasScene.h"
+#include "canvas/CanvasSurface.h"
+
+namespace tessaly {
+
+GradientEditor::GradientEditor(Size viewSize, CanvasSurface& surface, const StopControlSet& controls)
+    : geometry_{viewSize},
+      surface_{surface},
+      well_{controls.selectedColor},
+      interaction_{geometry_, hitAreas_, markers_, [this] { repaint(); }},
+      controls_{controls, markers_, [this] { repaint(); }, [this] { announce(); }} {}
+
+void GradientEditor::awakeFromNib() {
+    controls_.updateOrientationTypeComboBox();
+    controls_.updateColorFormatTypeComboBox();
+    GlobalData::sharedData().setOrientationType(orientation::leftToRight);
+    markers_.addColorMarker(Color::black(), 0.0, 1.0, ColorMarkers::append);
+    markers_.addColorMarker(Color::white(), 1.0, 1.0, ColorMarkers::append);
+    repaint();
+    colorChanged_ = NotificationCenter::defaultCenter().addObserver(
+        canvasNotification::colorChanged, well_,
+        [this](const Notification& notification) { controls_.colorChangedNotification(notification); });
+    controls_.updateRGBFromColorBox();
+    controls_.updateHSLFromColorBox();
+    controls_.setFormReady(true); // last: what was written above is no user input
+}
+
+void GradientEditor::createBackground() {
+    const CanvasScene scene{geometry_, GlobalData::sharedData(), markers_.selectedColorMarkerIndex()};
+    hitAreas_.rebuild(scene);
+    surface_.paint(scene);
+    controls_.updateEnabledState();
+    controls_.showSelectedStop();
+    announce();
+}
+
+void GradientEditor::repaint() {
+    createBackground();
+    surface_.setNeedsDisplay();
+}
+
+void GradientEditor::gradientReplaced() {
+    controls_.updateOrientationTypeComboBox();
+    repaint();
+}
+
+void GradientEditor::announce() const {
+    NotificationCenter::defaultCenter().post({canvasNotification::needToUpdateWebCode, this, {}});
+}
+
+} // namespace tessaly

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "canvas/CanvasGeometry.h"
+#include "canvas/ColorMarkers.h"
+#include "canvas/MarkerHitAreas.h"
+#include "canvas/MarkerInteraction.h"
+#include "canvas/StopControls.h"
+#include "foundation/NotificationCenter.h"
+
+namespace tessaly {
+
+class CanvasSurface;
+
+/// The canvas without its toolkit: puts geometry, markers, mouse rules and controls together. It is the
+/// object of the "NeedToUpdateWebCode" notifications.
+class GradientEditor {
+  public:
+    /// Surface and controls must outlive the editor. The view keeps the size it has here.
+    GradientEditor(Size viewSize, CanvasSurface& surface, const StopControlSet& controls);
+    GradientEditor(const GradientEditor&) = delete;
+    GradientEditor& operator=(const GradientEditor&) = delete;
+
+    /// Sets the editor up with the default gradient; once, when everything is wired.
+    void awakeFromNib();
+
+    /// Repaints the picture, refreshes the controls of the selected stop and announces the change. From an
+    /// idle form the refreshed colour well makes it run once more, nested.
+    void createBackground();
+
+    /// The same, and asks that the picture be shown.
+    void repaint();
+
+    /// The gradient was replaced as a whole.
+    void gradientReplaced();
+
+    const CanvasGeometry& geometry() const { return geometry_; }
+    const MarkerHitAreas& hitAreas() const { return hitAreas_; }
+    ColorMarkers& markers() { return markers_; }
+    const ColorMarkers& markers() const { return markers_; }
+    MarkerInteraction& interaction() { return interaction_; }
+    StopControls& controls() { return controls_; }
+
+  private:
+    void announce() const;
+
+    CanvasGeometry geometry_;
+    CanvasSurface& surface_;
+    const ColorWell* well_;
+    MarkerHitAreas hitAreas_;
+    ColorMarkers markers_;
+    MarkerInteraction interaction_;
+    StopControls controls_;
+    NotificationCenter::Observation colorChanged_;
+};
+
+} // namespace tessaly

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "model/Color.h"
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace tessaly {
+
+/// A stop as it is drawn: its colour's alpha is the opacity.
+struct GradientStop {
+    double position = 0.0; ///< 0.0 ... 1.0
+    Color color;
+
+    bool operator==(const GradientStop&) const = default;
+};
+
+/// The colours along a gradient, resolved as a browser resolves them: stops in the given order, one whose
+/// position lies below an earlier one's drawn at that earlier one, equal positions a hard edge, extended at
+/// both ends, interpolated premultiplied. A colour without RGB form is transparent.
+class GradientRamp {
+  public:
+    /// The gradient lies over `backdrop`; a transparent one leaves it as it is. There must be at least one
+    /// stop.
+    explicit GradientRamp(std::span<const GradientStop> stops,
+                          const RGBAComponents& backdrop = {0.0, 0.0, 0.0, 0.0});
+
+    /// The colour at `t` as 0xAARRGGBB, premultiplied, every channel rounded.
+    std::uint32_t pixelAt(double t) const { return segmentAt(t).pixelAt(t); }
+
+    /// A stretch of the ramp between two stops or beyond one.
+    struct Segment {
+        double start;
+        double end;                   ///< the first place behind the segment
+        std::array<double, 4> color;  ///< at the start, alpha first, 0.5 ... 255.5: rounded when cut
+        std::array<double, 4> change; ///< per unit of position
+
+        std::uint32_t pixelAt(double t) const {
+            const double way = t - start;
+            std::uint32_t pixel = 0;
+            for (std::size_t channel = 0; channel < color.size(); ++channel) {
+                pixel = pixel << 8U | static_cast<std::uint32_t>(color[channel] + way * change[channel]);
+            }
+            return pixel;
+        }
+    };
+
+    /// The segments in order, without a gap from the smallest position to the largest.
+    std::span<const Segment> segments() const { return segments_; }
+
+  private:
+    const Segment& segmentAt(double t) const;
+
+    std::vector<Segment> segments_;
+};
+
+} // namespace tessaly

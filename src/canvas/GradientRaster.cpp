@@ -1,0 +1,117 @@
+#include "canvas/GradientRaster.h"
+
+#include "model/Orientation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+// Indexes of the pixels whose middles lie between two edges, given in pixels.
+struct PixelSpan {
+    int begin;
+    int end;
+
+    PixelSpan(double from, double to, int size)
+        : begin{std::clamp(static_cast<int>(std::ceil(from - 0.5)), 0, size)},
+          end{std::clamp(static_cast<int>(std::ceil(to - 0.5)), begin, size)} {}
+
+    int size() const { return end - begin; }
+};
+
+// A row at a multiple of 45 degrees is the row above it, moved by `shift` pixels: one ramp serves all of
+// them.
+void fillShifted(const PixelBuffer& buffer, PixelSpan columns, PixelSpan rows, int shift,
+                 const GradientRamp& ramp, auto positionAt) {
+    const int travel = std::abs(shift) * std::max(rows.size() - 1, 0);
+    const int first = columns.begin - (shift < 0 ? travel : 0);
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(columns.size() + travel));
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        pixels[i] = ramp.pixelAt(positionAt(first + static_cast<int>(i), rows.begin));
+    }
+    for (int row = rows.begin; row < rows.end; ++row) {
+        const int from = columns.begin + shift * (row - rows.begin) - first;
+        std::copy_n(pixels.begin() + from, columns.size(), buffer.row(row).begin() + columns.begin);
+    }
+}
+
+// One side of a row of a radial gradient, from the middle outwards, so that the position only grows.
+template <typename Pixel>
+void fillOutwards(Pixel pixel, int count, double x, double step, double y, const GradientRamp& ramp) {
+    const double ySquared = y * y;
+    int i = 0;
+    for (const GradientRamp::Segment& segment : ramp.segments()) {
+        for (; i < count; ++i, ++pixel) {
+            const double here = x + i * step;
+            const double t = std::sqrt(here * here + ySquared);
+            if (t >= segment.end) {
+                break;
+            }
+            *pixel = segment.pixelAt(t);
+        }
+    }
+}
+
+} // namespace
+
+GradientDirection gradientDirection(std::int64_t orientation) {
+    switch (orientation) {
+    case orientation::bottomToTop:
+        return {0, 1};
+    case orientation::diagonalToTopRight:
+        return {1, 1};
+    case orientation::diagonalToTopLeft:
+        return {-1, 1};
+    default:
+        return {1, 0};
+    }
+}
+
+void fillLinear(const PixelBuffer& buffer, const Rect& box, GradientDirection direction,
+                const GradientRamp& ramp) {
+    const PixelSpan columns{box.x * buffer.scale, box.maxX() * buffer.scale, buffer.width};
+    const PixelSpan rows{(buffer.top - box.maxY()) * buffer.scale, (buffer.top - box.y) * buffer.scale,
+                         buffer.height};
+    const double length = std::abs(direction.x) * box.width + std::abs(direction.y) * box.height;
+    const auto positionAt = [&](int column, int row) {
+        const Point center = box.center();
+        return (direction.x * (buffer.x(column) - center.x) + direction.y * (buffer.y(row) - center.y)) /
+                   length +
+               0.5;
+    };
+    if (direction.x != 0) {
+        // Rows count downwards: to go up with the gradient means to come from a place further back.
+        fillShifted(buffer, columns, rows, -direction.y / direction.x, ramp, positionAt);
+        return;
+    }
+    for (int row = rows.begin; row < rows.end; ++row) {
+        std::fill_n(buffer.row(row).begin() + columns.begin, columns.size(),
+                    ramp.pixelAt(positionAt(0, row)));
+    }
+}
+
+void fillRadial(const PixelBuffer& buffer, Point center, double radius, const GradientRamp& ramp) {
+    const double step = 1 / (buffer.scale * radius);
+    const int middle = PixelSpan{center.x * buffer.scale, center.x * buffer.scale, buffer.width}.begin;
+    // Where the middle lies between two rows or on one, the lower half repeats the upper.
+    const double rowSum = 2 * (buffer.top - center.y) * buffer.scale - 1;
+    const bool symmetric = rowSum == std::floor(rowSum);
+    for (int row = 0; row < buffer.height; ++row) {
+        const auto pixels = buffer.row(row);
+        const int twin = symmetric ? static_cast<int>(rowSum) - row : row;
+        if (twin >= 0 && twin < row) {
+            std::ranges::copy(buffer.row(twin), pixels.begin());
+            continue;
+        }
+        const double y = (buffer.y(row) - center.y) / radius;
+        fillOutwards(pixels.begin() + middle, buffer.width - middle, (buffer.x(middle) - center.x) / radius,
+                     step, y, ramp);
+        fillOutwards(std::make_reverse_iterator(pixels.begin() + middle), middle,
+                     (center.x - buffer.x(middle - 1)) / radius, step, y, ramp);
+    }
+}
+
+} // namespace tessaly

@@ -1,0 +1,130 @@
+#include "canvas/MarkerInteraction.h"
+
+#include "canvas/GradientRaster.h"
+#include "foundation/DiagnosticLog.h"
+#include "foundation/NumberText.h"
+#include "foundation/Truncation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+namespace tessaly {
+
+MarkerInteraction::MarkerInteraction(const CanvasGeometry& geometry, const MarkerHitAreas& hitAreas,
+                                     ColorMarkers& markers, std::function<void()> repaint)
+    : geometry_{geometry}, hitAreas_{hitAreas}, markers_{markers}, repaint_{std::move(repaint)} {}
+
+std::int64_t MarkerInteraction::orientation() {
+    return GlobalData::sharedData().orientationType();
+}
+
+void MarkerInteraction::mouseDown(Point point, int clickCount) {
+    if (clickCount == 2 && !addAt(point)) {
+        return;
+    }
+    if (const auto marker = hitAreas_.markerAt(point)) {
+        grab(*marker, point);
+    }
+}
+
+bool MarkerInteraction::addAt(Point point) {
+    DiagnosticLog::write("double Clicked!");
+    const bool radial = orientation() == orientation::radial;
+    if (radial) {
+        // The track starts in the middle. The bound stays for every later orientation: deliberate, markers
+        // that were placed on a disc keep out of the half that the disc does not use.
+        minColorMarkerPos_ = geometry_.maxColorMarkerPosX() / 2;
+    }
+    const auto [offset, limit] = geometry_.offsetOnTrack(orientation(), point);
+    const std::int64_t place = truncated(offset);
+    if (place < minColorMarkerPos_ || place > limit) {
+        return false;
+    }
+    const double way = static_cast<double>(radial ? place - minColorMarkerPos_ : place);
+    markers_.addColorMarker(Color::black(), way / static_cast<double>(limit - minColorMarkerPos_), 1.0,
+                            ColorMarkers::insertSorted);
+    repaint_();
+    return true;
+}
+
+void MarkerInteraction::grab(std::int64_t marker, Point point) {
+    markers_.select(marker);
+    startDragCursorPos_ = point;
+    const bool across = CanvasGeometry::dragsHorizontally(orientation());
+    std::int64_t& start = across ? startDragImagePosX_ : startDragImagePosY_;
+    start = truncated(
+        geometry_.dragOffset(orientation(), markers_.selectedStop().value_or(ColorStop{}).position));
+    DiagnosticLog::write("Clicked!");
+    DiagnosticLog::write((across ? "startDragImagePosX: " : "startDragImagePosY: ") + std::to_string(start));
+    startDrag_ = true;
+    repaint_();
+}
+
+void MarkerInteraction::mouseDragged(Point point) {
+    if (!startDrag_) {
+        return;
+    }
+    if (CanvasGeometry::dragsHorizontally(orientation())) {
+        moveSelectedTo(point.x - startDragCursorPos_.x + static_cast<double>(startDragImagePosX_));
+    } else {
+        // On the diagonals too: their markers follow the mouse's way up and down alone.
+        moveSelectedTo(point.y - startDragCursorPos_.y + static_cast<double>(startDragImagePosY_));
+    }
+}
+
+void MarkerInteraction::moveSelectedTo(double offset) {
+    const auto stop = markers_.selectedStop();
+    if (!stop) {
+        return;
+    }
+    const std::int64_t place =
+        std::min(std::max(truncated(offset), minColorMarkerPos_), geometry_.dragLimit(orientation()));
+    const double position = geometry_.positionAtDragOffset(orientation(), place);
+    if (orientation() == orientation::radial) {
+        DiagnosticLog::write("newPos: " + fixedText(position, 6));
+    }
+    markerDragOrientation_ = position > stop->position ? 1 : 0;
+    markers_.moveSelected(position);
+    repaint_();
+}
+
+bool MarkerInteraction::rightMouseDown(Point point) {
+    const auto marker = hitAreas_.markerAt(point);
+    if (marker) {
+        markers_.select(*marker);
+    }
+    return marker.has_value();
+}
+
+void MarkerInteraction::deleteColorMarker() {
+    if (markers_.selectedStop()) {
+        markers_.deleteColorMarker();
+        repaint_();
+    }
+}
+
+bool MarkerInteraction::moveSelected(int right, int up, std::int64_t points) {
+    const GradientDirection track = gradientDirection(orientation());
+    const int direction = right * track.x + up * track.y;
+    const auto stop = markers_.selectedStop();
+    if (direction == 0 || !stop) {
+        return false;
+    }
+    const double place = std::round(geometry_.dragOffset(orientation(), stop->position));
+    moveSelectedTo(place + static_cast<double>(direction * points));
+    return true;
+}
+
+bool MarkerInteraction::selectNeighbour(std::int64_t places) {
+    const std::int64_t wanted = markers_.selectedColorMarkerIndex() + places;
+    if (!GlobalData::sharedData().stopAt(wanted)) {
+        return false;
+    }
+    markers_.select(wanted);
+    repaint_();
+    return true;
+}
+
+} // namespace tessaly

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "canvas/CanvasGeometry.h"
+#include "canvas/ColorMarkers.h"
+#include "canvas/MarkerHitAreas.h"
+
+#include <cstdint>
+#include <functional>
+
+namespace tessaly {
+
+/// What mouse and keyboard do to the markers. Points are those of the canvas, y upwards.
+class MarkerInteraction {
+  public:
+    /// `repaint` repaints the canvas and announces the change; it brings `hitAreas` up to date. All must
+    /// outlive the object.
+    MarkerInteraction(const CanvasGeometry& geometry, const MarkerHitAreas& hitAreas, ColorMarkers& markers,
+                      std::function<void()> repaint);
+
+    void mouseDown(Point point, int clickCount);
+    void mouseDragged(Point point);
+    void mouseUp() { startDrag_ = false; }
+
+    /// Selects the marker at the point, without repainting. True when there is one and its menu is to be
+    /// shown.
+    bool rightMouseDown(Point point);
+
+    /// The command of that menu.
+    void deleteColorMarker();
+
+    /// Moves the selected marker by points along its track, in the direction of a key: {1, 0} is right, {0,
+    /// 1} up. False when its track does not run that way.
+    bool moveSelected(int right, int up, std::int64_t points);
+
+    /// Selects the stop so many places on. False when there is none.
+    bool selectNeighbour(std::int64_t places);
+
+    bool startDrag() const { return startDrag_; }
+    std::int64_t minColorMarkerPos() const { return minColorMarkerPos_; }
+    std::int64_t markerDragOrientation() const { return markerDragOrientation_; }
+
+  private:
+    bool addAt(Point point);
+    void grab(std::int64_t marker, Point point);
+    void moveSelectedTo(double offset);
+    static std::int64_t orientation();
+
+    const CanvasGeometry& geometry_;
+    const MarkerHitAreas& hitAreas_;
+    ColorMarkers& markers_;
+    std::function<void()> repaint_;
+
+    bool startDrag_ = false;
+    Point startDragCursorPos_;
+    std::int64_t startDragImagePosX_ = 0; ///< points along the track when the marker was grabbed
+    std::int64_t startDragImagePosY_ = 0;
+    std::int64_t minColorMarkerPos_ = 0;     ///< deliberately never lowered again: see addAt
+    std::int64_t markerDragOrientation_ = 0; ///< 1 when the last drag step went to a greater position
+};
+
+} // namespace tessaly

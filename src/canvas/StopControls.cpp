@@ -1,0 +1,214 @@
+#include "canvas/StopControls.h"
+
+#include "canvas/ComboBoxItems.h"
+#include "foundation/DiagnosticLog.h"
+#include "foundation/NumberText.h"
+#include "foundation/Truncation.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessaly {
+namespace {
+
+bool isColorFormatItem(std::int64_t index) {
+    return index >= 0 && index < std::ssize(colorFormatItems);
+}
+
+} // namespace
+
+StopControls::StopControls(const StopControlSet& controls, ColorMarkers& markers,
+                           std::function<void()> repaint, std::function<void()> announce)
+    : controls_{controls}, markers_{markers}, repaint_{std::move(repaint)}, announce_{std::move(announce)} {}
+
+const NumberFormatter& StopControls::formatter(StopValue value) const {
+    if (traitsOf(value).decimal) {
+        return decimalFormatter_;
+    }
+    return integerFormatter_;
+}
+
+void StopControls::handle(const std::function<void()>& change) {
+    if (!formReady_) {
+        return;
+    }
+    formReady_ = false;
+    change();
+    repaint_();
+    formReady_ = true;
+}
+
+void StopControls::updateTextFieldValue(StopValue value) {
+    handle([&] {
+        const auto& [field, stepper] = pair(value);
+        double number = formatter(value).value(field->text());
+        if (!traitsOf(value).decimal) {
+            number = static_cast<double>(static_cast<float>(number));
+        }
+        stepper->setValue(number);
+        const bool inRange = number >= stepper->minimum() && number <= stepper->maximum();
+        field->setText(formatter(value).text(inRange ? number : stepper->value()));
+        apply(value);
+    });
+}
+
+void StopControls::updateStepperValue(StopValue value) {
+    handle([&] {
+        pair(value).field->setText(formatter(value).text(pair(value).stepper->value()));
+        apply(value);
+    });
+}
+
+void StopControls::apply(StopValue value) {
+    switch (value) {
+    case StopValue::Red:
+    case StopValue::Green:
+    case StopValue::Blue:
+        updateColorBoxFromRGB();
+        updateHSLFromColorBox();
+        break;
+    case StopValue::Hue:
+    case StopValue::Saturation:
+    case StopValue::Lightness:
+        updateColorBoxFromHSL();
+        break;
+    case StopValue::Position:
+        markers_.setSelectedPosition(pair(value).stepper->value());
+        break;
+    case StopValue::Opacity:
+        markers_.setSelectedOpacity(pair(value).stepper->value());
+        break;
+    }
+}
+
+void StopControls::updateOrientationComboBoxValue() {
+    handle([&] {
+        const std::int64_t item = controls_.selectedOrientationComboBox->indexOfSelectedItem();
+        if (item >= 0 && item < std::ssize(orientationItems)) {
+            GlobalData::sharedData().setOrientationType(
+                orientationItems[static_cast<std::size_t>(item)].code);
+        }
+    });
+}
+
+void StopControls::updateColorFormatComboBoxValue() {
+    if (!formReady_) {
+        return;
+    }
+    handle([&] {
+        const std::int64_t item = controls_.selectedColorFormatComboBox->indexOfSelectedItem();
+        if (isColorFormatItem(item)) {
+            GlobalData::sharedData().setColorFormatType(item);
+        }
+        updateEnabledState();
+    });
+    announce_(); // once more than the repaint did: deliberate, who listens hears a change of notation twice
+}
+
+void StopControls::colorChangedNotification(const Notification& /*notification*/) {
+    handle([&] {
+        DiagnosticLog::write("colorChangedNotification");
+        markers_.setSelectedColor(controls_.selectedColor->backgroundColor());
+        updateRGBFromColorBox();
+        updateHSLFromColorBox();
+    });
+}
+
+void StopControls::updateOrientationTypeComboBox() {
+    const std::int64_t code = GlobalData::sharedData().orientationType();
+    const auto item = std::find_if(orientationItems.begin(), orientationItems.end(),
+                                   [&](const OrientationItem& candidate) { return candidate.code == code; });
+    if (item != orientationItems.end()) {
+        controls_.selectedOrientationComboBox->selectItemAtIndex(item - orientationItems.begin());
+    }
+}
+
+void StopControls::updateColorFormatTypeComboBox() {
+    const std::int64_t code = GlobalData::sharedData().colorFormatType();
+    if (isColorFormatItem(code)) {
+        controls_.selectedColorFormatComboBox->selectItemAtIndex(code);
+    }
+    updateEnabledState();
+}
+
+std::int64_t StopControls::stepperInteger(StopValue value) const {
+    return truncated(pair(value).stepper->value());
+}
+
+void StopControls::setNumber(StopValue value, double number) {
+    // The field may show what its stepper cannot hold: a full channel reads 256 beside 255.
+    pair(value).stepper->setValue(number);
+    pair(value).field->setText(formatter(value).text(number));
+}
+
+void StopControls::setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue) {
+    controls_.selectedColor->setBackgroundColor(generateSelectedColor(red, green, blue));
+    markers_.setSelectedColor(controls_.selectedColor->backgroundColor());
+}
+
+void StopControls::updateColorBoxFromRGB() {
+    setColorBox(stepperInteger(StopValue::Red), stepperInteger(StopValue::Green),
+                stepperInteger(StopValue::Blue));
+}
+
+void StopControls::updateColorBoxFromHSL() {
+    const RGBValue rgb = GlobalData::hslToRGB({static_cast<double>(stepperInteger(StopValue::Hue)),
+                                               static_cast<double>(stepperInteger(StopValue::Saturation)),
+                                               static_cast<double>(stepperInteger(StopValue::Lightness))});
+    setNumber(StopValue::Red, rgb.red);
+    setNumber(StopValue::Green, rgb.green);
+    setNumber(StopValue::Blue, rgb.blue);
+    setColorBox(rgb.red, rgb.green, rgb.blue);
+}
+
+void StopControls::updateRGBFromColorBox() {
+    const RGBValue rgb = GlobalData::rgbValueOfAnNSColor(controls_.selectedColor->backgroundColor());
+    setNumber(StopValue::Red, rgb.red);
+    setNumber(StopValue::Green, rgb.green);
+    setNumber(StopValue::Blue, rgb.blue);
+}
+
+void StopControls::updateHSLFromColorBox() {
+    const HSLValue hsl = GlobalData::hslValueOfAnNSColor(controls_.selectedColor->backgroundColor());
+    setNumber(StopValue::Hue, static_cast<double>(truncated(hsl.hue)));
+    setNumber(StopValue::Saturation, static_cast<double>(truncated(hsl.saturation)));
+    setNumber(StopValue::Lightness, static_cast<double>(truncated(hsl.lightness)));
+}
+
+Color StopControls::generateSelectedColor(std::int64_t red, std::int64_t green, std::int64_t blue) {
+    const auto component = [](std::int64_t channel) {
+        return static_cast<double>(static_cast<float>(channel) / 255.0F);
+    };
+    return Color::calibratedRGB(component(red), component(green), component(blue));
+}
+
+void StopControls::showSelectedStop() {
+    const auto stop = markers_.selectedStop();
+    if (!stop) {
+        return;
+    }
+    controls_.selectedColor->setBackgroundColor(stop->color);
+    formReady_ = false;
+    for (const auto& [value, number] :
+         {std::pair{StopValue::Position, stop->position}, std::pair{StopValue::Opacity, stop->opacity}}) {
+        pair(value).field->setText(fixedText(number, 3));
+        pair(value).stepper->setValue(number);
+    }
+    formReady_ = true; // even when it was down before: deliberate, a repaint leaves the form open for input
+}
+
+void StopControls::updateEnabledState() {
+    const bool anyStop = markers_.selectedStop().has_value();
+    const std::int64_t code = GlobalData::sharedData().colorFormatType();
+    if (isColorFormatItem(code)) {
+        opacityEditable_ = colorFormat::carriesOpacity(code);
+    }
+    for (const StopValueTraits& traits : stopValues) {
+        const bool enabled = anyStop && (traits.value != StopValue::Opacity || opacityEditable_);
+        pair(traits.value).field->setEnabled(enabled);
+        pair(traits.value).stepper->setEnabled(enabled);
+    }
+    controls_.selectedColor->setEnabled(anyStop);
+}
+
+} // namespace tessaly

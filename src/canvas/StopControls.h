@@ -1,0 +1,106 @@
+#pragma once
+
+#include "canvas/ColorMarkers.h"
+#include "canvas/ControlInterfaces.h"
+#include "canvas/OnlyDecimalValueFormatter.h"
+#include "canvas/OnlyIntegerValueFormatter.h"
+#include "canvas/StopValue.h"
+#include "foundation/Notification.h"
+
+#include <array>
+#include <functional>
+
+namespace tessaly {
+
+/// The controls beside the canvas. They outlive what works with them.
+struct StopControlSet {
+    struct Pair {
+        NumberField* field = nullptr;
+        Stepper* stepper = nullptr;
+    };
+
+    std::array<Pair, stopValues.size()> pairs; ///< by StopValue
+    ColorWell* selectedColor = nullptr;
+    ComboBox* selectedOrientationComboBox = nullptr;
+    ComboBox* selectedColorFormatComboBox = nullptr;
+};
+
+/// Carries what is typed, stepped or chosen into the gradient, and shows the selected stop. A handler does
+/// nothing while `formReady` is down, which it is while the controls are being written to.
+class StopControls {
+  public:
+    /// `repaint` repaints the canvas; `announce` tells that the code is to be written anew.
+    StopControls(const StopControlSet& controls, ColorMarkers& markers, std::function<void()> repaint,
+                 std::function<void()> announce);
+
+    /// The user changed a text field, or a stepper.
+    void updateTextFieldValue(StopValue value);
+    void updateStepperValue(StopValue value);
+
+    void updateRedTextFieldValue() { updateTextFieldValue(StopValue::Red); }
+    void updateGreenTextFieldValue() { updateTextFieldValue(StopValue::Green); }
+    void updateBlueTextFieldValue() { updateTextFieldValue(StopValue::Blue); }
+    void updateHueTextFieldValue() { updateTextFieldValue(StopValue::Hue); }
+    void updateSaturationTextFieldValue() { updateTextFieldValue(StopValue::Saturation); }
+    void updateLightnessTextFieldValue() { updateTextFieldValue(StopValue::Lightness); }
+    void updateSelectedPosTextFieldValue() { updateTextFieldValue(StopValue::Position); }
+    void updateSelectedOpacityTextFieldValue() { updateTextFieldValue(StopValue::Opacity); }
+    void updateRedStepperStepperValue() { updateStepperValue(StopValue::Red); }
+    void updateGreenStepperStepperValue() { updateStepperValue(StopValue::Green); }
+    void updateBlueStepperStepperValue() { updateStepperValue(StopValue::Blue); }
+    void updateHueStepperStepperValue() { updateStepperValue(StopValue::Hue); }
+    void updateSaturationStepperStepperValue() { updateStepperValue(StopValue::Saturation); }
+    void updateLightnessStepperStepperValue() { updateStepperValue(StopValue::Lightness); }
+    void updateSelectedPosStepperValue() { updateStepperValue(StopValue::Position); }
+    void updateSelectedOpacityStepperValue() { updateStepperValue(StopValue::Opacity); }
+
+    void updateOrientationComboBoxValue();
+    void updateColorFormatComboBoxValue();
+
+    /// The colour well has a new colour.
+    void colorChangedNotification(const Notification& notification);
+
+    /// Selects the item of the gradient's orientation, or nothing new for an unknown code.
+    void updateOrientationTypeComboBox();
+    /// Selects the item of the gradient's notation and enables the opacity accordingly.
+    void updateColorFormatTypeComboBox();
+
+    void updateColorBoxFromRGB();
+    void updateColorBoxFromHSL();
+    void updateRGBFromColorBox();
+    void updateHSLFromColorBox();
+
+    /// A colour from channels 0 ... 255, computed in single precision.
+    static Color generateSelectedColor(std::int64_t red, std::int64_t green, std::int64_t blue);
+
+    /// Shows colour, position and opacity of the selected stop, if there is one, and then raises `formReady`.
+    void showSelectedStop();
+    /// Enables what can be edited: nothing of a stop that is not there, opacity only where the notation
+    /// carries it.
+    void updateEnabledState();
+
+    bool formReady() const { return formReady_; }
+    void setFormReady(bool ready) { formReady_ = ready; }
+
+  private:
+    const StopControlSet::Pair& pair(StopValue value) const {
+        return controls_.pairs[static_cast<std::size_t>(value)];
+    }
+    const NumberFormatter& formatter(StopValue value) const;
+    void handle(const std::function<void()>& change);
+    void apply(StopValue value);
+    void setNumber(StopValue value, double number);
+    void setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue);
+    std::int64_t stepperInteger(StopValue value) const;
+
+    StopControlSet controls_;
+    ColorMarkers& markers_;
+    std::function<void()> repaint_;
+    std::function<void()> announce_;
+    OnlyIntegerValueFormatter integerFormatter_;
+    OnlyDecimalValueFormatter decimalFormatter_;
+    bool opacityEditable_ = true;
+    bool formReady_ = false;
+};
+
+} // namespace tessaly

@@ -1,0 +1,117 @@
+#include "canvas/qt/CanvasPicture.h"
+
+#include "canvas/GradientRaster.h"
+#include "model/qt/ColorBridge.h"
+
+#include <QPainter>
+#include <cmath>
+#include <span>
+
+namespace tessaly {
+namespace {
+
+// Rounded up, so that a fractional ratio leaves no edge uncovered.
+QImage transparentImage(Size size, double ratio) {
+    QImage image(static_cast<int>(std::ceil(size.width * ratio)),
+                 static_cast<int>(std::ceil(size.height * ratio)), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+// Stroked first, then filled: the fill covers the inner half of the line.
+void drawOval(QPainter& painter, const QRectF& rect, const QColor& fill) {
+    painter.setPen(QPen{Qt::black, 1});
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(rect);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawEllipse(rect);
+}
+
+} // namespace
+
+void CanvasPicture::setMedium(double devicePixelRatio, const QColor& controlColor) {
+    if (devicePixelRatio == devicePixelRatio_ && controlColor == controlColor_) {
+        return;
+    }
+    devicePixelRatio_ = devicePixelRatio;
+    controlColor_ = controlColor;
+    backgroundOffscreenRep_ = transparentImage(geometry_.viewSize(), devicePixelRatio);
+    createColorMarker();
+    if (scene_) {
+        paintScene();
+    }
+}
+
+void CanvasPicture::paint(const CanvasScene& scene) {
+    if (scene_ != scene) {
+        scene_ = scene;
+        paintScene();
+    }
+}
+
+void CanvasPicture::createColorMarker() {
+    QImage image = transparentImage(CanvasGeometry::colorMarkerSize, devicePixelRatio_);
+    QPainter painter{&image};
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawOval(painter, {1, 1, 18, 18}, Qt::white);
+    drawOval(painter, {6, 6, 8, 8}, QColor::fromRgbF(0.5F, 0.5F, 0.5F));
+    painter.end();
+    colorMarkerImage_ = QPixmap::fromImage(image);
+}
+
+void CanvasPicture::paintScene() {
+    backgroundOffscreenRep_.fill(controlColor_);
+    if (!scene_->stops.empty()) {
+        paintGradient();
+    }
+    QPainter painter{&backgroundOffscreenRep_};
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (scene_->guideLine) {
+        paintGuideLine(painter, *scene_->guideLine);
+    }
+    for (const CanvasScene::Marker& marker : scene_->markers) {
+        paintMarker(painter, marker);
+    }
+}
+
+void CanvasPicture::paintGradient() {
+    QImage& image = backgroundOffscreenRep_;
+    auto* const pixels = reinterpret_cast<std::uint32_t*>(image.bits());
+    const auto count = static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
+    const PixelBuffer buffer{std::span{pixels, count}, image.width(), image.height(), devicePixelRatio_,
+                             geometry_.viewSize().height};
+    const GradientRamp ramp{scene_->stops, *fromQColor(controlColor_).calibratedRGB()};
+    if (scene_->orientation == orientation::radial) {
+        fillRadial(buffer, geometry_.radialCenter(), geometry_.radialRadius(), ramp);
+    } else {
+        fillLinear(buffer, geometry_.strip(), gradientDirection(scene_->orientation), ramp);
+    }
+}
+
+void CanvasPicture::paintGuideLine(QPainter& painter, const GuideLine& guide) const {
+    QPen pen{Qt::black, 1};
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setDashPattern({CanvasGeometry::guideDash[0], CanvasGeometry::guideDash[1]});
+    painter.setPen(pen);
+    painter.drawLine(turned(guide.black.from), turned(guide.black.to));
+    pen.setColor(Qt::white);
+    painter.setPen(pen);
+    painter.drawLine(turned(guide.white.from), turned(guide.white.to));
+}
+
+void CanvasPicture::paintMarker(QPainter& painter, const CanvasScene::Marker& marker) const {
+    painter.drawPixmap(turned(marker.frame).topLeft(), colorMarkerImage_);
+    drawOval(painter, turned(marker.dot), toQColor(marker.color));
+}
+
+QRectF CanvasPicture::turned(const Rect& rect) const {
+    return {rect.x, geometry_.viewSize().height - rect.maxY(), rect.width, rect.height};
+}
+
+QPointF CanvasPicture::turned(Point point) const {
+    return {point.x, geometry_.viewSize().height - point.y};
+}
+
+} // namespace tessaly

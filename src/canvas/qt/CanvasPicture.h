@@ -1,0 +1,47 @@
+#pragma once
+
+#include "canvas/CanvasScene.h"
+
+#include <QColor>
+#include <QImage>
+#include <QPixmap>
+#include <QRectF>
+#include <optional>
+
+class QPainter;
+
+namespace tessaly {
+
+/// The offscreen picture of the canvas, in device pixels. The scene is in points with y upwards; only here it
+/// is turned to the toolkit's way.
+class CanvasPicture {
+  public:
+    /// The geometry must outlive the picture.
+    explicit CanvasPicture(const CanvasGeometry& geometry) : geometry_{geometry} {}
+
+    /// What the picture is shown on. Paints the last scene anew when anything here differs from before.
+    void setMedium(double devicePixelRatio, const QColor& controlColor);
+
+    /// Paints the whole picture, unless it shows that very scene already.
+    void paint(const CanvasScene& scene);
+
+    const QImage& image() const { return backgroundOffscreenRep_; }
+
+  private:
+    void createColorMarker();
+    void paintScene();
+    void paintGradient();
+    void paintGuideLine(QPainter& painter, const GuideLine& guide) const;
+    void paintMarker(QPainter& painter, const CanvasScene::Marker& marker) const;
+    QRectF turned(const Rect& rect) const;
+    QPointF turned(Point point) const;
+
+    const CanvasGeometry& geometry_;
+    double devicePixelRatio_ = 0.0; ///< 0 before there is a medium
+    QColor controlColor_;
+    QImage backgroundOffscreenRep_;
+    QPixmap colorMarkerImage_;
+    std::optional<CanvasScene> scene_;
+};
+
+} // namespace tessaly

@@ -1,0 +1,172 @@
+#include "canvas/qt/CanvasView.h"
+
+#include "canvas/qt/StopControlPanel.h"
+#include "foundation/NumberText.h"
+#include "foundation/qt/ToQString.h"
+#include "model/qt/ColorBridge.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace tessaly {
+namespace {
+
+// An odd height puts the guide of the radial gradient on a row of pixels.
+constexpr QSize viewSize{640, 197};
+
+constexpr int shiftedStep = 10; // points that an arrow key moves a marker with Shift
+
+} // namespace
+
+CanvasView::CanvasView(StopControlPanel& panel, QWidget* parent)
+    : QWidget{parent},
+      panel_{panel},
+      editor_{{viewSize.width(), viewSize.height()}, *this, panel.controlSet()},
+      picture_{editor_.geometry()},
+      popupMenu_{new QMenu{this}} {
+    installAccessibleItems();
+    setFixedSize(viewSize);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Gradient canvas"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    popupMenu_->addAction(tr("Delete Marker"), this, [this] { editor_.interaction().deleteColorMarker(); });
+}
+
+void CanvasView::awakeFromNib() {
+    panel_.connectTo(editor_.controls());
+    editor_.awakeFromNib();
+}
+
+QSize CanvasView::sizeHint() const {
+    return viewSize;
+}
+
+void CanvasView::takeMedium() {
+    picture_.setMedium(devicePixelRatioF(), palette().color(QPalette::Window));
+}
+
+void CanvasView::paint(const CanvasScene& scene) {
+    takeMedium();
+    picture_.paint(scene);
+    if (const int current = currentAccessibleItem(); current != announcedItem_) {
+        announcedItem_ = current;
+        announceCurrentAccessibleItem(*this, *this);
+    }
+}
+
+void CanvasView::paintEvent(QPaintEvent* /*event*/) {
+    takeMedium(); // the window may have come to another screen, the desktop to another theme
+    QPainter painter{this};
+    painter.drawImage(QPointF{0, 0}, picture_.image());
+    if (hasFocus()) {
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+QRectF CanvasView::markerRect(const ColorStop& stop) const {
+    const Rect frame =
+        editor_.geometry().markerRect(GlobalData::sharedData().orientationType(), stop.position);
+    return {frame.x, height() - frame.maxY(), frame.width, frame.height};
+}
+
+Point CanvasView::canvasPoint(QPointF position) const {
+    return {position.x(), height() - position.y()};
+}
+
+void CanvasView::mouseDown(const QMouseEvent& event, int clickCount) {
+    if (event.button() == Qt::LeftButton) {
+        editor_.interaction().mouseDown(canvasPoint(event.position()), clickCount);
+    }
+}
+
+void CanvasView::mousePressEvent(QMouseEvent* event) {
+    mouseDown(*event, 1);
+}
+
+void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {
+    mouseDown(*event, 2);
+}
+
+void CanvasView::mouseMoveEvent(QMouseEvent* event) {
+    editor_.interaction().mouseDragged(canvasPoint(event->position()));
+}
+
+void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        editor_.interaction().mouseUp();
+    }
+}
+
+void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        if (const auto stop = editor_.markers().selectedStop()) {
+            popupMenu_->popup(mapToGlobal(markerRect(*stop).center().toPoint()));
+        }
+    } else if (editor_.interaction().rightMouseDown(canvasPoint(event->pos()))) {
+        popupMenu_->popup(event->globalPos());
+    }
+}
+
+void CanvasView::keyPressEvent(QKeyEvent* event) {
+    const int points = event->modifiers().testFlag(Qt::ShiftModifier) ? shiftedStep : 1;
+    MarkerInteraction& interaction = editor_.interaction();
+    bool handled = true;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        handled = interaction.moveSelected(-1, 0, points);
+        break;
+    case Qt::Key_Right:
+        handled = interaction.moveSelected(1, 0, points);
+        break;
+    case Qt::Key_Down:
+        handled = interaction.moveSelected(0, -1, points);
+        break;
+    case Qt::Key_Up:
+        handled = interaction.moveSelected(0, 1, points);
+        break;
+    case Qt::Key_Delete:
+        interaction.deleteColorMarker();
+        break;
+    default:
+        handled = false;
+    }
+    event->setAccepted(handled);
+}
+
+bool CanvasView::focusNextPrevChild(bool next) {
+    // Tab goes from stop to stop; past the last one it leaves the canvas.
+    return editor_.interaction().selectNeighbour(next ? 1 : -1) || QWidget::focusNextPrevChild(next);
+}
+
+int CanvasView::accessibleItemCount() const {
+    return static_cast<int>(GlobalData::sharedData().stopCount());
+}
+
+QString CanvasView::accessibleItemName(int item) const {
+    return tr("Stop %1").arg(item + 1);
+}
+
+QString CanvasView::accessibleItemDescription(int item) const {
+    const ColorStop stop = GlobalData::sharedData().stopAt(item).value_or(ColorStop{});
+    return tr("Position %1, color %2")
+        .arg(toQString(fixedText(stop.position, 3)), toQColor(stop.color).name());
+}
+
+QRect CanvasView::accessibleItemRect(int item) const {
+    return markerRect(GlobalData::sharedData().stopAt(item).value_or(ColorStop{})).toAlignedRect();
+}
+
+int CanvasView::currentAccessibleItem() const {
+    return editor_.markers().selectedStop() ? static_cast<int>(editor_.markers().selectedColorMarkerIndex())
+                                            : -1;
+}
+
+void CanvasView::pressAccessibleItem(int item) {
+    editor_.interaction().selectNeighbour(item - editor_.markers().selectedColorMarkerIndex());
+}
+
+} // namespace tessaly

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "canvas/CanvasSurface.h"
+#include "canvas/GradientEditor.h"
+#include "canvas/qt/CanvasPicture.h"
+#include "foundation/qt/AccessibleItems.h"
+
+#include <QWidget>
+
+class QMenu;
+
+namespace tessaly {
+
+class StopControlPanel;
+
+/// The gradient editor on the screen: shows the offscreen picture and hands mouse and keys on. Its size never
+/// changes, since the geometry is taken once.
+class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems {
+    Q_OBJECT
+
+  public:
+    /// The panel must outlive the view.
+    explicit CanvasView(StopControlPanel& panel, QWidget* parent = nullptr);
+
+    /// Sets the editor up; once, when the window is wired.
+    void awakeFromNib();
+
+    GradientEditor& editor() { return editor_; }
+    const QImage& picture() const { return picture_.image(); }
+
+    void paint(const CanvasScene& scene) override;
+    void setNeedsDisplay() override { update(); }
+
+    QSize sizeHint() const override;
+
+    QAccessible::Role accessibleListRole() const override { return QAccessible::List; }
+    QAccessible::Role accessibleItemRole() const override { return QAccessible::ListItem; }
+    int accessibleItemCount() const override;
+    QString accessibleItemName(int item) const override;
+    QString accessibleItemDescription(int item) const override;
+    QRect accessibleItemRect(int item) const override;
+    int currentAccessibleItem() const override;
+    void pressAccessibleItem(int item) override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+  private:
+    QRectF markerRect(const ColorStop& stop) const;
+    Point canvasPoint(QPointF position) const;
+    void mouseDown(const QMouseEvent& event, int clickCount);
+    void takeMedium();
+
+    int announcedItem_ = -1; ///< the stop that assistive tools were last told of
+
+    StopControlPanel& panel_;
+    GradientEditor editor_;
+    CanvasPicture picture_;
+    QMenu* popupMenu_;
+};
+
+} // namespace tessaly

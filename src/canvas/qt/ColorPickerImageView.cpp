@@ -1,0 +1,102 @@
+#include "canvas/qt/ColorPickerImageView.h"
+
+#include "canvas/CanvasNotifications.h"
+#include "foundation/NotificationCenter.h"
+#include "model/qt/ColorBridge.h"
+
+#include <QColorDialog>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace tessaly {
+namespace {
+
+constexpr double cornerRadius = 4;
+
+QRectF insetBounds(const QWidget& view, double inset) {
+    return QRectF{view.rect()}.adjusted(inset, inset, -inset, -inset);
+}
+
+} // namespace
+
+ColorPickerImageView::ColorPickerImageView(QWidget* parent) : QWidget{parent} {
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+QSize ColorPickerImageView::sizeHint() const {
+    return {64, 32};
+}
+
+void ColorPickerImageView::setBackgroundColor(const Color& color) {
+    backgroundColor_ = color.calibratedRGB() ? color : fromQColor(palette().color(QPalette::Light));
+    update();
+    showInColorPanel();
+    sendUpdateDataNotification(canvasNotification::colorChanged);
+}
+
+void ColorPickerImageView::sendUpdateDataNotification(const char* name) const {
+    NotificationCenter::defaultCenter().post({name, static_cast<const ColorWell*>(this), {}});
+}
+
+void ColorPickerImageView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    // In the accent colour while the well has the keyboard.
+    const QColor frame = hasFocus() ? palette().color(QPalette::Highlight) : QColor{Qt::gray};
+    painter.setPen(QPen{frame, hasFocus() ? 2.0 : 1.0});
+    painter.drawRoundedRect(insetBounds(*this, 1), cornerRadius, cornerRadius);
+
+    const QRectF swatch = insetBounds(*this, 2);
+    QPainterPath outline;
+    outline.addRoundedRect(swatch, cornerRadius, cornerRadius);
+    painter.fillPath(outline, isEnabled() ? toQColor(backgroundColor_) : palette().color(QPalette::Window));
+    painter.setPen(QPen{Qt::white, 1});
+    painter.drawPath(outline);
+    if (isColorNotSet_) {
+        painter.drawLine(swatch.topLeft(), swatch.bottomRight());
+        painter.drawLine(swatch.topRight(), swatch.bottomLeft());
+    }
+}
+
+void ColorPickerImageView::mousePressEvent(QMouseEvent* /*event*/) {
+    openColorPanel();
+}
+
+void ColorPickerImageView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        openColorPanel();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void ColorPickerImageView::openColorPanel() {
+    if (colorPanel_ == nullptr) {
+        colorPanel_ = new QColorDialog{window()};
+        // The toolkit's own panel: it looks and reports alike on every desktop.
+        colorPanel_->setOptions(QColorDialog::NoButtons | QColorDialog::DontUseNativeDialog);
+        colorPanel_->setWindowTitle(tr("Stop color"));
+        colorPanel_->setModal(false);
+        connect(colorPanel_, &QColorDialog::currentColorChanged, this, &ColorPickerImageView::colorUpdate);
+    }
+    colorPanel_->show();
+    showInColorPanel();
+    colorPanel_->raise();
+    colorPanel_->activateWindow();
+}
+
+void ColorPickerImageView::showInColorPanel() {
+    const QColor color = toQColor(backgroundColor_);
+    if (colorPanel_ != nullptr && colorPanel_->isVisible() && colorPanel_->currentColor() != color) {
+        const QSignalBlocker notPickedByTheUser{colorPanel_};
+        colorPanel_->setCurrentColor(color);
+    }
+}
+
+void ColorPickerImageView::colorUpdate(const QColor& color) {
+    setBackgroundColor(fromQColor(color));
+}
+
+} // namespace tessaly

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "canvas/ControlInterfaces.h"
+
+#include <QWidget>
+
+class QColorDialog;
+
+namespace tessaly {
+
+/// The colour well: a rounded swatch that opens the program's one colour panel and announces every setting of
+/// its colour with "ColorChanged", its `ColorWell` as object.
+class ColorPickerImageView : public QWidget, public ColorWell {
+    Q_OBJECT
+
+  public:
+    explicit ColorPickerImageView(QWidget* parent = nullptr);
+
+    Color backgroundColor() const override { return backgroundColor_; }
+
+    /// A colour without RGB form is replaced by the palette's control highlight.
+    void setBackgroundColor(const Color& color) override;
+    void setEnabled(bool enabled) override { QWidget::setEnabled(enabled); }
+
+    bool isColorNotSet() const { return isColorNotSet_; }
+    void setIsColorNotSet(bool notSet) { isColorNotSet_ = notSet; }
+
+    void sendUpdateDataNotification(const char* name) const;
+
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void openColorPanel();
+    void showInColorPanel();
+    void colorUpdate(const QColor& color);
+
+    Color backgroundColor_;
+    bool isColorNotSet_ = false; ///< crosses the swatch out; nothing sets it yet
+    QColorDialog* colorPanel_ = nullptr;
+};
+
+} // namespace tessaly

@@ -1,0 +1,144 @@
+#include "canvas/qt/StopControlPanel.h"
+
+#include "canvas/ComboBoxItems.h"
+#include "canvas/qt/ColorPickerImageView.h"
+#include "canvas/qt/NumberFieldEdit.h"
+#include "canvas/qt/TitledComboBox.h"
+#include "canvas/qt/ValueStepper.h"
+#include "foundation/qt/ToQString.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace tessaly {
+namespace {
+
+constexpr int spacing = 8;
+constexpr int columnGap = 24;
+
+/// Where a value stands in the grid, and the key that leads to it with Alt.
+struct Cell {
+    StopValue value;
+    const char* label;
+    int row;
+    int block; ///< of columns: label, field, stepper, gap
+};
+
+constexpr std::array<Cell, stopValues.size()> cells{{
+    {StopValue::Red, "&Red", 0, 0},
+    {StopValue::Green, "&Green", 1, 0},
+    {StopValue::Blue, "&Blue", 2, 0},
+    {StopValue::Hue, "&Hue", 0, 1},
+    {StopValue::Saturation, "&Saturation", 1, 1},
+    {StopValue::Lightness, "&Lightness", 2, 1},
+    {StopValue::Position, "&Position", 0, 2},
+    {StopValue::Opacity, "Opa&city", 1, 2},
+}};
+
+constexpr int columnsPerBlock = 4;
+constexpr int lastBlock = 3;
+
+QLabel* labelFor(QWidget& buddy, const QString& text) {
+    auto* const label = new QLabel{text};
+    label->setBuddy(&buddy);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+} // namespace
+
+StopControlPanel::StopControlPanel(QWidget* parent)
+    : QWidget{parent},
+      selectedColor_{new ColorPickerImageView},
+      selectedOrientationComboBox_{new TitledComboBox},
+      selectedColorFormatComboBox_{new TitledComboBox} {
+    auto* const grid = new QGridLayout{this};
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(spacing);
+    grid->setHorizontalSpacing(0);
+    for (const Cell& cell : cells) {
+        const int column = cell.block * columnsPerBlock;
+        addPair(*grid, traitsOf(cell.value), cell.row, column + 1);
+        QWidget& field = *pairs_[static_cast<std::size_t>(cell.value)].field;
+        grid->addWidget(labelFor(field, tr(cell.label)), cell.row, column);
+    }
+    addLists(*grid);
+    for (int block = 0; block < lastBlock; ++block) {
+        grid->setColumnMinimumWidth(block * columnsPerBlock + columnsPerBlock - 1, columnGap);
+    }
+    grid->setColumnStretch(lastBlock * columnsPerBlock + 1, 1);
+}
+
+void StopControlPanel::addPair(QGridLayout& grid, const StopValueTraits& traits, int row, int column) {
+    constexpr int integerDigits = 4;
+    constexpr int decimalDigits = 5;
+    const NumberFormatter* formatter = &integerFormatter_;
+    if (traits.decimal) {
+        formatter = &decimalFormatter_;
+    }
+    auto& [field, stepper] = pairs_[static_cast<std::size_t>(traits.value)];
+    field = new NumberFieldEdit{*formatter, traits.decimal ? decimalDigits : integerDigits};
+    field->setAccessibleName(toQString(traits.name));
+    stepper = new ValueStepper{traits};
+    stepper->setAccessibleName(toQString(traits.name) + tr(" stepper"));
+    connect(field, &NumberFieldEdit::stepped, stepper, &ValueStepper::stepBy);
+    auto* const pairLayout = new QHBoxLayout;
+    pairLayout->setContentsMargins(spacing, 0, 0, 0);
+    pairLayout->setSpacing(2);
+    pairLayout->addWidget(field);
+    pairLayout->addWidget(stepper);
+    grid.addLayout(pairLayout, row, column);
+}
+
+void StopControlPanel::addLists(QGridLayout& grid) {
+    selectedColor_->setAccessibleName(tr("Stop color"));
+    selectedColor_->setToolTip(tr("Pick the color of the selected stop"));
+    selectedOrientationComboBox_->setAccessibleName(tr("Orientation"));
+    selectedColorFormatComboBox_->setAccessibleName(tr("Color notation"));
+    for (const OrientationItem& item : orientationItems) {
+        selectedOrientationComboBox_->addTitle(item.title);
+    }
+    for (const std::string_view title : colorFormatItems) {
+        selectedColorFormatComboBox_->addTitle(title);
+    }
+    constexpr int stopBlock = 2 * columnsPerBlock;
+    constexpr int listBlock = lastBlock * columnsPerBlock;
+    const auto add = [&](QWidget& control, const QString& label, int row, int column) {
+        auto* const cell = new QHBoxLayout;
+        cell->setContentsMargins(spacing, 0, 0, 0);
+        cell->addWidget(&control);
+        grid.addWidget(labelFor(control, label), row, column);
+        grid.addLayout(cell, row, column + 1);
+    };
+    add(*selectedColor_, tr("C&olor"), 2, stopBlock);
+    add(*selectedOrientationComboBox_, tr("Or&ientation"), 0, listBlock);
+    add(*selectedColorFormatComboBox_, tr("&Notation"), 1, listBlock);
+}
+
+StopControlSet StopControlPanel::controlSet() const {
+    StopControlSet set;
+    for (std::size_t i = 0; i < pairs_.size(); ++i) {
+        set.pairs[i] = {pairs_[i].field, pairs_[i].stepper};
+    }
+    set.selectedColor = selectedColor_;
+    set.selectedOrientationComboBox = selectedOrientationComboBox_;
+    set.selectedColorFormatComboBox = selectedColorFormatComboBox_;
+    return set;
+}
+
+void StopControlPanel::connectTo(StopControls& rules) {
+    for (const StopValueTraits& traits : stopValues) {
+        const auto& [field, stepper] = pairs_[static_cast<std::size_t>(traits.value)];
+        const StopValue value = traits.value;
+        connect(field, &NumberFieldEdit::edited, this,
+                [&rules, value] { rules.updateTextFieldValue(value); });
+        connect(stepper, &ValueStepper::steppedByUser, this,
+                [&rules, value] { rules.updateStepperValue(value); });
+    }
+    connect(selectedOrientationComboBox_, &QComboBox::activated, this,
+            [&rules] { rules.updateOrientationComboBoxValue(); });
+    connect(selectedColorFormatComboBox_, &QComboBox::activated, this,
+            [&rules] { rules.updateColorFormatComboBoxValue(); });
+}
+
+} // namespace tessaly

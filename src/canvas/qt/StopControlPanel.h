@@ -1,0 +1,50 @@
+#pragma once
+
+#include "canvas/OnlyDecimalValueFormatter.h"
+#include "canvas/OnlyIntegerValueFormatter.h"
+#include "canvas/StopControls.h"
+
+#include <QWidget>
+#include <array>
+
+class QGridLayout;
+
+namespace tessaly {
+
+class ColorPickerImageView;
+class NumberFieldEdit;
+class TitledComboBox;
+class ValueStepper;
+
+/// The controls under the canvas, in one aligned grid: the eight values of the selected stop, its colour
+/// well, and the two lists for the whole gradient.
+class StopControlPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit StopControlPanel(QWidget* parent = nullptr);
+
+    /// For the rules that work with the controls.
+    StopControlSet controlSet() const;
+
+    /// Tells the rules from now on what the user does.
+    void connectTo(StopControls& rules);
+
+  private:
+    struct Pair {
+        NumberFieldEdit* field = nullptr;
+        ValueStepper* stepper = nullptr;
+    };
+
+    void addPair(QGridLayout& grid, const StopValueTraits& traits, int row, int column);
+    void addLists(QGridLayout& grid);
+
+    OnlyIntegerValueFormatter integerFormatter_;
+    OnlyDecimalValueFormatter decimalFormatter_;
+    std::array<Pair, stopValues.size()> pairs_;
+    ColorPickerImageView* selectedColor_;
+    TitledComboBox* selectedOrientationComboBox_;
+    TitledComboBox* selectedColorFormatComboBox_;
+};
+
+} // namespace tessaly

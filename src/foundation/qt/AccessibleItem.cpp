@@ -1,0 +1,69 @@
+#include "foundation/qt/AccessibleItem.h"
+
+#include "foundation/qt/AccessibleItems.h"
+
+namespace tessaly {
+
+AccessibleItem::AccessibleItem(QWidget& widget, AccessibleItems& items, int index)
+    : widget_{&widget}, items_{items}, index_{index} {}
+
+bool AccessibleItem::isValid() const {
+    return widget_ != nullptr && index_ < items_.accessibleItemCount();
+}
+
+QAccessibleInterface* AccessibleItem::parent() const {
+    return QAccessible::queryAccessibleInterface(widget_);
+}
+
+QString AccessibleItem::text(QAccessible::Text kind) const {
+    if (!isValid()) {
+        return {};
+    }
+    switch (kind) {
+    case QAccessible::Name:
+        return items_.accessibleItemName(index_);
+    case QAccessible::Description:
+        return items_.accessibleItemDescription(index_);
+    default:
+        return {};
+    }
+}
+
+QRect AccessibleItem::rect() const {
+    if (!isValid()) {
+        return {};
+    }
+    const QRect place = items_.accessibleItemRect(index_);
+    return {widget_->mapToGlobal(place.topLeft()), place.size()};
+}
+
+QAccessible::Role AccessibleItem::role() const {
+    return isValid() ? items_.accessibleItemRole() : QAccessible::NoRole;
+}
+
+QAccessible::State AccessibleItem::state() const {
+    QAccessible::State state;
+    if (!isValid()) {
+        state.invalid = true;
+        return state;
+    }
+    state.selectable = true;
+    state.focusable = true;
+    state.selected = items_.currentAccessibleItem() == index_;
+    state.focused = state.selected && widget_->hasFocus();
+    state.invisible = !widget_->isVisible();
+    state.disabled = !widget_->isEnabled();
+    return state;
+}
+
+void* AccessibleItem::interface_cast(QAccessible::InterfaceType type) {
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+}
+
+void AccessibleItem::doAction(const QString& name) {
+    if (isValid() && widget_->isEnabled() && name == pressAction()) {
+        items_.pressAccessibleItem(index_);
+    }
+}
+
+} // namespace tessaly

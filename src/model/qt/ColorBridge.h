@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/Color.h"
+
+#include <QColor>
+
+namespace tessaly {
+
+inline QColor toQColor(const RGBAComponents& rgb) {
+    return QColor::fromRgbF(static_cast<float>(rgb.red), static_cast<float>(rgb.green),
+                            static_cast<float>(rgb.blue), static_cast<float>(rgb.alpha));
+}
+
+/// The toolkit's colour for one of ours; transparent for a colour without RGB form.
+inline QColor toQColor(const Color& color) {
+    return toQColor(color.calibratedRGB().value_or(RGBAComponents{0.0, 0.0, 0.0, 0.0}));
+}
+
+/// Our colour for one of the toolkit's; an invalid one has no RGB form.
+inline Color fromQColor(const QColor& color) {
+    if (!color.isValid()) {
+        return Color::withoutRGBForm();
+    }
+    const QColor rgb = color.toRgb();
+    return Color::calibratedRGB(static_cast<double>(rgb.redF()), static_cast<double>(rgb.greenF()),
+                                static_cast<double>(rgb.blueF()), static_cast<double>(rgb.alphaF()));
+}
+
+} // namespace tessaly
