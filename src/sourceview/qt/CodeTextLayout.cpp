@@ -1,5 +1,6 @@
 #include "sourceview/qt/CodeTextLayout.h"
 
+#include "foundation/qt/ToQString.h"
 #include "sourceview/qt/CustomTextView.h"
 
 namespace tessaly {
@@ -26,8 +27,7 @@ Rect CodeTextLayout::visibleRect() const {
 }
 
 Size CodeTextLayout::sizeOf(std::string_view label) const {
-    const QString text = QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size()));
-    return {metrics_.horizontalAdvance(text), metrics_.height()};
+    return {metrics_.horizontalAdvance(toQString(label)), metrics_.height()};
 }
 
 } // namespace tessaly

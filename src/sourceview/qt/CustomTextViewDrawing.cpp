@@ -1,8 +1,8 @@
 // What the view draws, and what it tells of its layout.
 
+#include "model/qt/ColorBridge.h"
 #include "sourceview/BandColors.h"
 #include "sourceview/qt/CustomTextView.h"
-#include "sourceview/qt/ToQColor.h"
 
 #include <QPainter>
 #include <QTextBlock>

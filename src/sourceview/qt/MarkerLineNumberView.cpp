@@ -1,7 +1,7 @@
 #include "sourceview/qt/MarkerLineNumberView.h"
 
+#include "model/qt/ColorBridge.h"
 #include "sourceview/MarkerShape.h"
-#include "sourceview/qt/ToQColor.h"
 
 #include <QMouseEvent>
 #include <QPainterPath>

@@ -1,7 +1,8 @@
 #include "sourceview/qt/WendleLineNumberView.h"
 
+#include "foundation/qt/ToQString.h"
+#include "model/qt/ColorBridge.h"
 #include "sourceview/GutterColors.h"
-#include "sourceview/qt/ToQColor.h"
 
 #include <QApplication>
 #include <QFontInfo>
@@ -177,8 +178,7 @@ void WendleLineNumberView::drawHashMarksAndLabels(QPainter& painter) const {
             marker.image()->draw(painter, {place.x, place.y});
         }
         painter.setPen(label.marked ? alternateTextColor() : textColor());
-        painter.drawText(QPointF{label.rectangle.x, label.rectangle.y + ascent},
-                         QString::fromStdString(label.text));
+        painter.drawText(QPointF{label.rectangle.x, label.rectangle.y + ascent}, toQString(label.text));
     }
 }
 
