@@ -76,7 +76,8 @@ TEST(LongLineWatch, knowsAfterEveryEditWhetherALineIsTooLong) {
             added.insert(random() % (added.size() + 1), 1, u'\n');
         }
         const bool before = watch.hasLongLine();
-        watch.textEdited(text.text(), text.replace(position, removed, added));
+        const TextEdit edit = text.replace(position, removed, added);
+        watch.textEdited(text.text(), edit);
         std::size_t longest = 0;
         for (std::size_t start = 0; start <= text.text().size();) {
             const std::size_t end = std::min(text.text().find(u'\n', start), text.text().size());
