@@ -21,7 +21,7 @@ class FakeTextLayout : public TextLayout {
     CharacterRange charactersIn(const Rect& rectangle) const override {
         const auto row = [](double y) { return static_cast<std::size_t>(y / rowHeight); };
         const std::size_t first = row(rectangle.y) * 10;
-        return {first, row(rectangle.maxY() - 0.1) * 10 + 10 - first};
+        return {first, row(rectangle.maxY() - 0.1) * 10 + 10 - first - unseen};
     }
     Rect visibleRect() const override { return {0, top, 300, 200}; }
     double insetHeight() const override { return inset; }
@@ -34,6 +34,7 @@ class FakeTextLayout : public TextLayout {
     double top = 0;
     double inset = 0;
     std::size_t notLaidOut = 1'000'000;
+    std::size_t unseen = 0; // characters at the end of the last row
     mutable int asked = 0;
 };
 
@@ -106,6 +107,8 @@ TEST(GutterLayout, countsALineRightBehindTheVisibleOnesAndOneInTheMiddleOfALine)
     const auto labels = GutterLayout{text, lines}.labels(40, never);
     ASSERT_EQ(labels.size(), 11U) << "ten rows fit";
     EXPECT_EQ(labels.back().text, "11");
+    text.unseen = 1;
+    EXPECT_EQ((GutterLayout{text, lines}.labels(40, never)).size(), 10U);
 
     // One line in rows below one another: only its start has a label.
     const LineIndices wrapped{std::u16string(55, u'x') + u"\ny"};

@@ -36,6 +36,25 @@ TEST(TextEdit, isWhatReallyDiffers) {
     }
 }
 
+TEST(TextEdit, isKeptWithinTheTextByAReport) {
+    struct Row {
+        TextEdit report;
+        std::size_t before, after;
+        TextEdit edit;
+    };
+    const std::vector<Row> rows{
+        {{2, 1, 3}, 10, 12, {2, 1, 3}},
+        {{0, 11, 6}, 10, 5, {0, 10, 5}}, // both with the separator at the end
+        {{4, 7, 1}, 10, 4, {4, 6, 0}},
+        {{9, 2, 4}, 10, 12, {9, 1, 3}},
+        {{3, 1, 1}, 10, 12, {0, 10, 12}}, // contradicts the lengths
+        {{30, 1, 1}, 10, 10, {10, 0, 0}},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(TextEdit::reported(row.report, row.before, row.after), row.edit);
+    }
+}
+
 TEST(TextMirror, followsReportsHoweverCoarse) {
     std::mt19937 random{4};
     const auto upTo = [&](std::size_t most) { return random() % (most + 1); };
@@ -59,6 +78,17 @@ TEST(TextMirror, followsReportsHoweverCoarse) {
         ASSERT_EQ(before.substr(0, edit.position) + text.substr(edit.position, edit.added) +
                       before.substr(edit.position + edit.removed),
                   text);
+    }
+}
+
+TEST(LongLineWatch, looksFarEnoughBackAndAhead) {
+    for (const std::size_t position : {0, 5'000, 10'000}) {
+        const std::u16string text = u"\n" + std::u16string(10'001, u'x') + u"\n";
+        LongLineWatch watch;
+        watch.textEdited(std::u16string_view{text}.substr(1, 10'000), {position, 0, 0});
+        EXPECT_FALSE(watch.hasLongLine());
+        watch.textEdited(text, {position + 1, 0, 1});
+        EXPECT_TRUE(watch.hasLongLine()) << position;
     }
 }
 

@@ -95,6 +95,9 @@ TEST_F(CustomTextViewTest, writesBehindTheUsersBack) {
     EXPECT_FALSE(view.document()->isUndoAvailable());
     EXPECT_EQ(view.selection(), (CharacterRange{1001, 5})) << "beside the same text";
     EXPECT_EQ(view.verticalScrollBar()->value(), scroll);
+    view.replaceCharacters({1001, 0}, u"at the caret");
+    EXPECT_EQ(view.selection(), (CharacterRange{1001, 17}));
+    EXPECT_EQ(view.verticalScrollBar()->value(), scroll);
     view.replaceCharacters({2000, 9999}, u"");
     EXPECT_EQ(view.length(), 2000U);
     EXPECT_EQ(view.verticalScrollBar()->value(), scroll);
