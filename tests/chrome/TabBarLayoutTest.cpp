@@ -42,7 +42,7 @@ TEST(TabBarLayout, takesClicksInRectanglesOfTheirOwn) {
 }
 
 TEST(TabBarLayout, drawsFromTheFrameAsItIs) {
-    TabBarLayout layout = barOf({{30.5, 15}, {40.25, 19}, {50, 15}});
+    TabBarLayout layout = barOf({{30.5, 15}, {40.25, 19}, {50, 17}});
     layout.layOutHitRectangles(1);
     const DrawnTabs tabs = layout.drawn({400, 32}, 1);
     EXPECT_EQ(tabs.titles, (std::vector<Point>{{124, 8.5}, {170.5, 8.5}, {226.75, 8.5}}))
@@ -52,7 +52,7 @@ TEST(TabBarLayout, drawsFromTheFrameAsItIs) {
     EXPECT_EQ(tabs.separators[0].dark, (Line{{162.5, 7.5}, {162.5, 24.5}}));
     EXPECT_EQ(tabs.separators[0].light, (Line{{163.5, 7.5}, {163.5, 24.5}}));
     EXPECT_EQ(tabs.separators[1].dark, (Line{{218.75, 9.5}, {218.75, 22.5}}));
-    EXPECT_EQ(tabs.trackingPath, (Rect{124, 8.5, 160.75, 17})) << "to 8 points behind the last title";
+    EXPECT_EQ(tabs.trackingPath, (Rect{124, 8.5, 160.75, 15})) << "to 8 points behind the last title";
     for (const std::int64_t none : {-1, 3}) {
         EXPECT_EQ(layout.drawn({400, 32}, none).selectedBox, std::nullopt);
     }

@@ -6,6 +6,7 @@
 #include "foundation/qt/ToQString.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
@@ -26,7 +27,7 @@ QLabel* centred(QLabel* label) {
 QLabel* nameLabel() {
     auto* const label = centred(new QLabel{toQString(product::name)});
     QFont large = label->font();
-    large.setPointSizeF(large.pointSizeF() * 1.6);
+    large.setPointSizeF(QFontInfo{large}.pointSizeF() * 1.6);
     large.setBold(true);
     label->setFont(large);
     return label;

@@ -64,12 +64,13 @@ TEST_F(WebLabelTest, opensItsAddressOnAClickOrAKeyAndLogsIt) {
 }
 
 TEST_F(WebLabelTest, anAddressThatIsNoneOpensNothingAndIsLogged) {
-    for (const char* const text : {"no such host", "see http://example.org", "%zz", "[::1", "a\"b"}) {
+    for (const char* const text :
+         {"no such host", "see http://example.org", "%zz", "example.org/a b", "[::1", "a\"b"}) {
         label.setText(QString::fromUtf8(text));
         label.openAddress();
     }
     EXPECT_EQ(opened.list, QStringList{});
-    EXPECT_EQ(log.messages.size(), 5U);
+    EXPECT_EQ(log.messages.size(), 6U);
     EXPECT_TRUE(log.has("Found see http://example.org"));
 }
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstddef>
+
+namespace tessaly {
+
+/// A run of a text, in UTF-16 units.
+struct CharacterRange {
+    std::size_t location = 0;
+    std::size_t length = 0;
+
+    std::size_t end() const { return location + length; }
+    bool operator==(const CharacterRange&) const = default;
+};
+
+} // namespace tessaly

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "foundation/Geometry.h"
+#include "sourceview/LineIndices.h"
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+class TextLayout;
+
+/// The number of one line, as drawn.
+struct GutterLabel {
+    std::size_t line = 0; ///< 0-based
+    std::string text;     ///< the 1-based number
+    Rect rectangle;       ///< in the gutter; the text starts at its left edge
+    double rowY = 0.0;    ///< top of the line's first row in the gutter
+    double rowHeight = 0.0;
+    bool marked = false; ///< the line carries a marker
+
+    bool operator==(const GutterLabel&) const = default;
+};
+
+/// Width and contents of a line-number gutter, over a text's layout and its line starts, both of which must
+/// outlive this object. Points, y downwards from the gutter's top edge.
+class GutterLayout {
+  public:
+    static constexpr std::uint64_t notFound = std::numeric_limits<std::int64_t>::max();
+
+    GutterLayout(const TextLayout& layout, const LineIndices& lines) : layout_{layout}, lines_{lines} {}
+
+    /// Room for the digits of the last line's number, in whole points.
+    double requiredThickness() const;
+
+    /// The 1-based line whose rows lie at that height of the gutter, or `notFound`. The text's inset is not
+    /// counted, unlike in `labels`; that is deliberate. Asks for the rectangles of line after line.
+    std::uint64_t lineNumberForLocation(float location) const;
+
+    /// The labels of all visible lines; `isMarked` takes 0-based lines.
+    std::vector<GutterLabel> labels(double width, const std::function<bool(std::size_t)>& isMarked) const;
+
+    /// Where the top left corner of a marker's image comes, `imageOriginY` of it at the middle of the row.
+    static Point markerPosition(const GutterLabel& label, double width, Size image, double imageOriginY);
+
+  private:
+    GutterLabel labelOf(std::size_t line, const Rect& row, double width, bool marked) const;
+
+    const TextLayout& layout_;
+    const LineIndices& lines_;
+};
+
+} // namespace tessaly

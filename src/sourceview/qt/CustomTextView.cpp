@@ -1,0 +1,194 @@
+#include "sourceview/qt/CustomTextView.h"
+
+#include "sourceview/qt/ExactText.h"
+
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <algorithm>
+#include <utility>
+
+namespace tessaly {
+namespace {
+
+constexpr int tabWidth = 4; // in characters
+
+} // namespace
+
+CustomTextView::CustomTextView(QWidget* parent) : QPlainTextEdit{parent} {
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(QLatin1Char{' '}));
+    setInputMethodHints(Qt::ImhMultiLine | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+    connect(document(), &QTextDocument::contentsChange, this, &CustomTextView::noteChange);
+    connect(document(), &QTextDocument::contentsChanged, this, &CustomTextView::reportEdits);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CustomTextView::redisplay);
+    connect(this, &QPlainTextEdit::selectionChanged, this, &CustomTextView::redisplay);
+    connect(this, &QPlainTextEdit::textChanged, this, &CustomTextView::redisplay);
+}
+
+void CustomTextView::setText(std::u16string_view text) {
+    replaceCharacters({0, length()}, text);
+}
+
+void CustomTextView::replaceCharacters(CharacterRange range, std::u16string_view text) {
+    const std::size_t location = std::min(range.location, length());
+    const std::u16string stored = storedText(text);
+    TextEdit edit = TextEdit::between(this->text().substr(location, range.length), stored);
+    if (edit.isNone()) {
+        return;
+    }
+    const auto added = std::u16string_view{stored}.substr(edit.position, edit.added);
+    edit.position += location;
+    replaceUnrecorded(edit, added);
+}
+
+void CustomTextView::replaceUnrecorded(const TextEdit& edit, std::u16string_view added) {
+    const auto mapped = [&](int offset) {
+        return static_cast<int>(edit.mapped(static_cast<std::size_t>(offset)));
+    };
+    const int anchor = mapped(textCursor().anchor());
+    const int caret = mapped(textCursor().position());
+    const std::pair scroll{horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    {
+        const QScopedValueRollback writing{writing_, true};
+        document()->setUndoRedoEnabled(false);
+        QTextCursor editor{document()};
+        editor.setPosition(static_cast<int>(edit.position));
+        editor.setPosition(static_cast<int>(edit.position + edit.removed), QTextCursor::KeepAnchor);
+        insertInto(editor, added);
+        document()->setUndoRedoEnabled(true);
+    }
+    QTextCursor cursor = textCursor();
+    if (cursor.anchor() != anchor || cursor.position() != caret) {
+        cursor.setPosition(anchor);
+        cursor.setPosition(caret, QTextCursor::KeepAnchor);
+        setTextCursor(cursor);
+    }
+    horizontalScrollBar()->setValue(scroll.first);
+    verticalScrollBar()->setValue(scroll.second);
+}
+
+void CustomTextView::insertText(std::u16string_view text) {
+    const CharacterRange replaced = selection();
+    replaceCharacters(replaced, text);
+    setSelection({replaced.location + storedText(text).size(), 0});
+}
+
+void CustomTextView::setSelection(CharacterRange selection) {
+    const auto within = [&](std::size_t offset) { return static_cast<int>(std::min(offset, length())); };
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(within(selection.location));
+    cursor.setPosition(within(selection.end()), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+CharacterRange CustomTextView::selection() const {
+    const auto start = static_cast<std::size_t>(textCursor().selectionStart());
+    return {start, static_cast<std::size_t>(textCursor().selectionEnd()) - start};
+}
+
+void CustomTextView::moveToBeginningOfDocument() {
+    moveCursor(QTextCursor::Start);
+}
+
+QString CustomTextView::rawText(std::size_t position, std::size_t length) const {
+    QTextCursor reader{document()};
+    reader.setPosition(static_cast<int>(position));
+    reader.setPosition(static_cast<int>(position + length), QTextCursor::KeepAnchor);
+    return reader.selectedText();
+}
+
+// Runs before the change is laid out, which is the time to switch wrapping off. The edits are reported later,
+// when the document is whole again.
+void CustomTextView::noteChange(int position, int removed, int added) {
+    const TextEdit report{static_cast<std::size_t>(position), static_cast<std::size_t>(removed),
+                          static_cast<std::size_t>(added)};
+    const auto newLength = static_cast<std::size_t>(document()->characterCount() - 1);
+    const TextEdit coarse = TextEdit::reported(report, length(), newLength);
+    const TextEdit edit =
+        mirror_.replace(coarse.position, coarse.removed, exactText(rawText(coarse.position, coarse.added)));
+    if (edit.isNone()) {
+        return;
+    }
+    longLines_.textEdited(text(), edit);
+    setWrapping(!longLines_.hasLongLine());
+    if (!writing_) {
+        unreported_.push_back(edit);
+    }
+}
+
+void CustomTextView::reportEdits() {
+    for (const TextEdit& edit : std::exchange(unreported_, {})) {
+        Q_EMIT userEdited(edit.position, edit.removed, edit.added);
+    }
+}
+
+// Switches wrapping off first where the text asks for it: afterwards the toolkit would lay it out twice.
+void CustomTextView::insertInto(QTextCursor cursor, std::u16string_view text) {
+    if (LongLineWatch::isLongLineIn(text)) {
+        setWrapping(false);
+    }
+    cursor.insertText(toQString(text));
+}
+
+// A line too long to be wrapped is also set without the finer points of typography (ligatures, kerning),
+// which takes a third off the time that it costs. Scripts that cannot be read without them keep them.
+void CustomTextView::setWrapping(bool wrapping) {
+    const LineWrapMode mode = wrapping ? WidgetWidth : NoWrap;
+    if (lineWrapMode() == mode) {
+        return;
+    }
+    setLineWrapMode(mode);
+    QFont typeface = font();
+    typeface.setStyleStrategy(wrapping ? QFont::PreferDefault : QFont::PreferNoShaping);
+    setFont(typeface);
+}
+
+QStringList CustomTextView::readablePasteboardTypes() {
+    return {QStringLiteral("text/plain")};
+}
+
+bool CustomTextView::canInsertFromMimeData(const QMimeData* source) const {
+    const QStringList types = readablePasteboardTypes();
+    return std::any_of(types.begin(), types.end(),
+                       [source](const QString& type) { return source->hasFormat(type); });
+}
+
+void CustomTextView::insertFromMimeData(const QMimeData* source) {
+    if (!isReadOnly() && canInsertFromMimeData(source)) {
+        insertInto(textCursor(), source->text().toStdU16String());
+        ensureCursorVisible();
+    }
+}
+
+QMimeData* CustomTextView::createMimeDataFromSelection() const {
+    auto* const plainText = new QMimeData; // the caller owns it
+    const CharacterRange range = selection();
+    plainText->setText(toQString(text().substr(range.location, range.length)));
+    return plainText;
+}
+
+// Tab types a tab; Shift+Tab and Ctrl+Tab leave the view, so that the keyboard is not trapped in it.
+bool CustomTextView::focusNextPrevChild(bool next) {
+    return next ? QPlainTextEdit::focusNextPrevChild(true) : leave(false);
+}
+
+void CustomTextView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Tab && event->modifiers() == Qt::ControlModifier) {
+        leave(true);
+    } else {
+        QPlainTextEdit::keyPressEvent(event);
+    }
+}
+
+bool CustomTextView::leave(bool forwards) {
+    setTabChangesFocus(true);
+    const bool left = QPlainTextEdit::focusNextPrevChild(forwards);
+    setTabChangesFocus(false);
+    return left;
+}
+
+} // namespace tessaly
