@@ -1,0 +1,106 @@
+#include "presets/PresetGallery.h"
+
+#include "foundation/DiagnosticLog.h"
+#include "foundation/NumberText.h"
+#include "foundation/Truncation.h"
+#include "model/GlobalData.h"
+#include "presets/PresetGalleryView.h"
+#include "presets/PresetNotification.h"
+
+namespace tessaly {
+
+PresetGallery::PresetGallery(PresetGalleryView& view, Actions actions)
+    : view_{view}, actions_{std::move(actions)} {
+    view_.setContainerSize(PresetSlotGeometry::containerSize(maxPresetGradientRow_));
+}
+
+void PresetGallery::observeNotifications() {
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    observations_ = {center.addObserver(presetNotification::gradientIndexChanged, nullptr,
+                                        [this](const auto& n) { updateGradientNotification(n); }),
+                     center.addObserver(presetNotification::deleteGradient, nullptr,
+                                        [this](const auto& n) { deletePresetGradientNotification(n); })};
+}
+
+Point PresetGallery::getPresetGradientItemPos(std::int64_t slot) {
+    DiagnosticLog::write("Index: " + std::to_string(slot));
+    const Point pos = PresetSlotGeometry::itemPos(slot);
+    DiagnosticLog::write("PosX: " + fixedText(pos.x, 6) + "; PosY: " + fixedText(pos.y, 6));
+    return pos;
+}
+
+void PresetGallery::redrawPresetGradientContainer(bool force) {
+    const std::int64_t before = presetGradientThumbDistant_;
+    const Size size = PresetSlotGeometry::containerSize(maxPresetGradientRow_);
+    view_.setContainerSize(size);
+    presetGradientThumbDistant_ = PresetSlotGeometry::thumbDistantFor(size.height, view_.scrollViewHeight());
+    if (presetGradientThumbDistant_ == before && !force) {
+        return;
+    }
+    for (std::size_t i = 0; i < presetGradient_.size(); ++i) {
+        const auto position = static_cast<std::int64_t>(i);
+        getPresetGradientItemPos(position + 1);
+        presetGradient_[i].index = position;
+    }
+    gradientIndex_ = static_cast<std::int64_t>(presetGradient_.size());
+    view_.thumbnailsMoved();
+}
+
+void PresetGallery::append(Preset preset) {
+    const std::size_t position = presetGradient_.size();
+    const Point pos = getPresetGradientItemPos(static_cast<std::int64_t>(position) + 1);
+    preset.index = gradientIndex_++;
+    presetGradient_.push_back(std::move(preset));
+    view_.thumbnailInserted(position);
+    maxPresetGradientRow_ = truncated(pos.y + 1);
+    redrawPresetGradientContainer(false);
+}
+
+void PresetGallery::addGradientIntoPreset(const void* sender) {
+    const GlobalData& data = GlobalData::sharedData();
+    append(
+        {data.colorMarkerPos(), data.colorMarkerColor(), data.colorMarkerOpacity(), data.orientationType()});
+    if (sender != nullptr) {
+        actions_.insertData();
+    }
+}
+
+void PresetGallery::addGradientIntoPresetWithColorMarkerPos(std::vector<double> colorMarkerPos,
+                                                            std::vector<Color> colorMarkerColor,
+                                                            std::vector<double> colorMarkerOpacity,
+                                                            std::int64_t orientationType) {
+    append({std::move(colorMarkerPos), std::move(colorMarkerColor), std::move(colorMarkerOpacity),
+            orientationType});
+}
+
+void PresetGallery::updateGradientNotification(const Notification& notification) {
+    DiagnosticLog::write("updateGradientNotification");
+    std::optional<Preset> preset = presetNotification::presetOf(notification);
+    if (!preset) {
+        return;
+    }
+    GlobalData& data = GlobalData::sharedData();
+    data.setColorMarkerPos(std::move(preset->colorMarkerPos));
+    data.setColorMarkerColor(std::move(preset->colorMarkerColor));
+    data.setColorMarkerOpacity(std::move(preset->colorMarkerOpacity));
+    data.setOrientationType(preset->orientationType);
+    actions_.presetApplied();
+}
+
+void PresetGallery::deletePresetGradientNotification(const Notification& notification) {
+    DiagnosticLog::write("deletePresetGradientNotification");
+    const std::optional<std::int64_t> index = presetNotification::indexOf(notification);
+    if (!index) {
+        return;
+    }
+    DiagnosticLog::write("index: " + std::to_string(*index));
+    if (*index < 0 || *index >= static_cast<std::int64_t>(presetGradient_.size())) {
+        return;
+    }
+    view_.thumbnailRemoved(static_cast<std::size_t>(*index));
+    presetGradient_.erase(presetGradient_.begin() + *index);
+    redrawPresetGradientContainer(true);
+    actions_.insertData();
+}
+
+} // namespace tessaly

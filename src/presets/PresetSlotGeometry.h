@@ -1,0 +1,51 @@
+#pragma once
+
+#include "foundation/Geometry.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace tessaly {
+
+/// Where the thumbnails of the presets lie in their container: rows of five, from the top. In points, origin
+/// at the container's top left corner, y downwards.
+class PresetSlotGeometry {
+  public:
+    static constexpr std::int64_t wideThumbDistant = 52;
+    static constexpr std::int64_t narrowThumbDistant = 49; ///< leaves room for a vertical scroller
+    static constexpr std::size_t thumbnailsPerRow = 5;
+    static constexpr double thumbnailSize = 40.0;
+    static constexpr double containerWidth = 263.0;
+
+    /// Positions in the list of presets, from `first` up to but not including `last`.
+    struct Range {
+        std::size_t first = 0;
+        std::size_t last = 0;
+
+        bool operator==(const Range&) const = default;
+    };
+
+    /// `thumbDistant`: from one column to the next.
+    explicit PresetSlotGeometry(std::int64_t thumbDistant)
+        : thumbDistant_{static_cast<double>(thumbDistant)} {}
+
+    /// Column and row, counting from 0, of a slot counting from 1.
+    static Point itemPos(std::int64_t slot);
+
+    static Size containerSize(std::int64_t rows);
+    static std::int64_t thumbDistantFor(double containerHeight, double scrollViewHeight);
+
+    Rect thumbnailRect(std::size_t position) const;
+
+    /// The position of the thumbnail at a point, if one of `count` thumbnails is there.
+    std::optional<std::size_t> positionAt(Point point, std::size_t count) const;
+
+    /// Those of `count` thumbnails that lie, with any part of them, between two heights.
+    static Range positionsBetween(double top, double bottom, std::size_t count);
+
+  private:
+    double thumbDistant_;
+};
+
+} // namespace tessaly

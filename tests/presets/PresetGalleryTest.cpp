@@ -1,0 +1,151 @@
+#include "presets/PresetGallery.h"
+
+#include "model/GlobalData.h"
+#include "presets/PresetNotification.h"
+#include "support/FakeGalleryView.h"
+#include "support/Gradients.h"
+#include "support/LogCapture.h"
+
+#include <gtest/gtest.h>
+
+namespace tessaly {
+namespace {
+
+TEST(PresetSlotGeometry, placesFiveThumbnailsARow) {
+    const struct {
+        std::int64_t distant;
+        std::size_t position;
+        Point origin;
+    } rows[] = {{52, 0, {15, 15}},  {52, 4, {223, 15}}, {52, 5, {15, 60}},       {49, 1, {64, 15}},
+                {49, 3, {162, 15}}, {49, 9, {211, 60}}, {52, 9999, {223, 89970}}};
+    for (const auto& [distant, position, origin] : rows) {
+        EXPECT_EQ(PresetSlotGeometry{distant}.thumbnailRect(position), (Rect{origin.x, origin.y, 40, 40}));
+    }
+}
+
+TEST(PresetSlotGeometry, hitTestAndVisibleRangeAgreeWithTheRectangles) {
+    const PresetSlotGeometry slots{PresetSlotGeometry::narrowThumbDistant};
+    for (const std::size_t count : {0U, 1U, 5U, 13U}) {
+        for (int line = 0; line < 128; ++line) {
+            const double y = 2.5 * line - 60;
+            const auto visible = PresetSlotGeometry::positionsBetween(y, y + 30, count);
+            for (std::size_t i = 0; i < 20; ++i) {
+                const Rect rect = slots.thumbnailRect(i);
+                EXPECT_EQ(visible.first <= i && i < visible.last,
+                          i < count && rect.maxY() > y && rect.y < y + 30)
+                    << i << " of " << count << " at " << y;
+            }
+            for (int column = 0; column < 156; ++column) {
+                const double x = 2.5 * column - 60;
+                std::optional<std::size_t> hit;
+                for (std::size_t i = 0; i < count; ++i) {
+                    hit = slots.thumbnailRect(i).contains({x, y}) ? i : hit;
+                }
+                ASSERT_EQ(slots.positionAt({x, y}, count), hit) << x << ' ' << y << " of " << count;
+            }
+        }
+    }
+}
+
+class PresetGalleryTest : public testing::Test {
+  protected:
+    PresetGalleryTest() {
+        resetToDefaultGradient();
+        gallery.observeNotifications();
+    }
+
+    void add(int count, const void* sender = nullptr) {
+        for (int i = 0; i < count; ++i) {
+            GlobalData::sharedData().setOrientationType(i); // tells the presets apart
+            gallery.addGradientIntoPreset(sender);
+        }
+    }
+
+    static void post(const Notification& notification) {
+        NotificationCenter::defaultCenter().post(notification);
+    }
+    void remove(std::int64_t index) const { post(presetNotification::makeDeleteGradient(index, this)); }
+
+    LogCapture log;
+    FakeGalleryView view;
+    int applied = 0;
+    int saves = 0;
+    PresetGallery gallery{view, {[this] { ++applied; }, [this] { ++saves; }}};
+};
+
+TEST_F(PresetGalleryTest, growsByRowsAndNarrowsWhenTheScrollerNeedsRoom) {
+    const struct {
+        int presets;
+        double height;
+        std::int64_t distant;
+        int relayouts;
+    } rows[] = {{0, 125, 52, 0},  {1, 170, 52, 0},  {6, 215, 52, 0},
+                {10, 215, 52, 0}, {11, 260, 49, 1}, {12, 260, 49, 1}};
+    view.scrollHeight = 260;
+    for (const auto& [presets, height, distant, relayouts] : rows) {
+        add(presets - view.thumbnails);
+        EXPECT_EQ(view.containerSize, (Size{263, height})) << presets;
+        EXPECT_EQ(gallery.slots().thumbnailRect(1).x, 15.0 + static_cast<double>(distant)) << presets;
+        EXPECT_EQ(view.relayouts, relayouts) << presets;
+        EXPECT_EQ(gallery.gradientIndex(), presets);
+    }
+    EXPECT_EQ(saves, 0) << "without a sender nothing is saved";
+}
+
+TEST_F(PresetGalleryTest, deletingMovesTheLaterOnesAndKeepsTheHeight) {
+    add(4, this);
+    EXPECT_EQ(saves, 4);
+    log.messages.clear();
+    remove(1);
+    EXPECT_EQ(log.messages, (std::vector<std::string>{"deletePresetGradientNotification", "index: 1",
+                                                      "Index: 1", "PosX: 0.000000; PosY: 0.000000",
+                                                      "Index: 2", "PosX: 1.000000; PosY: 0.000000",
+                                                      "Index: 3", "PosX: 2.000000; PosY: 0.000000"}));
+    EXPECT_EQ(gallery.presetGradient()[1].orientationType, 2) << "the second went, not another";
+    EXPECT_EQ(gallery.presetGradient()[1].index, 1);
+    EXPECT_EQ(gallery.gradientIndex(), 3);
+    EXPECT_EQ(saves, 5);
+    add(4);
+    for (const std::int64_t index : {7, -1, 0, 0, 0, 0, 0, 0, 0}) { // the first two there are not
+        remove(index);
+    }
+    EXPECT_EQ(view.thumbnails, 0);
+    EXPECT_EQ(gallery.gradientIndex(), 0);
+    EXPECT_EQ(view.containerSize.height, 215);
+    add(1);
+    EXPECT_EQ(view.containerSize.height, 170);
+}
+
+TEST_F(PresetGalleryTest, appliesAPresetWithoutTyingItToTheGradient) {
+    GlobalData& data = GlobalData::sharedData();
+    data.setColorFormatType(colorFormat::hsla);
+    const std::vector<double> positions{0.0, 0.5, 1.0};
+    const std::vector<Color> colors{Color::white(), Color::black(), Color::white()};
+    const std::vector<double> opacities{1, 1, 1, 0.2};
+    post({"PresetGradientIndexChanged",
+          &view,
+          {{"colorMarkerPos", positions},
+           {"colorMarkerColor", colors},
+           {"colorMarkerOpacity", opacities},
+           {"orientationType", orientation::radial}}});
+    EXPECT_EQ(log.messages, std::vector<std::string>{"updateGradientNotification"});
+    EXPECT_EQ(data.colorFormatType(), colorFormat::hsla) << "the notation is no part of a preset";
+    gallery.addGradientIntoPreset(nullptr);
+    const Preset preset{positions, colors, opacities, orientation::radial, 0};
+    EXPECT_EQ(gallery.presetGradient()[0], preset);
+
+    data.colorMarkerPos()[1] = 0.7;
+    EXPECT_EQ(gallery.presetGradient()[0], preset);
+    post(presetNotification::makeGradientIndexChanged(preset, &view));
+    EXPECT_EQ(data.colorMarkerPos(), positions);
+    EXPECT_EQ(applied, 2);
+    post({"PresetGradientIndexChanged", &view, {{"index", 0}}}); // no preset with it
+    post({"DeletePresetGradient", &view, {}});
+    EXPECT_EQ(applied, 2);
+    EXPECT_EQ(gallery.presetGradient().size(), 1U);
+    post({"DeletePresetGradient", &view, {{"index", std::int64_t{0}}}});
+    EXPECT_TRUE(gallery.presetGradient().empty());
+}
+
+} // namespace
+} // namespace tessaly
