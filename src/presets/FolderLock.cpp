@@ -1,0 +1,21 @@
+#include "presets/FolderLock.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace tessaly {
+
+FolderLock::FolderLock(const std::filesystem::path& folder)
+    : descriptor_{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)},
+      heldByOther_{descriptor_ >= 0 && ::flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK} {
+}
+
+FolderLock::~FolderLock() {
+    if (descriptor_ >= 0) {
+        ::close(descriptor_);
+    }
+}
+
+} // namespace tessaly

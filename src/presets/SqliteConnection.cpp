@@ -1,0 +1,99 @@
+#include "presets/SqliteConnection.h"
+
+#include "foundation/NumberText.h"
+#include "presets/SqliteStatement.h"
+
+#include <sqlite3.h>
+
+namespace tessaly {
+namespace {
+
+std::optional<std::string> takeMessage(char* message) {
+    if (message == nullptr) {
+        return std::nullopt;
+    }
+    std::string text = message;
+    sqlite3_free(message);
+    return text;
+}
+
+// A path as it stands in a "file:" address.
+std::string escapedPath(const std::filesystem::path& path) {
+    std::string text;
+    for (const char c : path.native()) {
+        if (c == '%' || c == '?' || c == '#') {
+            text += '%' + hexByteText(static_cast<unsigned char>(c));
+        } else {
+            text += c;
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+bool SqliteResult::isDamage() const {
+    const int primary = code & 0xff;
+    return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB;
+}
+
+bool SqliteResult::isDiskFailure() const {
+    const int primary = code & 0xff; // 778, say, is the 10 of any I/O error with a detail
+    return primary == SQLITE_FULL || primary == SQLITE_IOERR || primary == SQLITE_CANTOPEN;
+}
+
+void SqliteConnection::Closer::operator()(sqlite3* handle) const {
+    sqlite3_close(handle);
+}
+
+SqliteConnection SqliteConnection::open(const std::string& name, int flags) {
+    sqlite3* handle = nullptr;
+    const int code = sqlite3_open_v2(name.c_str(), &handle, flags, nullptr);
+    SqliteConnection connection;
+    connection.handle_.reset(handle); // SQLite hands one out on failure too, to be closed
+    return code == SQLITE_OK ? std::move(connection) : SqliteConnection{};
+}
+
+SqliteConnection SqliteConnection::open(const std::filesystem::path& file) {
+    return open(file.native(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+SqliteConnection SqliteConnection::openImmutable(const std::filesystem::path& file) {
+    return open("file:" + escapedPath(file) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+}
+
+SqliteResult SqliteConnection::execute(const std::string& statement) const {
+    if (!isOpen()) {
+        return {SQLITE_CANTOPEN, errorText()};
+    }
+    char* message = nullptr;
+    const int code = sqlite3_exec(handle(), statement.c_str(), nullptr, nullptr, &message);
+    return {code, takeMessage(message)};
+}
+
+SqliteResult SqliteConnection::queryTable(const std::string& query, int& columns) const {
+    columns = 0;
+    if (!isOpen()) {
+        return {SQLITE_CANTOPEN, errorText()};
+    }
+    char** table = nullptr;
+    char* message = nullptr;
+    const int code = sqlite3_get_table(handle(), query.c_str(), &table, nullptr, &columns, &message);
+    sqlite3_free_table(table);
+    return {code, takeMessage(message)};
+}
+
+std::optional<std::string> SqliteConnection::value(const std::string& query) const {
+    SqliteStatement statement = SqliteStatement::prepare(*this, query);
+    return statement.step() == SQLITE_ROW ? std::optional{statement.text(0)} : std::nullopt;
+}
+
+std::string SqliteConnection::errorText() const {
+    return isOpen() ? sqlite3_errmsg(handle()) : sqlite3_errstr(SQLITE_CANTOPEN);
+}
+
+std::int64_t SqliteConnection::totalChanges() const {
+    return isOpen() ? sqlite3_total_changes64(handle()) : 0;
+}
+
+} // namespace tessaly

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+struct sqlite3_stmt;
+
+namespace tessaly {
+
+class SqliteConnection;
+
+/// A prepared statement, or none when its text could not be prepared: then every step fails. Must not outlive
+/// its connection.
+class SqliteStatement {
+  public:
+    /// Prepares the whole text by the second-generation call.
+    static SqliteStatement prepare(const SqliteConnection& connection, const std::string& text);
+
+    /// Prepares by the first-generation call, handing on the text's length in UTF-16 units instead of bytes.
+    /// That deliberately cuts the end off a text that is not plain ASCII, for who counts on it.
+    static SqliteStatement prepareFirstGeneration(const SqliteConnection& connection,
+                                                  const std::string& text);
+
+    /// Parameters count from 1.
+    void bind(int parameter, std::int32_t value);
+    void bind(int parameter, double value);
+
+    /// SQLITE_ROW, SQLITE_DONE or an error code.
+    int step();
+
+    /// Columns of the current row, counting from 0; NULL reads 0, 0.0 or an empty text.
+    int columnCount() const;
+    std::int64_t integer(int column) const;
+    double real(int column) const;
+    std::string text(int column) const;
+
+  private:
+    struct Finalizer {
+        void operator()(sqlite3_stmt* handle) const;
+    };
+
+    explicit SqliteStatement(sqlite3_stmt* handle) : handle_{handle} {}
+
+    std::unique_ptr<sqlite3_stmt, Finalizer> handle_;
+};
+
+} // namespace tessaly
