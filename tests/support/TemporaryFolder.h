@@ -17,8 +17,8 @@ inline std::string contentsOf(const std::filesystem::path& file) {
 /// A fresh folder that goes with the test.
 class TemporaryFolder {
   public:
-    TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tessaly-test-XXXXXX").native();
+    explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
+        std::string name = (parent / "tessaly-test-XXXXXX").native();
         if (::mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error{"no temporary folder"};
         }
