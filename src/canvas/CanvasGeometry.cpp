@@ -14,6 +14,12 @@ namespace {
 constexpr double markerInset = 10;   // from a marker's corner to its centre
 constexpr double markerOverlap = 15; // corner of the markers that run 5 points inside an edge of the strip
 
+// Half of an extent, cut to whole points.
+double wholeHalf(std::int64_t extent) {
+    const std::int64_t half = extent / 2;
+    return static_cast<double>(half);
+}
+
 } // namespace
 
 CanvasGeometry::CanvasGeometry(Size viewSize)
@@ -41,8 +47,7 @@ Rect CanvasGeometry::markerRect(std::int64_t orientation, double position) const
         corner = {width * position + markerInset, height * position + markerInset};
         break;
     case orientation::radial:
-        corner = {width * position * 0.5 + static_cast<double>(extentX_ / 2) + markerInset,
-                  static_cast<double>(extentY_ / 2)};
+        corner = {width * position * 0.5 + wholeHalf(extentX_) + markerInset, wholeHalf(extentY_)};
         break;
     default:
         corner = {width - width * position + markerInset, height * position + markerInset};
@@ -112,13 +117,13 @@ std::int64_t CanvasGeometry::dragLimit(std::int64_t orientation) const {
 
 double CanvasGeometry::dragOffset(std::int64_t orientation, double position) const {
     const double way = static_cast<double>(dragLimit(orientation)) * position;
-    return orientation == orientation::radial ? way * 0.5 + static_cast<double>(extentX_ / 2) : way;
+    return orientation == orientation::radial ? way * 0.5 + wholeHalf(extentX_) : way;
 }
 
 double CanvasGeometry::positionAtDragOffset(std::int64_t orientation, std::int64_t offset) const {
     const std::int64_t limit = dragLimit(orientation);
     if (orientation == orientation::radial) {
-        return std::max(0.0, static_cast<double>(offset - limit / 2) / static_cast<double>(limit / 2));
+        return std::max(0.0, (static_cast<double>(offset) - wholeHalf(limit)) / wholeHalf(limit));
     }
     return static_cast<double>(offset) / static_cast<double>(limit);
 }

@@ -2,6 +2,7 @@
 
 #include "foundation/Geometry.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 
@@ -24,7 +25,7 @@ class CanvasGeometry {
     static constexpr Size colorMarkerSize{20, 20};         ///< of the whole marker
     static constexpr Rect markerDot{7, 7, 6, 6};           ///< colour of a stop, within its marker
     static constexpr Rect selectedMarkerDot{3, 3, 14, 14}; ///< the same for the selected stop
-    static constexpr double guideDash[2] = {10, 15};       ///< points on, points off
+    static constexpr std::array guideDash{10.0, 15.0};     ///< points on, points off
 
     /// The way along a track, in points from where position 0 is, and where it ends.
     struct TrackOffset {

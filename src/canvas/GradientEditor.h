@@ -19,6 +19,7 @@ class GradientEditor {
     GradientEditor(Size viewSize, CanvasSurface& surface, const StopControlSet& controls);
     GradientEditor(const GradientEditor&) = delete;
     GradientEditor& operator=(const GradientEditor&) = delete;
+    ~GradientEditor() = default;
 
     /// Sets the editor up with the default gradient; once, when everything is wired.
     void awakeFromNib();

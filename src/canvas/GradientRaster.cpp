@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <span>
 #include <vector>
 
 namespace tessaly {
@@ -38,19 +39,20 @@ void fillShifted(const PixelBuffer& buffer, PixelSpan columns, PixelSpan rows, i
     }
 }
 
-// One side of a row of a radial gradient, from the middle outwards, so that the position only grows.
-template <typename Pixel>
-void fillOutwards(Pixel pixel, int count, double x, double step, double y, const GradientRamp& ramp) {
+// One side of a row of a radial gradient, from the middle outwards, so that the position only grows: pixel i
+// is at x + i * step from the middle.
+void fillOutwards(std::span<std::uint32_t> pixels, double x, double step, double y,
+                  const GradientRamp& ramp) {
     const double ySquared = y * y;
-    int i = 0;
+    std::size_t i = 0;
     for (const GradientRamp::Segment& segment : ramp.segments()) {
-        for (; i < count; ++i, ++pixel) {
-            const double here = x + i * step;
-            const double t = std::sqrt(here * here + ySquared);
-            if (t >= segment.end) {
-                break;
-            }
-            *pixel = segment.pixelAt(t);
+        const double reach = std::sqrt(std::max(segment.end * segment.end - ySquared, 0.0));
+        const double end = std::max(std::ceil((reach - x) / step), 0.0);
+        const std::size_t last =
+            end < static_cast<double>(pixels.size()) ? static_cast<std::size_t>(end) : pixels.size();
+        for (; i < last; ++i) {
+            const double here = x + static_cast<double>(i) * step;
+            pixels[i] = segment.pixelAt(std::sqrt(here * here + ySquared));
         }
     }
 }
@@ -96,7 +98,11 @@ void fillLinear(const PixelBuffer& buffer, const Rect& box, GradientDirection di
 void fillRadial(const PixelBuffer& buffer, Point center, double radius, const GradientRamp& ramp) {
     const double step = 1 / (buffer.scale * radius);
     const int middle = PixelSpan{center.x * buffer.scale, center.x * buffer.scale, buffer.width}.begin;
-    // Where the middle lies between two rows or on one, the lower half repeats the upper.
+    const double right = (buffer.x(middle) - center.x) / radius;
+    const double left = (center.x - buffer.x(middle - 1)) / radius;
+    const int rightCount = buffer.width - middle;
+    std::vector<std::uint32_t> side(static_cast<std::size_t>(std::max(middle, rightCount)));
+    // Where the middle lies between two rows or on one, the lower half repeats the upper; so do the sides.
     const double rowSum = 2 * (buffer.top - center.y) * buffer.scale - 1;
     const bool symmetric = rowSum == std::floor(rowSum);
     for (int row = 0; row < buffer.height; ++row) {
@@ -107,10 +113,12 @@ void fillRadial(const PixelBuffer& buffer, Point center, double radius, const Gr
             continue;
         }
         const double y = (buffer.y(row) - center.y) / radius;
-        fillOutwards(pixels.begin() + middle, buffer.width - middle, (buffer.x(middle) - center.x) / radius,
-                     step, y, ramp);
-        fillOutwards(std::make_reverse_iterator(pixels.begin() + middle), middle,
-                     (center.x - buffer.x(middle - 1)) / radius, step, y, ramp);
+        fillOutwards(side, right, step, y, ramp);
+        std::copy_n(side.begin(), rightCount, pixels.begin() + middle);
+        if (left != right) {
+            fillOutwards(side, left, step, y, ramp);
+        }
+        std::reverse_copy(side.begin(), side.begin() + middle, pixels.begin());
     }
 }
 

@@ -42,7 +42,7 @@ bool MarkerInteraction::addAt(Point point) {
     if (place < minColorMarkerPos_ || place > limit) {
         return false;
     }
-    const double way = static_cast<double>(radial ? place - minColorMarkerPos_ : place);
+    const auto way = static_cast<double>(radial ? place - minColorMarkerPos_ : place);
     markers_.addColorMarker(Color::black(), way / static_cast<double>(limit - minColorMarkerPos_), 1.0,
                             ColorMarkers::insertSorted);
     repaint_();

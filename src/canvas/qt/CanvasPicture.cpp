@@ -62,10 +62,7 @@ void CanvasPicture::createColorMarker() {
 }
 
 void CanvasPicture::paintScene() {
-    backgroundOffscreenRep_.fill(controlColor_);
-    if (!scene_->stops.empty()) {
-        paintGradient();
-    }
+    paintGradient();
     QPainter painter{&backgroundOffscreenRep_};
     painter.setRenderHint(QPainter::Antialiasing);
     if (scene_->guideLine) {
@@ -78,6 +75,10 @@ void CanvasPicture::paintScene() {
 
 void CanvasPicture::paintGradient() {
     QImage& image = backgroundOffscreenRep_;
+    image.fill(controlColor_);
+    if (scene_->stops.empty()) {
+        return;
+    }
     auto* const pixels = reinterpret_cast<std::uint32_t*>(image.bits());
     const auto count = static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
     const PixelBuffer buffer{std::span{pixels, count}, image.width(), image.height(), devicePixelRatio_,

@@ -15,7 +15,7 @@ namespace tessaly {
 namespace {
 
 // An odd height puts the guide of the radial gradient on a row of pixels.
-constexpr QSize viewSize{640, 197};
+constexpr QSize viewSize{624, 197};
 
 constexpr int shiftedStep = 10; // points that an arrow key moves a marker with Shift
 

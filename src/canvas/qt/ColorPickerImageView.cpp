@@ -26,7 +26,7 @@ ColorPickerImageView::ColorPickerImageView(QWidget* parent) : QWidget{parent} {
 }
 
 QSize ColorPickerImageView::sizeHint() const {
-    return {64, 32};
+    return {64, 24};
 }
 
 void ColorPickerImageView::setBackgroundColor(const Color& color) {

@@ -5,6 +5,7 @@
 #include "foundation/DiagnosticLog.h"
 
 #include <QEvent>
+#include <QLoggingCategory>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineProfile>
@@ -14,6 +15,8 @@
 namespace tessaly {
 
 void WebPreviewView::prepareProcess() {
+    // The engine reports its whole configuration otherwise, in the middle of our log.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.*=false"));
     if (::geteuid() == 0 && !qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX")) {
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
         DiagnosticLog::write(
@@ -71,19 +74,23 @@ void WebPreviewView::startEngine() {
     filter_ = std::make_unique<PreviewRequestFilter>();
     profile_ = std::make_unique<QWebEngineProfile>(); // off the record: nothing is kept
     profile_->setUrlRequestInterceptor(filter_.get());
+    makeView();
+}
+
+void WebPreviewView::makeView() {
+    view_.reset();
+    delete container_;
     page_ = std::make_unique<PreviewPage>(*profile_);
     takeBackground();
     connect(page_.get(), &QWebEnginePage::loadFinished, this, &WebPreviewView::loadFinished);
-    connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, [this] {
-        DiagnosticLog::write("The preview's render process ended; loading the page again");
-        loading_ = false;
-        QTimer::singleShot(0, this, &WebPreviewView::reload); // not from within the engine's own report
-    });
+    connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, &WebPreviewView::renderProcessEnded);
     view_ = std::make_unique<QWebEngineView>();
     view_->setAttribute(Qt::WA_QuitOnClose, false);
     view_->setPage(page_.get());
     view_->setContextMenuPolicy(Qt::NoContextMenu);
     view_->setAccessibleName(tr("Web preview"));
+    loading_ = false;
+    reloadAgain_ = false;
     if (url_.isValid()) {
         loadPage();
     }
@@ -93,8 +100,17 @@ void WebPreviewView::startEngine() {
 void WebPreviewView::embedView() {
     // As a child widget the view would make the toolkit build the main window anew, visibly, and draw all of
     // it through the graphics card from then on. As a native window of its own it concerns nobody else.
+    view_->resize(size());
     view_->winId();
-    layout()->addWidget(QWidget::createWindowContainer(view_->windowHandle()));
+    container_ = QWidget::createWindowContainer(view_->windowHandle());
+    layout()->addWidget(container_);
+}
+
+void WebPreviewView::renderProcessEnded() {
+    DiagnosticLog::write("The preview's render process ended; making the preview anew");
+    // Not at once: a page that ends its process each time must not keep the machine busy. The old view may go
+    // on showing nothing even when its page loads again, so it is replaced.
+    QTimer::singleShot(200, this, &WebPreviewView::makeView);
 }
 
 void WebPreviewView::takeBackground() {

@@ -25,6 +25,8 @@ class WebPreviewView : public QWidget, public WebView {
     static void prepareProcess();
 
     explicit WebPreviewView(QWidget* parent = nullptr);
+    WebPreviewView(const WebPreviewView&) = delete;
+    WebPreviewView& operator=(const WebPreviewView&) = delete;
     ~WebPreviewView() override;
 
     void loadFile(const std::filesystem::path& page) override;
@@ -40,7 +42,9 @@ class WebPreviewView : public QWidget, public WebView {
 
   private:
     void startEngine();
+    void makeView();
     void embedView();
+    void renderProcessEnded();
     void loadPage();
     void loadFinished();
     void takeBackground();
@@ -48,6 +52,7 @@ class WebPreviewView : public QWidget, public WebView {
     QUrl url_;
     bool loading_ = false;
     bool reloadAgain_ = false;
+    QWidget* container_ = nullptr; ///< what the view's window is embedded in
     // In the order in which the engine wants them to end: the view first, the profile last.
     std::unique_ptr<PreviewRequestFilter> filter_;
     std::unique_ptr<QWebEngineProfile> profile_;

@@ -64,10 +64,10 @@ class CanvasViewTest : public testing::Test {
 
 TEST_F(CanvasViewTest, dragsAddsAndDeletesWithTheMouse) {
     QTest::mousePress(canvas, Qt::LeftButton, {}, marker(0));
-    QTest::mouseMove(canvas, marker(0) + QPoint{150, -40});
+    QTest::mouseMove(canvas, marker(0) + QPoint{146, -40});
     QTest::mouseRelease(canvas, Qt::LeftButton, {}, marker(0));
     EXPECT_EQ(data().colorMarkerPos(), (Positions{0.25, 1.0}));
-    QTest::mouseDClick(canvas, Qt::LeftButton, {}, {20 + 300, 150});
+    QTest::mouseDClick(canvas, Qt::LeftButton, {}, {20 + 292, 150});
     QTest::mouseRelease(canvas, Qt::LeftButton);
     EXPECT_EQ(data().colorMarkerPos(), (Positions{0.25, 0.5, 1.0}));
     QContextMenuEvent menu{QContextMenuEvent::Mouse, marker(0), canvas->mapToGlobal(marker(0))};
@@ -83,7 +83,7 @@ TEST_F(CanvasViewTest, movesSelectsAndDeletesWithTheKeyboard) {
     canvas->setFocus();
     key(*canvas, Qt::Key_Left, Qt::ShiftModifier);
     key(*canvas, Qt::Key_Right);
-    EXPECT_DOUBLE_EQ(data().colorMarkerPos()[1], 591.0 / 600);
+    EXPECT_DOUBLE_EQ(data().colorMarkerPos()[1], 575.0 / 584);
     key(*canvas, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(canvas->editor().markers().selectedColorMarkerIndex(), 0);
     EXPECT_TRUE(canvas->hasFocus());

@@ -1,0 +1,101 @@
+#include "app/MainWindow.h"
+#include "app/Tessaly.h"
+#include "canvas/qt/CanvasView.h"
+#include "canvas/qt/StopControlPanel.h"
+#include "support/TemporaryFolder.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// The whole program without its event loop. The preview has not been looked at, so no browser engine runs.
+class Program {
+  public:
+    Program() {
+        GlobalData::sharedData() = GlobalData{};
+        window.canvasView().awakeFromNib();
+        controller.awakeFromNib();
+    }
+
+    GradientEditor& editor() { return window.canvasView().editor(); }
+
+    void setStops(std::int64_t orientation, std::int64_t count) {
+        GlobalData& data = GlobalData::sharedData();
+        data.setOrientationType(orientation);
+        data.setColorMarkerPos({});
+        data.setColorMarkerColor({});
+        for (std::int64_t i = 0; i < count; ++i) {
+            const double at = static_cast<double>(i) / static_cast<double>(count - 1);
+            data.colorMarkerPos().push_back(at);
+            data.colorMarkerColor().push_back(Color::calibratedRGB(at, 1 - at, i % 2 == 0 ? 0.0 : 1.0));
+        }
+        data.setColorMarkerOpacity(std::vector<double>(static_cast<std::size_t>(count), 1.0));
+        editor().repaint();
+    }
+
+    TemporaryFolder temporary;
+    MainWindow window;
+    Tessaly controller{window, temporary.path};
+};
+
+// Median and worst time of `step`, which is told its number, in milliseconds.
+void measure(benchmark::State& state, auto step) {
+    std::vector<double> times;
+    for (auto _ : state) {
+        const auto start = Clock::now();
+        step(times.size());
+        times.push_back(std::chrono::duration<double>(Clock::now() - start).count());
+        state.SetIterationTime(times.back());
+    }
+    std::sort(times.begin(), times.end());
+    state.counters["median_ms"] = 1e3 * times[times.size() / 2];
+    state.counters["worst_ms"] = 1e3 * times.back();
+}
+
+// One repaint of a changed gradient from the idle form, nested repaint included, nobody listening.
+void createBackground(benchmark::State& state) {
+    StopControlPanel panel;
+    CanvasView canvas{panel};
+    GlobalData::sharedData() = GlobalData{};
+    canvas.awakeFromNib();
+    GlobalData& data = GlobalData::sharedData();
+    data.setOrientationType(state.range(0));
+    for (int i = 1; i < 9; ++i) {
+        canvas.editor().markers().addColorMarker(Color::calibratedRGB(i / 9.0, 0.5, 1 - i / 9.0), i / 9.0,
+                                                 1.0, ColorMarkers::insertSorted);
+    }
+    measure(state, [&](std::size_t number) {
+        data.colorMarkerPos()[4] =
+            0.4 + 1e-6 * static_cast<double>(number % 1000); // another picture each time
+        canvas.editor().createBackground();
+    });
+}
+
+// A mouse move with a marker in hand: arrays, picture, eight replacements in the text view, file on the disk.
+void dragStep(benchmark::State& state) {
+    Program program;
+    program.setStops(orientation::leftToRight, state.range(0));
+    const CanvasGeometry& geometry = program.editor().geometry();
+    MarkerInteraction& mouse = program.editor().interaction();
+    mouse.mouseDown(geometry.markerRect(orientation::leftToRight, 0.0).center(), 1);
+    measure(state, [&](std::size_t number) {
+        mouse.mouseDragged({20.0 + static_cast<double>(number % 600), 25.0});
+    });
+}
+
+BENCHMARK(createBackground)
+    ->ArgName("orientation")
+    ->DenseRange(0, 4)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(dragStep)->ArgName("stops")->Args({10})->Args({100})->Iterations(1000)->UseManualTime()->Unit(
+    benchmark::kMillisecond);
+
+} // namespace
+} // namespace tessaly

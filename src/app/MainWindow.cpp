@@ -1,0 +1,87 @@
+#include "app/MainWindow.h"
+
+#include "canvas/qt/CanvasView.h"
+#include "canvas/qt/StopControlPanel.h"
+#include "chrome/qt/MainTabView.h"
+#include "codegen/qt/WebPreviewView.h"
+#include "sourceview/qt/Css3SourceView.h"
+#include "sourceview/qt/HtmlSourceView.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace tessaly {
+namespace {
+
+constexpr int margin = 16;
+constexpr int spacing = 8;
+constexpr QSize startSize{980, 760};
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QWidget{parent},
+      stopControlPanel_{new StopControlPanel},
+      canvasView_{new CanvasView{*stopControlPanel_}},
+      mainTabView_{new MainTabView{{tr("CSS 3"), tr("HTML"), tr("Web Preview")}}},
+      sourceCodeContainerView_{new QStackedWidget},
+      css3SourceView_{new Css3SourceView},
+      htmlSourceView_{new HtmlSourceView},
+      webPreviewView_{new WebPreviewView},
+      aboutButton_{new QPushButton{tr("&About")}},
+      homepageButton_{new QPushButton{tr("Ho&mepage")}},
+      relatedAppsButton_{new QPushButton{tr("Related App&lications")}} {
+    setWindowTitle(QStringLiteral("Tessaly"));
+    layOut();
+    auto* const quit = new QAction{this};
+    quit->setShortcut(QKeySequence{Qt::CTRL | Qt::Key_Q});
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+    addAction(quit);
+    resize(startSize);
+}
+
+void MainWindow::layOut() {
+    auto* const editor = new QVBoxLayout;
+    editor->setSpacing(margin);
+    editor->addWidget(canvasView_);
+    editor->addWidget(stopControlPanel_);
+    editor->addStretch();
+
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(spacing);
+    buttons->addStretch();
+    buttons->addWidget(aboutButton_);
+    buttons->addWidget(homepageButton_);
+    buttons->addWidget(relatedAppsButton_);
+
+    auto* const side = new QVBoxLayout;
+    side->addStretch();
+    side->addLayout(buttons);
+
+    auto* const top = new QHBoxLayout;
+    top->setSpacing(margin);
+    top->addLayout(editor);
+    top->addLayout(side, 1);
+
+    for (QWidget* const page :
+         {static_cast<QWidget*>(css3SourceView_), static_cast<QWidget*>(htmlSourceView_),
+          static_cast<QWidget*>(webPreviewView_)}) {
+        sourceCodeContainerView_->addWidget(page);
+    }
+    auto* const code = new QVBoxLayout;
+    code->setSpacing(0);
+    code->addWidget(mainTabView_);
+    code->addWidget(sourceCodeContainerView_, 1);
+
+    auto* const whole = new QVBoxLayout{this};
+    whole->setContentsMargins(margin, margin, margin, margin);
+    whole->setSpacing(margin);
+    whole->addLayout(top);
+    whole->addLayout(code, 1);
+}
+
+} // namespace tessaly

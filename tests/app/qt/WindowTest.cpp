@@ -1,0 +1,130 @@
+// The whole window with a real browser engine, on a display.
+
+#include "app/MainWindow.h"
+#include "app/Tessaly.h"
+#include "canvas/qt/CanvasView.h"
+#include "chrome/qt/MainTabView.h"
+#include "codegen/qt/WebPreviewView.h"
+#include "foundation/Utf8.h"
+#include "sourceview/qt/Css3SourceView.h"
+#include "sourceview/qt/CustomTextView.h"
+#include "sourceview/qt/HtmlSourceView.h"
+#include "support/Eventually.h"
+#include "support/LogCapture.h"
+#include "support/TemporaryFolder.h"
+
+#include <QScreen>
+#include <QStackedWidget>
+#include <QTest>
+#include <QWebEngineView>
+#include <csignal>
+#include <gtest/gtest.h>
+
+namespace tessaly {
+namespace {
+
+class WindowTest : public testing::Test {
+  protected:
+    WindowTest() {
+        GlobalData::sharedData() = GlobalData{};
+        window.canvasView().awakeFromNib();
+        tessaly.awakeFromNib();
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+
+    std::string stylesheet() const {
+        return toUtf8(std::u16string{window.css3SourceView().textView()->text()});
+    }
+    std::string stylesheetFile() const { return contentsOf(temporary.path / "WebFolder0" / "styles.css"); }
+
+    void dragWhiteMarker(int dx) {
+        CanvasView& canvas = window.canvasView();
+        const QPoint marker = canvas.accessibleItemRect(canvas.currentAccessibleItem()).center();
+        QTest::mousePress(&canvas, Qt::LeftButton, {}, marker);
+        QTest::mouseMove(&canvas, marker + QPoint{dx, 0});
+        QTest::mouseRelease(&canvas, Qt::LeftButton, {}, marker + QPoint{dx, 0});
+    }
+
+    QWidget* shownPage() const { return window.sourceCodeContainerView().currentWidget(); }
+
+    // The level of grey that the screen shows at that share of the width of the preview's box.
+    int previewLevel(double share) const {
+        const WebPreviewView& preview = window.webPreviewView();
+        constexpr int bodyMargin = 8;
+        const int x = bodyMargin + static_cast<int>((preview.width() - 2 * bodyMargin) * share);
+        const QPoint place = preview.mapTo(&window, QPoint{x, 100});
+        return window.screen()->grabWindow(window.winId()).toImage().pixelColor(place).green();
+    }
+
+    bool previewComesToShow(double share, int level) const {
+        return eventually([&] { return std::abs(previewLevel(share) - level) <= 4; });
+    }
+
+    const LogCapture log;
+    const TemporaryFolder temporary;
+    MainWindow window;
+    Tessaly tessaly{window, temporary.path};
+};
+
+TEST_F(WindowTest, aDraggedMarkerReachesTextFileAndPreview) {
+    EXPECT_EQ(shownPage(), &window.css3SourceView());
+    dragWhiteMarker(-292);
+    EXPECT_NE(stylesheet().find("#ffffff 50%);"), std::string::npos) << stylesheet();
+    EXPECT_EQ(stylesheetFile(), stylesheet());
+
+    EXPECT_EQ(window.webPreviewView().engineView(), nullptr) << "nobody has looked at the preview yet";
+    const WId windowId = window.winId();
+    window.mainTabView().setSelectIndex(2);
+    EXPECT_EQ(shownPage(), &window.webPreviewView());
+    EXPECT_TRUE(previewComesToShow(0.25, 127));
+    dragWhiteMarker(292);
+    EXPECT_TRUE(previewComesToShow(0.25, 63)) << previewLevel(0.25);
+    EXPECT_EQ(window.winId(), windowId) << "the window was made anew under the user's eyes";
+
+    QWebEnginePage* const page = window.webPreviewView().engineView()->page();
+    ::kill(static_cast<pid_t>(page->renderProcessPid()), SIGKILL);
+    dragWhiteMarker(-146);
+    EXPECT_TRUE(previewComesToShow(0.25, 85)) << "back after its render process was killed";
+}
+
+TEST_F(WindowTest, thePreviewReadsItsOwnTwoFilesAndNothingElse) {
+    const auto secret = temporary.path / "secret.css";
+    std::ofstream{secret} << "div{background:red !important}";
+    window.css3SourceView().textView()->textCursor().insertText(QStringLiteral("@import '../secret.css';\n"));
+    dragWhiteMarker(-292);
+    window.mainTabView().setSelectIndex(2);
+    EXPECT_TRUE(previewComesToShow(0.25, 127));
+    QWebEnginePage* const page = window.webPreviewView().engineView()->page();
+    const QUrl url = page->url();
+    page->setUrl(QUrl::fromLocalFile(QString::fromStdString(secret.native())));
+    QTest::qWait(300);
+    EXPECT_EQ(page->url(), url);
+}
+
+TEST_F(WindowTest, listensToItsOwnTabsAndKeepsWhatTheUserTyped) {
+    const int stranger = 0;
+    NotificationCenter::defaultCenter().post({"SelectIndexChanged", &stranger, {{"Index", std::int64_t{1}}}});
+    EXPECT_EQ(shownPage(), &window.css3SourceView());
+    window.mainTabView().setSelectIndex(1);
+    EXPECT_EQ(shownPage(), &window.htmlSourceView());
+    window.mainTabView().setSelectIndex(0);
+
+    auto& view = *window.css3SourceView().textView();
+    view.setFocus();
+    QTest::keyClicks(&view, QStringLiteral("a"));
+    QTest::keyClick(&view, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClicks(&view, QStringLiteral("z"));
+    dragWhiteMarker(-292);
+    EXPECT_EQ(stylesheet().rfind("a.gradient {\n", 0), 0U);
+    EXPECT_NE(stylesheet().find("#ffffff 50%);\n\tbackground: -moz-"), std::string::npos);
+    EXPECT_EQ(stylesheet().substr(stylesheet().size() - 3), "}\nz");
+    QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&view, Qt::Key_Delete);
+    dragWhiteMarker(292);
+    EXPECT_EQ(stylesheet().rfind("\tbackground: #000000;\n", 0), 0U) << "what was deleted comes back";
+    EXPECT_EQ(stylesheetFile(), stylesheet());
+}
+
+} // namespace
+} // namespace tessaly
