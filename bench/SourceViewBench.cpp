@@ -18,7 +18,7 @@ std::u16string textOf(std::size_t units, std::u16string_view line) {
 // Of a text of 10 MB, counted as the file that the code would be: a byte a unit.
 void lineStarts(benchmark::State& state, std::u16string_view line) {
     const std::u16string text = textOf(10'000'000, line);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(LineIndices{text});
     }
 }
@@ -31,7 +31,7 @@ BENCHMARK_CAPTURE(lineStarts, ofOneLine, u"x")->Unit(benchmark::kMillisecond);
 void lookUp(benchmark::State& state) {
     const LineIndices lines{textOf(10'000'000, u"line of text\n")};
     std::size_t index = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         index = (index + 7'654'321) % 10'000'000;
         benchmark::DoNotOptimize(lines.lineNumberForCharacterIndex(index));
     }

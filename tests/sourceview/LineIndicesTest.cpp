@@ -1,7 +1,6 @@
 #include "sourceview/LineIndices.h"
 
 #include <gtest/gtest.h>
-#include <random>
 #include <string>
 
 namespace tessaly {
@@ -41,18 +40,6 @@ TEST(LineIndices, findsTheLineOfACharacter) {
     }
     EXPECT_EQ(LineIndices{}.lineNumberForCharacterIndex(7), 0U);
     EXPECT_EQ(LineIndices{}.count(), 0U);
-
-    std::mt19937 random{3};
-    std::u16string text;
-    for (int i = 0; i < 3000; ++i) {
-        text += u"ab\n\r\u2028"[random() % 5];
-    }
-    const LineIndices many{text};
-    std::size_t expected = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        expected += expected + 1 < many.count() && many[expected + 1] == i ? 1 : 0;
-        ASSERT_EQ(many.lineNumberForCharacterIndex(i), expected);
-    }
 }
 
 } // namespace

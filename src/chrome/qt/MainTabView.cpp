@@ -69,6 +69,11 @@ std::int64_t MainTabView::tabAt(QPointF position) const {
     return layout_.tabAt({position.x(), height() - position.y()}).value_or(-1);
 }
 
+void MainTabView::updateTrackingAreas() {
+    trackingArea_ = {};
+    setTrackingAreas();
+}
+
 QSize MainTabView::sizeHint() const {
     const Size size = layout_.preferredSize();
     return {static_cast<int>(std::ceil(size.width)), static_cast<int>(std::ceil(size.height))};
@@ -96,7 +101,8 @@ void MainTabView::paintEvent(QPaintEvent* /*event*/) {
     for (std::size_t i = 0; i < tabs.titles.size(); ++i) {
         drawTab(painter, i, tabs);
     }
-    trackingArea_ = fromLayout(tabs.trackingPath);
+    trackingPath_ = fromLayout(tabs.trackingPath);
+    updateTrackingAreas();
     if (hasFocus()) {
         drawFocusFrame(painter, tabs);
     }

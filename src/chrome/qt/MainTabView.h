@@ -52,6 +52,8 @@ class MainTabView : public QWidget, public AccessibleItems {
 
     /// Around the group of tabs as last drawn. The pointer is followed there, without effect.
     QRectF trackingArea() const { return trackingArea_; }
+    void setTrackingAreas() { trackingArea_ = trackingPath_; }
+    void updateTrackingAreas();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -81,6 +83,7 @@ class MainTabView : public QWidget, public AccessibleItems {
     std::vector<QFont> textFonts_; // one per tab, as it was measured
     TabBarLayout layout_;
     TabBarColors colors_;
+    QRectF trackingPath_; // the group as last drawn
     QRectF trackingArea_;
     QTimer nextPass_; // of the event loop
     std::int64_t highlightIndex_ = -1;

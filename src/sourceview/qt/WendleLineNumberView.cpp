@@ -63,6 +63,11 @@ CustomTextView* WendleLineNumberView::textView() const {
     return qobject_cast<CustomTextView*>(clientView());
 }
 
+void WendleLineNumberView::awakeFromNib() {
+    linesToMarkers_.clear();
+    setClientView(scrollView());
+}
+
 void WendleLineNumberView::setClientView(QWidget* client) {
     if (const CustomTextView* const old = textView(); old != nullptr && old != client) {
         disconnect(old, nullptr, this, nullptr);
@@ -163,23 +168,27 @@ void WendleLineNumberView::drawBackground(QPainter& painter) const {
 
 void WendleLineNumberView::drawHashMarksAndLabels(QPainter& painter) const {
     const CodeTextLayout layout = textLayout();
-    const auto markerOf = [this](std::size_t line) {
-        return linesToMarkers_.find(static_cast<std::int64_t>(line));
+    const auto isMarked = [this](std::size_t line) {
+        return linesToMarkers_.contains(static_cast<std::int64_t>(line));
     };
-    const auto isMarked = [&](std::size_t line) { return markerOf(line) != linesToMarkers_.end(); };
-    painter.setFont(font());
-    const double ascent = QFontMetricsF{font()}.ascent();
     for (const GutterLabel& label : GutterLayout{layout, lineIndices()}.labels(width(), isMarked)) {
         if (label.marked) {
-            const WendleLineNumberMarker& marker = *markerOf(label.line)->second;
-            const QSizeF size = marker.image()->size();
-            const Point place = GutterLayout::markerPosition(label, width(), {size.width(), size.height()},
-                                                             marker.imageOrigin().y());
-            marker.image()->draw(painter, {place.x, place.y});
+            drawMarker(painter, label);
         }
-        painter.setPen(label.marked ? alternateTextColor() : textColor());
+        const LabelAttributes attributes = label.marked ? markerTextAttributes() : textAttributes();
+        const double ascent = QFontMetricsF{attributes.font}.ascent();
+        painter.setFont(attributes.font);
+        painter.setPen(attributes.color);
         painter.drawText(QPointF{label.rectangle.x, label.rectangle.y + ascent}, toQString(label.text));
     }
+}
+
+void WendleLineNumberView::drawMarker(QPainter& painter, const GutterLabel& label) const {
+    const WendleLineNumberMarker& marker = *linesToMarkers_.at(static_cast<std::int64_t>(label.line));
+    const QSizeF size = marker.image()->size();
+    const Point place =
+        GutterLayout::markerPosition(label, width(), {size.width(), size.height()}, marker.imageOrigin().y());
+    marker.image()->draw(painter, {place.x, place.y});
 }
 
 void WendleLineNumberView::redrawWithText(const QRect& changed, int scrolled) {

@@ -13,6 +13,12 @@
 
 namespace tessaly {
 
+/// How a number is written.
+struct LabelAttributes {
+    QFont font;
+    QColor color;
+};
+
 /// A ruler that numbers the lines of its client, which must be a text view to have lines. The numbers that
 /// are told and asked for are 1-based, unless an operation says otherwise.
 class WendleLineNumberView : public VerticalRuler {
@@ -33,6 +39,12 @@ class WendleLineNumberView : public VerticalRuler {
     const std::optional<QColor>& backgroundColor() const { return backgroundColor_; }
     void setBackgroundColor(const std::optional<QColor>& color) { backgroundColor_ = color; }
 
+    /// Of plain lines, and of those that carry a marker.
+    LabelAttributes textAttributes() const { return {font(), textColor()}; }
+    LabelAttributes markerTextAttributes() const { return {font(), alternateTextColor()}; }
+
+    /// Starts anew, without markers of lines and with the scroll view's text as the client.
+    void awakeFromNib();
     void setClientView(QWidget* client) override;
 
     /// Computed anew when they are invalid; no lines when the client is no text view.
@@ -65,10 +77,11 @@ class WendleLineNumberView : public VerticalRuler {
 
   private:
     CustomTextView* textView() const;
-    CodeTextLayout textLayout() const { return {textView(), font()}; }
+    CodeTextLayout textLayout() const { return {textView(), textAttributes().font}; }
     void calculateLines() const;
     void drawBackground(QPainter& painter) const;
     void drawHashMarksAndLabels(QPainter& painter) const;
+    void drawMarker(QPainter& painter, const GutterLabel& label) const;
     void redrawWithText(const QRect& changed, int scrolled);
 
     mutable std::optional<LineIndices> lineIndices_;                                 // absent: invalid
