@@ -5,6 +5,7 @@
 namespace tessaly {
 
 AppDelegate::AppDelegate(QApplication& application) : QObject{&application} {
+    connect(&application, &QApplication::aboutToQuit, this, &AppDelegate::applicationWillTerminate);
     QApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
 }
 

@@ -34,7 +34,7 @@ MainWindow::MainWindow(QWidget* parent)
       webPreviewView_{new WebPreviewView},
       aboutButton_{new QPushButton{tr("&About")}},
       homepageButton_{new QPushButton{tr("Ho&mepage")}},
-      relatedAppsButton_{new QPushButton{tr("Related App&lications")}} {
+      relatedAppsButton_{new QPushButton{tr("R&elated Applications")}} {
     setWindowTitle(QStringLiteral("Tessaly"));
     layOut();
     auto* const quit = new QAction{this};

@@ -9,20 +9,25 @@
 
 #include <QApplication>
 #include <QDir>
+#include <csignal>
 
 int main(int argc, char** argv) {
     using namespace tessaly;
+    std::signal(SIGPIPE, SIG_IGN); // a log that nobody reads any more must not end the program
     WebPreviewView::prepareProcess();
     QApplication application{argc, argv};
     QApplication::setApplicationName(toQString(product::name));
     QApplication::setApplicationVersion(toQString(product::version()));
-    const AppDelegate delegate{application};
+    AppDelegate delegate{application};
     const QuitOnSignal quitOnSignal;
 
     MainWindow mainWindow;
-    Tessaly tessaly{mainWindow, QDir::tempPath().toStdString()};
+    const QString temporaryFolder = QDir::tempPath(); // empty when the environment names a missing one
+    Tessaly tessaly{mainWindow, temporaryFolder.isEmpty() ? "/tmp" : temporaryFolder.toStdString()};
     mainWindow.canvasView().awakeFromNib();
     tessaly.awakeFromNib();
+    delegate.setWindow(&mainWindow);
     mainWindow.show();
+    delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

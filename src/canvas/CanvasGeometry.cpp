@@ -107,6 +107,20 @@ CanvasGeometry::TrackOffset CanvasGeometry::offsetOnTrack(std::int64_t orientati
     }
 }
 
+int CanvasGeometry::alongTrack(std::int64_t orientation, int right, int up) {
+    switch (orientation) {
+    case orientation::leftToRight:
+    case orientation::radial:
+        return right;
+    case orientation::bottomToTop:
+        return up;
+    case orientation::diagonalToTopRight:
+        return right + up;
+    default:
+        return up - right;
+    }
+}
+
 bool CanvasGeometry::dragsHorizontally(std::int64_t orientation) {
     return orientation == orientation::leftToRight || orientation == orientation::radial;
 }

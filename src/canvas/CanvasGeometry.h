@@ -60,6 +60,10 @@ class CanvasGeometry {
     /// not square to the track.
     TrackOffset offsetOnTrack(std::int64_t orientation, Point point) const;
 
+    /// 1 or -1 when the way {right, up} leads to greater or to smaller positions; 0 when the track does not
+    /// run so.
+    static int alongTrack(std::int64_t orientation, int right, int up);
+
     /// Whether a marker is dragged by the mouse's way across (or else up), and how far that way goes.
     static bool dragsHorizontally(std::int64_t orientation);
     std::int64_t dragLimit(std::int64_t orientation) const;

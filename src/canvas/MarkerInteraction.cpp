@@ -1,6 +1,5 @@
 #include "canvas/MarkerInteraction.h"
 
-#include "canvas/GradientRaster.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
@@ -100,14 +99,14 @@ bool MarkerInteraction::rightMouseDown(Point point) {
 
 void MarkerInteraction::deleteColorMarker() {
     if (markers_.selectedStop()) {
+        startDrag_ = false;
         markers_.deleteColorMarker();
         repaint_();
     }
 }
 
 bool MarkerInteraction::moveSelected(int right, int up, std::int64_t points) {
-    const GradientDirection track = gradientDirection(orientation());
-    const int direction = right * track.x + up * track.y;
+    const int direction = CanvasGeometry::alongTrack(orientation(), right, up);
     const auto stop = markers_.selectedStop();
     if (direction == 0 || !stop) {
         return false;
@@ -117,14 +116,22 @@ bool MarkerInteraction::moveSelected(int right, int up, std::int64_t points) {
     return true;
 }
 
-bool MarkerInteraction::selectNeighbour(std::int64_t places) {
-    const std::int64_t wanted = markers_.selectedColorMarkerIndex() + places;
-    if (!GlobalData::sharedData().stopAt(wanted)) {
+bool MarkerInteraction::select(std::int64_t marker) {
+    if (!GlobalData::sharedData().stopAt(marker)) {
         return false;
     }
-    markers_.select(wanted);
+    startDrag_ = false;
+    markers_.select(marker);
     repaint_();
     return true;
+}
+
+bool MarkerInteraction::selectNeighbour(std::int64_t places) {
+    if (markers_.selectedStop()) {
+        return select(markers_.selectedColorMarkerIndex() + places);
+    }
+    const auto count = static_cast<std::int64_t>(GlobalData::sharedData().stopCount());
+    return select(places > 0 ? 0 : count - 1);
 }
 
 } // namespace tessaly

@@ -32,7 +32,10 @@ class MarkerInteraction {
     /// 1} up. False when its track does not run that way.
     bool moveSelected(int right, int up, std::int64_t points);
 
-    /// Selects the stop so many places on. False when there is none.
+    /// Selects a stop. False when there is none of that index.
+    bool select(std::int64_t marker);
+
+    /// Selects the stop so many places on; without a selected stop the first, or the last when going back.
     bool selectNeighbour(std::int64_t places);
 
     bool startDrag() const { return startDrag_; }

@@ -12,8 +12,11 @@ namespace {
 // What the conversion means where the number does not fit a double.
 double outOfRange(std::string_view number) {
     const auto exponent = number.find_first_of("eE");
-    const bool tiny = exponent != std::string_view::npos && number.substr(exponent + 1).starts_with('-');
-    return tiny ? 0.0 : std::numeric_limits<double>::max();
+    if (exponent != std::string_view::npos) {
+        return number.substr(exponent + 1).starts_with('-') ? 0.0 : std::numeric_limits<double>::max();
+    }
+    const bool wholePart = number.find_first_of("123456789") < number.find('.');
+    return wholePart ? std::numeric_limits<double>::max() : 0.0;
 }
 
 } // namespace

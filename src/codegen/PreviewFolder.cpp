@@ -11,6 +11,10 @@
 namespace tessaly {
 
 std::optional<PreviewFolder> PreviewFolder::create(const std::filesystem::path& temporaryDirectory) {
+    if (temporaryDirectory.is_relative()) {
+        DiagnosticLog::write("No preview folder: no absolute path: " + temporaryDirectory.native());
+        return std::nullopt;
+    }
     // Making a folder fails where anything of that name exists, which is the test and the claim in one step.
     for (int number = 0;; ++number) {
         std::filesystem::path path = temporaryDirectory / ("WebFolder" + std::to_string(number));

@@ -7,6 +7,8 @@
 #include "foundation/Utf8.h"
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 #include <utility>
 
 namespace tessaly {
@@ -15,6 +17,18 @@ namespace {
 TextRange within(TextRange range, std::size_t textLength) {
     const std::size_t location = std::min(range.location, textLength);
     return {location, std::min(range.length, textLength - location)};
+}
+
+TextRange startingFrom(TextRange range, std::size_t location) {
+    const std::size_t start = std::max(range.location, location);
+    return {start, std::max(range.end(), start) - start};
+}
+
+// Where `wanted` stands: at `likely`, or else at the first place from `from` on; nowhere is an empty range.
+TextRange find(const std::u16string& wanted, std::u16string_view text, std::size_t likely, std::size_t from) {
+    const bool there = likely <= text.size() && text.substr(likely).starts_with(wanted);
+    const std::size_t found = there ? likely : text.find(wanted, from);
+    return found == std::u16string_view::npos ? TextRange{} : TextRange{found, wanted.size()};
 }
 
 } // namespace
@@ -98,26 +112,32 @@ void WebCode::doUpdate(Declaration declaration) {
 void WebCode::stylesheetEdited(std::size_t position, std::size_t removed, std::size_t added) {
     const DeclarationRanges before = ranges_;
     ranges_.followEdit(position, removed, added);
-    if (removed == 0 || added == 0) {
+    if (added > 0) {
+        findDeclarations(before, {position, removed});
+    }
+}
+
+// An undo brings back what was deleted, and text dragged elsewhere is reported as one edit of all between: a
+// declaration that the edit touched and that stands unchanged nearby keeps its place there.
+void WebCode::findDeclarations(const DeclarationRanges& before, TextRange edited) {
+    const auto touched = [&](Declaration declaration) {
+        const TextRange& old = before[declaration];
+        return old.location <= edited.end() && edited.location <= old.end();
+    };
+    const auto first = std::find_if(allDeclarations.begin(), allDeclarations.end(), touched);
+    const auto last = std::find_if_not(first, allDeclarations.end(), touched);
+    if (first == last) {
         return;
     }
-    // A view may report several edits as one that spans them all (text dragged to another place, an undo). A
-    // declaration that stands unchanged in the replaced stretch keeps its place there.
     const std::u16string text = css3TextView_.text();
-    std::size_t from = position;
-    for (const Declaration declaration : allDeclarations) {
-        const TextRange& old = before[declaration];
-        if (old.end() < position || old.location >= position + removed) {
-            continue;
-        }
+    const std::size_t limit = last == allDeclarations.end() ? text.size() : ranges_[*last].location;
+    std::size_t from = first == allDeclarations.begin() ? 0 : ranges_[*std::prev(first)].end();
+    for (const Declaration declaration : std::span{first, last}) {
         const std::string& own = declarations_.text(declaration);
-        from = std::min(from, ranges_[declaration].location);
-        const std::size_t found = text.find(std::u16string(own.begin(), own.end()), from);
-        if (found != std::u16string::npos && found + own.size() <= position + added) {
-            ranges_.place(declaration, {found, own.size()});
-        } else if (ranges_[declaration].length == 0) {
-            ranges_.place(declaration, {from, 0});
-        }
+        const TextRange followed = startingFrom(ranges_[declaration], from);
+        const TextRange found = find({own.begin(), own.end()}, std::u16string_view{text}.substr(0, limit),
+                                     followed.location, from);
+        ranges_.place(declaration, found.length > 0 ? found : followed);
         from = ranges_[declaration].end();
     }
 }

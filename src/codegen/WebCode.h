@@ -62,6 +62,7 @@ class WebCode {
 
   private:
     void doUpdate(Declaration declaration);
+    void findDeclarations(const DeclarationRanges& before, TextRange edited);
     void beginInsertion(CodeText& view);
     void endInsertion(CodeText& view);
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace tessaly {
 namespace {
@@ -21,7 +22,9 @@ constexpr double third = 0.333;
 constexpr double twoThirds = 0.666;
 
 std::int32_t channelFrom(double wholeNumber) {
-    return static_cast<std::int32_t>(truncated(wholeNumber));
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(truncated(wholeNumber), Limits::min(), Limits::max()));
 }
 
 template <typename ToInteger>
@@ -99,7 +102,7 @@ RGBValue GlobalData::rgbValueOfAnNSColor(const Color& color) {
 
 HSLValue GlobalData::hslValueOfAnNSColor(const Color& color) {
     HSLValue hsl = _hslValueOfAnNSColor(color);
-    hsl.hue = std::round(hsl.hue);
+    hsl.hue = std::round(hsl.hue) + 0.0; // no negative zero, which would be written as such
     if (hsl.hue < 0) {
         hsl.hue += 360;
     }

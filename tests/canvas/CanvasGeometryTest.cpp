@@ -2,6 +2,7 @@
 #include "canvas/CanvasScene.h"
 #include "canvas/MarkerHitAreas.h"
 #include "support/Gradients.h"
+#include "support/LogCapture.h"
 
 #include <gtest/gtest.h>
 
@@ -67,6 +68,9 @@ TEST(CanvasGeometry, projectsPointsOntoTheTrack) {
         EXPECT_NEAR(offset, row.offset, 1e-9) << row.orientation;
         EXPECT_EQ(limit, row.limit);
     }
+    const LogCapture log;
+    geometry.offsetOnTrack(orientation::diagonalToTopLeft, {420, 70});
+    EXPECT_EQ(log.messages, std::vector<std::string>{"x: 320.000000 y: 45.000000"});
 }
 
 TEST(MarkerHitAreas, areOvalsAndTheLowestIndexWins) {

@@ -4,6 +4,7 @@
 #include "support/Gradients.h"
 #include "support/LogCapture.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -94,7 +95,9 @@ TEST_F(GradientEditorTest, aDoubleClickAddsABlackStopAndGrabsIt) {
     EXPECT_EQ(data().colorMarkerColor()[1], Color::black());
     EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 1);
     EXPECT_TRUE(mouse().startDrag());
+    const int redrawsBefore = surface.redraws;
     mouse().mouseDragged({260, 90});
+    EXPECT_GT(surface.redraws, redrawsBefore);
     EXPECT_EQ(data().colorMarkerPos()[1], 0.6);
     EXPECT_EQ(mouse().markerDragOrientation(), 1);
     mouse().mouseUp();
@@ -164,7 +167,10 @@ TEST_F(GradientEditorTest, deletesAndDeliberatelyLeavesTheOpacityBehind) {
     data().setColorMarkerColor({Color::black(), Color::black(), Color::white()});
     data().setColorMarkerOpacity({1.0, 0.5, 0.2});
     editor.repaint();
+    const auto counts = [&] { return std::array{surface.paints, surface.redraws, posts}; };
+    const auto countsBefore = counts();
     EXPECT_TRUE(mouse().rightMouseDown({20, 25}));
+    EXPECT_EQ(counts(), countsBefore) << "a right click repaints nothing";
     EXPECT_FALSE(mouse().rightMouseDown({100, 100}));
     mouse().deleteColorMarker();
     EXPECT_EQ(data().colorMarkerPos(), (Positions{0.5, 1.0}));
@@ -228,6 +234,10 @@ TEST_F(GradientEditorTest, typedPositionsDoNotSortAndOpacityNeedsItsNotation) {
     type(StopValue::Position, "1e9");
     EXPECT_EQ(data().colorMarkerPos()[2], 1.0);
     posts = 0;
+    editor.controls().setFormReady(false);
+    chooseFormat(colorFormat::rgba);
+    EXPECT_EQ(posts, 0);
+    editor.controls().setFormReady(true);
     chooseFormat(colorFormat::rgba);
     EXPECT_EQ(posts, 2);
     EXPECT_TRUE(controls.field(StopValue::Opacity).enabled && controls.stepper(StopValue::Opacity).enabled);
@@ -279,15 +289,25 @@ TEST_F(GradientEditorTest, keysMoveTheSelectedStopAlongItsTrackPointByPoint) {
     EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 0.0})) << "no step may stick to a rounded place";
     EXPECT_TRUE(mouse().selectNeighbour(-1));
     EXPECT_FALSE(mouse().selectNeighbour(-1));
+    editor.markers().select(7); // as after a preset with fewer stops
+    EXPECT_TRUE(mouse().selectNeighbour(-1));
+    EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 1);
 }
 
 TEST_F(GradientEditorTest, noSequenceOfActionsBreaksTheInvariants) {
-    std::mt19937 random{4};
+    std::mt19937 random;
     const auto upTo = [&](int most) { return std::uniform_int_distribution<int>{0, most}(random); };
     const auto anywhere = [&] { return Point{upTo(500) - 30.0, upTo(200) - 30.0}; };
     const std::string texts[] = {"", "0", "0.5", "300", "-4", "1e99", "abc", "128"};
     for (int i = 0; i < 10'000; ++i) {
-        switch (upTo(11)) {
+        if (i % 2'000 == 0) {
+            random.seed(static_cast<unsigned>(i));
+        }
+        const bool wasSorted = std::is_sorted(data().colorMarkerPos().begin(), data().colorMarkerPos().end());
+        const std::size_t stops = data().stopCount();
+        const std::size_t opacities = data().colorMarkerOpacity().size();
+        const int action = upTo(11);
+        switch (action) {
         case 0:
             press(anywhere(), 2);
             break;
@@ -325,6 +345,15 @@ TEST_F(GradientEditorTest, noSequenceOfActionsBreaksTheInvariants) {
         default:
             editor.markers().select(upTo(12) - 2);
             editor.repaint();
+        }
+        constexpr int deletion = 5;
+        constexpr int typing = 6;
+        constexpr int stepping = 7;
+        const bool sorted = std::is_sorted(data().colorMarkerPos().begin(), data().colorMarkerPos().end());
+        ASSERT_TRUE(sorted || !wasSorted || action == typing || action == stepping) << i;
+        if (action == deletion) {
+            ASSERT_EQ(data().colorMarkerOpacity().size(), opacities) << i;
+            ASSERT_GE(data().stopCount() + 1, stops) << i;
         }
         ASSERT_EQ(data().colorMarkerPos().size(), data().colorMarkerColor().size()) << i;
         ASSERT_GE(data().colorMarkerOpacity().size(), data().stopCount()) << i;

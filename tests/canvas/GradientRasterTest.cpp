@@ -84,15 +84,17 @@ TEST(GradientRaster, isExactToTheRoundingAtEveryPixel) {
                 std::int64_t orientation;
                 double dx, dy;
             } linear[] = {{0, 0, 1}, {1, 1, 0}, {2, 1, 1}, {3, -1, 1}, {8, 1, 0}};
-            for (const auto& [orientation, dx, dy] : linear) {
+            for (const auto& row : linear) {
+                const double dx = row.dx;
+                const double dy = row.dy;
                 // The box is larger than the picture, so that every pixel is painted.
                 const Rect box{-1, -2, width + 5, height + 4};
-                fillLinear(buffer, box, gradientDirection(orientation), ramp);
+                fillLinear(buffer, box, gradientDirection(row.orientation), ramp);
                 const auto positionAt = [&](double x, double y) {
                     const double length = std::abs(dx) * box.width + std::abs(dy) * box.height;
                     return (dx * (x - box.center().x) + dy * (y - box.center().y)) / length + 0.5;
                 };
-                EXPECT_LT(worstError(buffer, positionAt, stops, lightGrey), 0.5 + 1e-6) << orientation;
+                EXPECT_LT(worstError(buffer, positionAt, stops, lightGrey), 0.5 + 1e-6) << row.orientation;
             }
             fillRadial(buffer, {30, 10}, 20, ramp);
             const auto distance = [](double x, double y) { return std::hypot(x - 30, y - 10) / 20; };

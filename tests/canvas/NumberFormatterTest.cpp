@@ -53,6 +53,8 @@ TEST(NumberFormatter, judgesWhatIsTypedOrPasted) {
         EXPECT_EQ(integer.value(row.text), row.asInteger == refused ? 0 : row.asInteger) << row.text;
         EXPECT_EQ(decimal.value(row.text), row.asDecimal == refused ? 0 : row.asDecimal) << row.text;
     }
+    EXPECT_EQ(decimal.value("0." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(decimal.value(std::string(400, '9')), std::numeric_limits<double>::max());
     EXPECT_TRUE(integer.isPartialStringValid("") && decimal.isPartialStringValid(""));
     EXPECT_EQ(integer.text(-1), "-1");
     EXPECT_EQ(decimal.text(0.25), "0.3");

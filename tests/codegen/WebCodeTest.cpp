@@ -7,6 +7,7 @@
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -57,10 +58,23 @@ class WebCodeTest : public testing::Test {
 
     void update() { code.updateBackgroundColorDataUpdatedNotification({}); }
 
-    // What the user does in the stylesheet view.
+    // What the user does in the stylesheet view, and what the view reports of it: one edit without the
+    // beginning and the end that both texts have.
+    void become(const std::u16string& text) {
+        const std::u16string before = std::exchange(css.contents, text);
+        const std::size_t shorter = std::min(before.size(), text.size());
+        std::size_t start = 0;
+        while (start < shorter && before[start] == text[start]) {
+            ++start;
+        }
+        std::size_t end = 0;
+        while (end < shorter - start && before[before.size() - 1 - end] == text[text.size() - 1 - end]) {
+            ++end;
+        }
+        code.stylesheetEdited(start, before.size() - start - end, text.size() - start - end);
+    }
     void edit(std::size_t position, std::size_t removed, const std::u16string& added) {
-        css.contents.replace(position, removed, added);
-        code.stylesheetEdited(position, removed, added.size());
+        become(std::u16string{css.contents}.replace(position, removed, added));
     }
 
     static std::string freshStylesheet() {
@@ -139,14 +153,53 @@ TEST_F(WebCodeTest, rewritesAChangedDeclarationAndBringsBackADeletedOne) {
     }());
 }
 
-TEST_F(WebCodeTest, findsDeclarationsThatACoarseEditCarriedAlong) {
-    // Dragging the closing brace to the front is reported as one edit of everything between.
-    const std::u16string text = css.text();
-    edit(0, text.size(), u"}\n" + text.substr(0, text.size() - 2));
-    GlobalData::sharedData().setOrientationType(orientation::radial);
-    update();
-    const std::string fresh = freshStylesheet();
-    EXPECT_EQ(css.utf8(), "}\n" + fresh.substr(0, fresh.size() - 2));
+TEST_F(WebCodeTest, anUndoneDeletionLeavesNothingBehind) {
+    const std::u16string whole = css.text();
+    const DeclarationRanges ranges = code.ranges();
+    const TextRange rows[] = {
+        ranges[Declaration::Old],
+        {0, whole.size()},
+        {ranges.backgroundColorIndex() + 50, 40},    // from one declaration into the next
+        {ranges.backgroundColorIndex() - 1, 1},      // the line break between two
+        {ranges.backgroundColorIndex(), 10},         // the start of one
+        {ranges.backgroundColorMozIndex() + 10, 20}, // within one
+    };
+    std::int64_t orientation = 0;
+    for (const TextRange& row : rows) {
+        const std::u16string before = css.text();
+        edit(row.location, row.length, u"");
+        become(before);
+        GlobalData::sharedData().setOrientationType(orientation++ % 2); // both texts are as long as the first
+        update();
+        ASSERT_EQ(css.utf8(), freshStylesheet()) << row.location;
+        GlobalData::sharedData().setOrientationType(orientation::leftToRight);
+        update();
+    }
+}
+
+TEST_F(WebCodeTest, findsDeclarationsPastWhichTextWasDragged) {
+    const std::u16string line = u"\tcolor: red;\n";
+    const std::u16string plain = css.text();
+    const DeclarationRanges ranges = code.ranges();
+    const std::size_t places[] = {0, ranges.backgroundColorOldIndex(), ranges.backgroundColorMozIndex(),
+                                  plain.size() - 2, plain.size()};
+    const auto with = [&](const std::u16string& text, std::size_t place) {
+        return std::u16string{text}.insert(place, line);
+    };
+    edit(0, 0, line);
+    for (const std::size_t from : places) {
+        for (const std::size_t to : places) {
+            become(with(plain, from));
+            become(with(plain, to));
+            GlobalData::sharedData().setOrientationType(orientation::radial);
+            update();
+            std::string others = css.utf8();
+            others.erase(others.find("\tcolor: red;\n"), line.size());
+            ASSERT_EQ(others, freshStylesheet()) << from << " to " << to;
+            GlobalData::sharedData().setOrientationType(orientation::leftToRight);
+            update();
+        }
+    }
 }
 
 TEST_F(WebCodeTest, noRandomEditMakesARangeRunPastTheEnd) {

@@ -7,7 +7,8 @@
 namespace tessaly {
 
 /// Runs the event loop until `condition` holds; false when that took longer than twenty seconds. Unlike the
-/// toolkit's own wait it never sleeps between events, of which the browser engine handles hundreds for one page.
+/// toolkit's own wait it never sleeps between events, of which the browser engine handles hundreds for one
+/// page.
 inline bool eventually(const std::function<bool()>& condition) {
     QEventLoop loop;
     QTimer poll;

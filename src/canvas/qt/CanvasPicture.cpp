@@ -69,7 +69,7 @@ void CanvasPicture::paintScene() {
         paintGuideLine(painter, *scene_->guideLine);
     }
     for (const CanvasScene::Marker& marker : scene_->markers) {
-        paintMarker(painter, marker);
+        drawColorMarker(painter, marker);
     }
 }
 
@@ -102,7 +102,7 @@ void CanvasPicture::paintGuideLine(QPainter& painter, const GuideLine& guide) co
     painter.drawLine(turned(guide.white.from), turned(guide.white.to));
 }
 
-void CanvasPicture::paintMarker(QPainter& painter, const CanvasScene::Marker& marker) const {
+void CanvasPicture::drawColorMarker(QPainter& painter, const CanvasScene::Marker& marker) const {
     painter.drawPixmap(turned(marker.frame).topLeft(), colorMarkerImage_);
     drawOval(painter, turned(marker.dot), toQColor(marker.color));
 }

@@ -32,7 +32,7 @@ class CanvasPicture {
     void paintScene();
     void paintGradient();
     void paintGuideLine(QPainter& painter, const GuideLine& guide) const;
-    void paintMarker(QPainter& painter, const CanvasScene::Marker& marker) const;
+    void drawColorMarker(QPainter& painter, const CanvasScene::Marker& marker) const;
     QRectF turned(const Rect& rect) const;
     QPointF turned(Point point) const;
 

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -31,6 +32,7 @@ CanvasView::CanvasView(StopControlPanel& panel, QWidget* parent)
     setFixedSize(viewSize);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Gradient canvas"));
+    setToolTip(tr("Double click to add a stop, drag to move it"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     popupMenu_->addAction(tr("Delete Marker"), this, [this] { editor_.interaction().deleteColorMarker(); });
 }
@@ -51,10 +53,27 @@ void CanvasView::takeMedium() {
 void CanvasView::paint(const CanvasScene& scene) {
     takeMedium();
     picture_.paint(scene);
-    if (const int current = currentAccessibleItem(); current != announcedItem_) {
-        announcedItem_ = current;
-        announceCurrentAccessibleItem(*this, *this);
+    if (QAccessible::isActive()) {
+        announceToAssistiveTools();
     }
+}
+
+void CanvasView::announceToAssistiveTools() {
+    const int count = accessibleItemCount();
+    const int current = currentAccessibleItem();
+    const QString description = current < 0 ? QString{} : accessibleItemDescription(current);
+    if (std::exchange(announcedCount_, count) != count) {
+        QAccessibleEvent event{this, QAccessible::ObjectReorder};
+        QAccessible::updateAccessibility(&event);
+    }
+    if (std::exchange(announcedItem_, current) != current) {
+        announceCurrentAccessibleItem(*this, *this);
+    } else if (current >= 0 && announcedDescription_ != description) {
+        QAccessibleEvent event{this, QAccessible::DescriptionChanged};
+        event.setChild(current);
+        QAccessible::updateAccessibility(&event);
+    }
+    announcedDescription_ = description;
 }
 
 void CanvasView::paintEvent(QPaintEvent* /*event*/) {
@@ -92,7 +111,9 @@ void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
-    editor_.interaction().mouseDragged(canvasPoint(event->position()));
+    if (event->buttons().testFlag(Qt::LeftButton)) {
+        editor_.interaction().mouseDragged(canvasPoint(event->position()));
+    }
 }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
@@ -102,6 +123,7 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
+    editor_.interaction().mouseUp(); // the menu takes the mouse, and with it the end of a drag
     if (event->reason() == QContextMenuEvent::Keyboard) {
         if (const auto stop = editor_.markers().selectedStop()) {
             popupMenu_->popup(mapToGlobal(markerRect(*stop).center().toPoint()));
@@ -166,7 +188,7 @@ int CanvasView::currentAccessibleItem() const {
 }
 
 void CanvasView::pressAccessibleItem(int item) {
-    editor_.interaction().selectNeighbour(item - editor_.markers().selectedColorMarkerIndex());
+    editor_.interaction().select(item);
 }
 
 } // namespace tessaly

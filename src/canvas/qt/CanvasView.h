@@ -57,13 +57,17 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     Point canvasPoint(QPointF position) const;
     void mouseDown(const QMouseEvent& event, int clickCount);
     void takeMedium();
-
-    int announcedItem_ = -1; ///< the stop that assistive tools were last told of
+    void announceToAssistiveTools();
 
     StopControlPanel& panel_;
     GradientEditor editor_;
     CanvasPicture picture_;
     QMenu* popupMenu_;
+
+    // What assistive tools were last told of the stops.
+    int announcedCount_ = 0;
+    int announcedItem_ = -1;
+    QString announcedDescription_;
 };
 
 } // namespace tessaly

@@ -20,9 +20,10 @@ QRectF insetBounds(const QWidget& view, double inset) {
 
 } // namespace
 
-ColorPickerImageView::ColorPickerImageView(QWidget* parent) : QWidget{parent} {
+ColorPickerImageView::ColorPickerImageView(QWidget* parent) : QAbstractButton{parent} {
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
+    connect(this, &QAbstractButton::clicked, this, &ColorPickerImageView::openColorPanel);
 }
 
 QSize ColorPickerImageView::sizeHint() const {
@@ -31,6 +32,7 @@ QSize ColorPickerImageView::sizeHint() const {
 
 void ColorPickerImageView::setBackgroundColor(const Color& color) {
     backgroundColor_ = color.calibratedRGB() ? color : fromQColor(palette().color(QPalette::Light));
+    setAccessibleDescription(toQColor(backgroundColor_).name());
     update();
     showInColorPanel();
     sendUpdateDataNotification(canvasNotification::colorChanged);
@@ -51,7 +53,7 @@ void ColorPickerImageView::paintEvent(QPaintEvent* /*event*/) {
     const QRectF swatch = insetBounds(*this, 2);
     QPainterPath outline;
     outline.addRoundedRect(swatch, cornerRadius, cornerRadius);
-    painter.fillPath(outline, isEnabled() ? toQColor(backgroundColor_) : palette().color(QPalette::Window));
+    painter.fillPath(outline, toQColor(backgroundColor_));
     painter.setPen(QPen{Qt::white, 1});
     painter.drawPath(outline);
     if (isColorNotSet_) {
@@ -60,15 +62,11 @@ void ColorPickerImageView::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
-void ColorPickerImageView::mousePressEvent(QMouseEvent* /*event*/) {
-    openColorPanel();
-}
-
 void ColorPickerImageView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        openColorPanel();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
     } else {
-        QWidget::keyPressEvent(event);
+        QAbstractButton::keyPressEvent(event);
     }
 }
 

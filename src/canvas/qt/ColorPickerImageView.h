@@ -2,7 +2,7 @@
 
 #include "canvas/ControlInterfaces.h"
 
-#include <QWidget>
+#include <QAbstractButton>
 
 class QColorDialog;
 
@@ -10,7 +10,7 @@ namespace tessaly {
 
 /// The colour well: a rounded swatch that opens the program's one colour panel and announces every setting of
 /// its colour with "ColorChanged", its `ColorWell` as object.
-class ColorPickerImageView : public QWidget, public ColorWell {
+class ColorPickerImageView : public QAbstractButton, public ColorWell {
     Q_OBJECT
 
   public:
@@ -31,7 +31,6 @@ class ColorPickerImageView : public QWidget, public ColorWell {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

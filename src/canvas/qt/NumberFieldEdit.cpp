@@ -69,7 +69,6 @@ QSize NumberFieldEdit::sizeHint() const {
 
 void NumberFieldEdit::keyPressEvent(QKeyEvent* event) {
     if (const int steps = stepsFor(event->key()); steps != 0) {
-        endEditing();
         Q_EMIT stepped(steps);
         return;
     }

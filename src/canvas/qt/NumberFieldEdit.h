@@ -23,6 +23,9 @@ class NumberFieldEdit : public QLineEdit, public NumberField {
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
+    /// Takes what has been typed so far as the end of an edit.
+    void endEditing();
+
   Q_SIGNALS:
     /// The user ended an edit that changed the text.
     void edited();
@@ -33,8 +36,6 @@ class NumberFieldEdit : public QLineEdit, public NumberField {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void endEditing();
-
     int widestText_; ///< digits to make room for
     QString shown_;  ///< the text at the last end of editing or setting
 };

@@ -20,19 +20,21 @@ constexpr int columnGap = 24;
 struct Cell {
     StopValue value;
     const char* label;
+    const char* fieldName; ///< of the widgets, for who looks them up
+    const char* stepperName;
     int row;
     int block; ///< of columns: label, field, stepper, gap
 };
 
 constexpr std::array<Cell, stopValues.size()> cells{{
-    {StopValue::Red, "&Red", 0, 0},
-    {StopValue::Green, "&Green", 1, 0},
-    {StopValue::Blue, "&Blue", 2, 0},
-    {StopValue::Hue, "&Hue", 0, 1},
-    {StopValue::Saturation, "&Saturation", 1, 1},
-    {StopValue::Lightness, "&Lightness", 2, 1},
-    {StopValue::Position, "&Position", 0, 2},
-    {StopValue::Opacity, "Opa&city", 1, 2},
+    {StopValue::Red, "&Red", "redTextField", "redStepper", 0, 0},
+    {StopValue::Green, "&Green", "greenTextField", "greenStepper", 1, 0},
+    {StopValue::Blue, "&Blue", "blueTextField", "blueStepper", 2, 0},
+    {StopValue::Hue, "&Hue", "hueTextField", "hueStepper", 0, 1},
+    {StopValue::Saturation, "&Saturation", "saturationTextField", "saturationStepper", 1, 1},
+    {StopValue::Lightness, "&Lightness", "lightnessTextField", "lightnessStepper", 2, 1},
+    {StopValue::Position, "&Position", "selectedPosTextField", "selectedPosStepper", 0, 2},
+    {StopValue::Opacity, "Opa&city", "selectedOpacityTextField", "selectedOpacityStepper", 1, 2},
 }};
 
 constexpr int columnsPerBlock = 4;
@@ -59,8 +61,11 @@ StopControlPanel::StopControlPanel(QWidget* parent)
     for (const Cell& cell : cells) {
         const int column = cell.block * columnsPerBlock;
         addPair(*grid, traitsOf(cell.value), cell.row, column + 1);
-        QWidget& field = *pairs_[static_cast<std::size_t>(cell.value)].field;
-        grid->addWidget(labelFor(field, tr(cell.label)), cell.row, column);
+        const auto& [field, stepper] = pairs_[static_cast<std::size_t>(cell.value)];
+        field->setObjectName(QLatin1StringView{cell.fieldName});
+        stepper->setObjectName(QLatin1StringView{cell.stepperName});
+        stepper->setToolTip(tr("Step it up or down; so do the keys Up and Down in the field"));
+        grid->addWidget(labelFor(*field, tr(cell.label)), cell.row, column);
     }
     addLists(*grid);
     for (int block = 0; block < lastBlock; ++block) {
@@ -82,6 +87,7 @@ void StopControlPanel::addPair(QGridLayout& grid, const StopValueTraits& traits,
     stepper = new ValueStepper{traits};
     stepper->setAccessibleName(toQString(traits.name) + tr(" stepper"));
     connect(field, &NumberFieldEdit::stepped, stepper, &ValueStepper::stepBy);
+    connect(stepper, &ValueStepper::aboutToStep, field, &NumberFieldEdit::endEditing);
     auto* const pairLayout = new QHBoxLayout;
     pairLayout->setContentsMargins(spacing, 0, 0, 0);
     pairLayout->setSpacing(2);

@@ -1,5 +1,8 @@
 #include "canvas/qt/ValueStepper.h"
 
+#include "foundation/NumberText.h"
+#include "foundation/qt/ToQString.h"
+
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -9,8 +12,9 @@ namespace tessaly {
 
 ValueStepper::ValueStepper(const StopValueTraits& traits, QWidget* parent) : QDoubleSpinBox{parent} {
     // A value set by the rules is kept to the last digit, not rounded to what a text could show.
-    constexpr int allDecimals = 15;
+    constexpr int allDecimals = 20;
     setDecimals(traits.decimal ? allDecimals : 0);
+    connect(this, &QDoubleSpinBox::valueChanged, this, &ValueStepper::steppedByUser);
     setRange(0.0, traits.maximum);
     setSingleStep(traits.step);
     lineEdit()->hide();
@@ -32,11 +36,14 @@ QSize ValueStepper::sizeHint() const {
 }
 
 void ValueStepper::stepBy(int steps) {
-    const double before = value();
+    Q_EMIT aboutToStep();
     QDoubleSpinBox::stepBy(steps);
-    if (value() != before) {
-        Q_EMIT steppedByUser();
-    }
+}
+
+// Nobody sees it; assistive tools say it.
+QString ValueStepper::textFromValue(double value) const {
+    constexpr int shownDecimals = 3;
+    return toQString(fixedText(value, decimals() > 0 ? shownDecimals : 0));
 }
 
 } // namespace tessaly

@@ -24,9 +24,12 @@ class ValueStepper : public QDoubleSpinBox, public Stepper {
     QSize minimumSizeHint() const override { return sizeHint(); }
 
     void stepBy(int steps) override;
+    QString textFromValue(double value) const override;
 
   Q_SIGNALS:
-    /// The user stepped the value.
+    /// The user is about to step: what is being typed beside comes first.
+    void aboutToStep();
+    /// The user, or an assistive tool, changed the value.
     void steppedByUser();
 };
 

@@ -82,25 +82,21 @@ TEST_P(CanvasPictureTest, showsStripFrameAndMarkersOfEveryOrientation) {
 
 TEST_P(CanvasPictureTest, drawsGuideLinesOnDiagonalsAndDisc) {
     GlobalData::sharedData().setColorMarkerColor({grey, grey});
-    GlobalData::sharedData().setColorMarkerPos({0.9, 0.95}); // out of the way
-    const struct {
-        std::int64_t orientation;
-        double x, y; // on the first dash
-        bool guide;
-    } rows[] = {{0, 40, 25, false},
-                {1, 40, 25, false},
-                {2, 23, 20.75, true},
-                {3, 23, 120.2, true},
-                {4, 215, 60.5, true}};
-    for (const auto& row : rows) {
-        GlobalData::sharedData().setOrientationType(row.orientation);
-        const auto [darkest, lightest] = Picture{GetParam()}.range(row.x, row.y);
-        EXPECT_EQ(darkest < 95 && lightest > 130, row.guide)
-            << row.orientation << ' ' << darkest << ' ' << lightest;
-        if (row.orientation == orientation::radial) {
-            EXPECT_EQ(Picture{GetParam()}.range(225, 60.5).first, 102) << "between two dashes";
+    GlobalData::sharedData().setColorMarkerPos({0.9, 0.95});            // out of the way
+    constexpr Point onDash[] = {{49, 27.3}, {49, 113.7}, {215, 60.5}}; // of the orientations from 2 on
+    for (const std::int64_t orientation : {0, 1, 2, 3, 4}) {
+        GlobalData::sharedData().setOrientationType(orientation);
+        const Picture picture{GetParam()};
+        for (std::int64_t guide = 2; guide <= 4; ++guide) {
+            const Point place = onDash[guide - 2];
+            const auto [darkest, lightest] = picture.range(place.x, place.y);
+            const bool drawn = guide == orientation;
+            EXPECT_EQ(darkest < 95, drawn) << orientation << ' ' << guide;
+            EXPECT_EQ(lightest > 130, drawn)
+                << orientation << ' ' << guide;
         }
     }
+    EXPECT_EQ(Picture{GetParam()}.range(225, 60.5).first, 102) << "between two dashes";
 }
 
 TEST_P(CanvasPictureTest, showsOpacityOnlyForNotationsThatCarryIt) {
