@@ -4,6 +4,7 @@
 #include "canvas/qt/StopControlPanel.h"
 #include "chrome/qt/MainTabView.h"
 #include "codegen/qt/WebPreviewView.h"
+#include "presets/qt/PresetPanel.h"
 #include "sourceview/qt/Css3SourceView.h"
 #include "sourceview/qt/HtmlSourceView.h"
 
@@ -27,6 +28,7 @@ MainWindow::MainWindow(QWidget* parent)
     : QWidget{parent},
       stopControlPanel_{new StopControlPanel},
       canvasView_{new CanvasView{*stopControlPanel_}},
+      presetPanel_{new PresetPanel},
       mainTabView_{new MainTabView{{tr("CSS 3"), tr("HTML"), tr("Web Preview")}}},
       sourceCodeContainerView_{new QStackedWidget},
       css3SourceView_{new Css3SourceView},
@@ -59,6 +61,8 @@ void MainWindow::layOut() {
     buttons->addWidget(relatedAppsButton_);
 
     auto* const side = new QVBoxLayout;
+    side->setSpacing(margin);
+    side->addWidget(presetPanel_, 0, Qt::AlignRight);
     side->addStretch();
     side->addLayout(buttons);
 

@@ -11,6 +11,7 @@ class CanvasView;
 class Css3SourceView;
 class HtmlSourceView;
 class MainTabView;
+class PresetPanel;
 class StopControlPanel;
 class WebPreviewView;
 
@@ -22,6 +23,7 @@ class MainWindow : public QWidget {
     explicit MainWindow(QWidget* parent = nullptr);
 
     CanvasView& canvasView() const { return *canvasView_; }
+    PresetPanel& presetPanel() const { return *presetPanel_; }
     MainTabView& mainTabView() const { return *mainTabView_; }
     QStackedWidget& sourceCodeContainerView() const { return *sourceCodeContainerView_; }
     Css3SourceView& css3SourceView() const { return *css3SourceView_; }
@@ -36,6 +38,7 @@ class MainWindow : public QWidget {
 
     StopControlPanel* stopControlPanel_;
     CanvasView* canvasView_;
+    PresetPanel* presetPanel_;
     MainTabView* mainTabView_;
     QStackedWidget* sourceCodeContainerView_;
     Css3SourceView* css3SourceView_;

@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "app/Presets.h"
 #include "app/QuitOnSignal.h"
 #include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QStandardPaths>
 #include <csignal>
 
 int main(int argc, char** argv) {
@@ -24,7 +26,10 @@ int main(int argc, char** argv) {
     MainWindow mainWindow;
     const QString temporaryFolder = QDir::tempPath(); // empty when the environment names a missing one
     Tessaly tessaly{mainWindow, temporaryFolder.isEmpty() ? "/tmp" : temporaryFolder.toStdString()};
-    mainWindow.canvasView().awakeFromNib();
+    CanvasView& canvas = mainWindow.canvasView();
+    Presets presets{mainWindow.presetPanel(), canvas.editor(),
+                    QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString()};
+    canvas.awakeFromNib(presets.steps());
     tessaly.awakeFromNib();
     delegate.setWindow(&mainWindow);
     mainWindow.show();

@@ -3,6 +3,7 @@
 #include "support/FakeControls.h"
 #include "support/Gradients.h"
 #include "support/LogCapture.h"
+#include "support/NoPresets.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -17,7 +18,7 @@ class GradientEditorTest : public testing::Test {
   protected:
     GradientEditorTest() {
         data() = GlobalData{};
-        editor.awakeFromNib();
+        editor.awakeFromNib(noPresets);
         posts = 0;
         surface = {};
     }

@@ -11,6 +11,7 @@
 #include "sourceview/qt/HtmlSourceView.h"
 #include "support/Eventually.h"
 #include "support/LogCapture.h"
+#include "support/NoPresets.h"
 #include "support/TemporaryFolder.h"
 
 #include <QScreen>
@@ -27,7 +28,7 @@ class WindowTest : public testing::Test {
   protected:
     WindowTest() {
         GlobalData::sharedData() = GlobalData{};
-        window.canvasView().awakeFromNib();
+        window.canvasView().awakeFromNib(noPresets);
         tessaly.awakeFromNib();
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
