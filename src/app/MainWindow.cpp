@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/CopyButton.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
 #include "chrome/qt/MainTabView.h"
@@ -30,6 +31,7 @@ MainWindow::MainWindow(QWidget* parent)
       canvasView_{new CanvasView{*stopControlPanel_}},
       presetPanel_{new PresetPanel},
       mainTabView_{new MainTabView{{tr("CSS 3"), tr("HTML"), tr("Web Preview")}}},
+      copyButton_{new CopyButton},
       sourceCodeContainerView_{new QStackedWidget},
       css3SourceView_{new Css3SourceView},
       htmlSourceView_{new HtmlSourceView},
@@ -78,7 +80,11 @@ void MainWindow::layOut() {
     }
     auto* const code = new QVBoxLayout;
     code->setSpacing(0);
-    code->addWidget(mainTabView_);
+    auto* const header = new QHBoxLayout;
+    header->setSpacing(spacing);
+    header->addWidget(mainTabView_, 1);
+    header->addWidget(copyButton_);
+    code->addLayout(header);
     code->addWidget(sourceCodeContainerView_, 1);
 
     auto* const whole = new QVBoxLayout{this};

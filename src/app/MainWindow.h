@@ -8,6 +8,7 @@ class QStackedWidget;
 namespace tessaly {
 
 class CanvasView;
+class CopyButton;
 class Css3SourceView;
 class HtmlSourceView;
 class MainTabView;
@@ -29,6 +30,7 @@ class MainWindow : public QWidget {
     Css3SourceView& css3SourceView() const { return *css3SourceView_; }
     HtmlSourceView& htmlSourceView() const { return *htmlSourceView_; }
     WebPreviewView& webPreviewView() const { return *webPreviewView_; }
+    CopyButton& copyButton() const { return *copyButton_; }
     QPushButton& aboutButton() const { return *aboutButton_; }
     QPushButton& homepageButton() const { return *homepageButton_; }
     QPushButton& relatedAppsButton() const { return *relatedAppsButton_; }
@@ -40,6 +42,7 @@ class MainWindow : public QWidget {
     CanvasView* canvasView_;
     PresetPanel* presetPanel_;
     MainTabView* mainTabView_;
+    CopyButton* copyButton_;
     QStackedWidget* sourceCodeContainerView_;
     Css3SourceView* css3SourceView_;
     HtmlSourceView* htmlSourceView_;
