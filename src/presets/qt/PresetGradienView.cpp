@@ -28,7 +28,6 @@ QRectF inset(QPointF origin, double way) {
 QImage PresetGradienView::gradientPicture(double devicePixelRatio) const {
     const int pixels = static_cast<int>(std::ceil(size * devicePixelRatio));
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(devicePixelRatio);
     image.fill(Qt::transparent);
     std::vector<GradientStop> stops;
     for (std::size_t i = 0; i < preset_.colorMarkerPos.size(); ++i) {
@@ -54,8 +53,9 @@ QImage PresetGradienView::gradientPicture(double devicePixelRatio) const {
 
 void PresetGradienView::drawRect(QPainter& painter, QPointF origin) const {
     painter.setRenderHint(QPainter::Antialiasing);
-    QBrush gradient{gradientPicture(painter.device()->devicePixelRatioF())};
-    gradient.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
+    const double ratio = painter.device()->devicePixelRatioF();
+    QBrush gradient{gradientPicture(ratio)};
+    gradient.setTransform(QTransform::fromTranslate(origin.x(), origin.y()).scale(1 / ratio, 1 / ratio));
     painter.setPen(Qt::NoPen);
     painter.setBrush(gradient);
     painter.drawRoundedRect(inset(origin, outerInset), cornerRadius, cornerRadius);

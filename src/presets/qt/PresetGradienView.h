@@ -27,6 +27,7 @@ class PresetGradienView {
     void deletePresetGradientItem() const;
 
   private:
+    /// In device pixels.
     QImage gradientPicture(double devicePixelRatio) const;
 
     const Preset& preset_;
