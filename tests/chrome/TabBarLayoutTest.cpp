@@ -1,5 +1,6 @@
 #include "chrome/TabBarLayout.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace tessaly {
@@ -61,13 +62,10 @@ TEST(TabBarLayout, drawsFromTheFrameAsItIs) {
 
 TEST(TabBarLayout, theKeyboardStaysWithinTheRow) {
     const TabBarLayout layout = barOf({{30, 15}, {40, 15}, {50, 15}});
-    struct Row {
-        std::int64_t from, step, to;
-    };
-    const std::vector<Row> rows{{0, 1, 1},  {2, 1, 2}, {0, -1, 0}, {-1, 1, 0},
-                                {7, -1, 2}, {1, 3, 2}, {1, -3, 0}};
-    for (const Row& row : rows) {
-        EXPECT_EQ(layout.neighbour(row.from, row.step), row.to) << row.from << " by " << row.step;
+    const std::vector<std::array<std::int64_t, 3>> rows{{0, 1, 1},  {2, 1, 2}, {0, -1, 0}, {-1, 1, 0},
+                                                        {7, -1, 2}, {1, 3, 2}, {1, -3, 0}};
+    for (const auto& [from, step, to] : rows) {
+        EXPECT_EQ(layout.neighbour(from, step), to) << from << " by " << step;
     }
     EXPECT_EQ(TabBarLayout{}.neighbour(0, 1), std::nullopt);
 }

@@ -69,7 +69,7 @@ TEST(LongLineWatch, knowsAfterEveryEditWhetherALineIsTooLong) {
         const std::size_t behind = text.text().size() - position;
         std::u16string added(random() % 6000, u'x');
         if (i % 2 != 0) {
-            added += u'\n';
+            added.insert(random() % (added.size() + 1), 1, u'\n');
         }
         const bool before = watch.hasLongLine();
         const TextEdit edit = text.replace(position, i % 3 == 0 ? random() % (behind + 1) / 2 : 0, added);

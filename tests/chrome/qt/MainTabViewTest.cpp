@@ -27,7 +27,6 @@ class MainTabViewTest : public testing::Test {
     }
 
     void click(QPointF position) { QTest::mouseClick(&bar, Qt::LeftButton, {}, position.toPoint()); }
-    void clickTab(std::int64_t index) { click(bar.tabRectangle(index).center()); }
 
     using Posts = std::vector<std::int64_t>;
 
@@ -40,11 +39,10 @@ class MainTabViewTest : public testing::Test {
 TEST_F(MainTabViewTest, announcesClicksThatChangeTheTabAndEverySelectionByTheProgram) {
     EXPECT_EQ(bar.selectIndex(), 0);
     EXPECT_EQ(bar.highlightIndex(), -1);
-    clickTab(0);
-    EXPECT_EQ(bar.highlightIndex(), 0);
-    EXPECT_EQ(posts, Posts{}) << "the selected tab again";
-    clickTab(2);
-    clickTab(1);
+    for (const int tab : {0, 2, 1}) { // the first is selected already
+        click(bar.tabRectangle(tab).center());
+        EXPECT_EQ(bar.highlightIndex(), tab);
+    }
     EXPECT_EQ(posts, (Posts{2, 1}));
     click({3, 16});
     QTest::mouseClick(&bar, Qt::RightButton, {}, bar.tabRectangle(0).center().toPoint());
