@@ -1,5 +1,4 @@
 #include "chrome/LinkAddress.h"
-#include "chrome/ProductInfo.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -25,8 +24,6 @@ TEST(LinkAddress, aLabelForAnAddressOpensThatHost) {
     EXPECT_EQ(LinkAddress::labelText("https://example.org/"), "example.org");
     EXPECT_EQ(LinkAddress::labelText("http://example.org/a"), "http://example.org/a");
     EXPECT_EQ(LinkAddress::labelText(""), "");
-    const std::string label = LinkAddress::labelText(product::homepage());
-    EXPECT_EQ(LinkAddress::ofLabel(label).address.find("https"), std::string::npos);
 }
 
 } // namespace

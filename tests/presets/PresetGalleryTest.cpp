@@ -55,12 +55,12 @@ class PresetGalleryTest : public testing::Test {
         }
     }
 
-    static void post(const Notification& notification) {
-        NotificationCenter::defaultCenter().post(notification);
+    void remove(std::int64_t index) const {
+        center.post(presetNotification::makeDeleteGradient(index, this));
     }
-    void remove(std::int64_t index) const { post(presetNotification::makeDeleteGradient(index, this)); }
 
     LogCapture log;
+    NotificationCenter& center = NotificationCenter::defaultCenter();
     FakeGalleryView view;
     int applied = 0, saves = 0;
     PresetGallery gallery{view, {[this] { ++applied; }, [this] { ++saves; }}};
@@ -109,28 +109,28 @@ TEST_F(PresetGalleryTest, appliesAPresetWithoutTyingItToTheGradient) {
     GlobalData& data = GlobalData::sharedData();
     data.setColorFormatType(colorFormat::hsla);
     const std::vector<double> positions{0.0, 0.5, 1.0};
-    const std::vector<Color> colors{Color::white(), Color::black(), Color::white()};
-    const std::vector<double> opacities{1, 1, 1, 0.2};
-    const Preset preset{positions, colors, opacities, orientation::radial, 0};
-    post({"PresetGradientIndexChanged",
-          &view,
-          {{"colorMarkerPos", positions},
-           {"colorMarkerColor", colors},
-           {"colorMarkerOpacity", opacities},
-           {"orientationType", orientation::radial}}});
+    const Preset preset{
+        positions, {Color::white(), Color::black(), Color::white()}, {1, 1, 1, 0.2}, orientation::radial, 0};
+    const Notification change = presetNotification::makeGradientIndexChanged(preset, &view);
+    center.post(change);
+    EXPECT_EQ(change.name, "PresetGradientIndexChanged");
+    for (const char* const key :
+         {"colorMarkerPos", "colorMarkerColor", "colorMarkerOpacity", "orientationType"}) {
+        EXPECT_TRUE(change.userInfo.contains(key)) << key;
+    }
     EXPECT_EQ(log.messages, std::vector<std::string>{"updateGradientNotification"});
     EXPECT_EQ(data.colorFormatType(), colorFormat::hsla) << "the notation is no part of a preset";
     gallery.addGradientIntoPreset(nullptr);
     data.colorMarkerPos()[1] = 0.7;
     EXPECT_EQ(gallery.presetGradient()[0], preset);
-    post(presetNotification::makeGradientIndexChanged(preset, &view));
+    center.post(change);
     EXPECT_EQ(data.colorMarkerPos(), positions);
     EXPECT_EQ(applied, 2);
-    post({"PresetGradientIndexChanged", &view, {{"index", 0}}}); // no preset with it
-    post({"DeletePresetGradient", &view, {}});
+    center.post({"PresetGradientIndexChanged", &view, {{"index", 0}}}); // no preset with it
+    center.post({"DeletePresetGradient", &view, {}});
     EXPECT_EQ(applied, 2);
     EXPECT_EQ(gallery.presetGradient().size(), 1U);
-    post({"DeletePresetGradient", &view, {{"index", std::int64_t{0}}}});
+    center.post({"DeletePresetGradient", &view, {{"index", std::int64_t{0}}}});
     EXPECT_TRUE(gallery.presetGradient().empty());
 }
 
