@@ -42,8 +42,11 @@ TEST_F(LinksTest, aLabelIsUnderlinedUnderThePointerAndStaysBlue) {
         EXPECT_EQ(label.cursor().shape(), event == &enter ? Qt::PointingHandCursor : Qt::ArrowCursor);
         EXPECT_EQ(label.palette().color(label.foregroundRole()), QColor{Qt::blue});
     }
-    label.setPalette(darkPalette());
+    QWidget dark;
+    dark.setPalette(darkPalette());
+    label.setParent(&dark);
     EXPECT_GT(label.palette().color(label.foregroundRole()).lightness(), 160) << "readable on a dark desktop";
+    label.setParent(nullptr);
 }
 
 TEST_F(LinksTest, aLabelOpensItsAddressOnAClickOrAKeyAndLogsIt) {
