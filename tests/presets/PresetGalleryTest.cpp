@@ -7,17 +7,15 @@
 #include "support/LogCapture.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 namespace tessaly {
 namespace {
 
 TEST(PresetSlotGeometry, placesFiveThumbnailsARow) {
-    const struct {
-        std::int64_t distant;
-        std::size_t position;
-        Point origin;
-    } rows[] = {{52, 0, {15, 15}},  {52, 4, {223, 15}}, {52, 5, {15, 60}},       {49, 1, {64, 15}},
-                {49, 3, {162, 15}}, {49, 9, {211, 60}}, {52, 9999, {223, 89970}}};
+    const std::vector<std::tuple<std::int64_t, std::size_t, Point>> rows{
+        {52, 0, {15, 15}}, {52, 4, {223, 15}}, {52, 5, {15, 60}},
+        {49, 1, {64, 15}}, {49, 9, {211, 60}}, {52, 9999, {223, 89970}}};
     for (const auto& [distant, position, origin] : rows) {
         EXPECT_EQ(PresetSlotGeometry{distant}.thumbnailRect(position), (Rect{origin.x, origin.y, 40, 40}));
     }
@@ -25,25 +23,21 @@ TEST(PresetSlotGeometry, placesFiveThumbnailsARow) {
 
 TEST(PresetSlotGeometry, hitTestAndVisibleRangeAgreeWithTheRectangles) {
     const PresetSlotGeometry slots{PresetSlotGeometry::narrowThumbDistant};
-    for (const std::size_t count : {0U, 1U, 5U, 13U}) {
-        for (int line = 0; line < 128; ++line) {
-            const double y = 2.5 * line - 60;
-            const auto visible = PresetSlotGeometry::positionsBetween(y, y + 30, count);
-            for (std::size_t i = 0; i < 20; ++i) {
-                const Rect rect = slots.thumbnailRect(i);
-                EXPECT_EQ(visible.first <= i && i < visible.last,
-                          i < count && rect.maxY() > y && rect.y < y + 30)
-                    << i << " of " << count << " at " << y;
-            }
-            for (int column = 0; column < 156; ++column) {
-                const double x = 2.5 * column - 60;
-                std::optional<std::size_t> hit;
-                for (std::size_t i = 0; i < count; ++i) {
-                    hit = slots.thumbnailRect(i).contains({x, y}) ? i : hit;
-                }
-                ASSERT_EQ(slots.positionAt({x, y}, count), hit) << x << ' ' << y << " of " << count;
-            }
+    std::mt19937 random{1};
+    std::uniform_int_distribution<int> place{-120, 660};
+    for (int i = 0; i < 50'000; ++i) {
+        const std::size_t count = random() % 14;
+        const Point point{place(random) / 2.0, place(random) / 2.0}; // edges are met often
+        const auto visible = PresetSlotGeometry::positionsBetween(point.y, point.y + 30, count);
+        std::optional<std::size_t> hit;
+        for (std::size_t position = 0; position < 20; ++position) {
+            const Rect rect = slots.thumbnailRect(position);
+            const bool isVisible = position < count && rect.maxY() > point.y && rect.y < point.y + 30;
+            ASSERT_EQ(visible.first <= position && position < visible.last, isVisible)
+                << position << " at " << point.y;
+            hit = position < count && rect.contains(point) ? position : hit;
         }
+        ASSERT_EQ(slots.positionAt(point, count), hit) << point.x << ' ' << point.y << " of " << count;
     }
 }
 
@@ -61,31 +55,26 @@ class PresetGalleryTest : public testing::Test {
         }
     }
 
-    static void post(const Notification& notification) {
-        NotificationCenter::defaultCenter().post(notification);
+    void remove(std::int64_t index) const {
+        center.post(presetNotification::makeDeleteGradient(index, this));
     }
-    void remove(std::int64_t index) const { post(presetNotification::makeDeleteGradient(index, this)); }
 
     LogCapture log;
+    NotificationCenter& center = NotificationCenter::defaultCenter();
     FakeGalleryView view;
-    int applied = 0;
-    int saves = 0;
+    int applied = 0, saves = 0;
     PresetGallery gallery{view, {[this] { ++applied; }, [this] { ++saves; }}};
 };
 
 TEST_F(PresetGalleryTest, growsByRowsAndNarrowsWhenTheScrollerNeedsRoom) {
-    const struct {
-        int presets;
-        double height;
-        std::int64_t distant;
-        int relayouts;
-    } rows[] = {{0, 125, 52, 0},  {1, 170, 52, 0},  {6, 215, 52, 0},
-                {10, 215, 52, 0}, {11, 260, 49, 1}, {12, 260, 49, 1}};
+    const std::vector<std::tuple<int, double, double, int>> rows{{0, 125, 52, 0},  {1, 170, 52, 0},
+                                                                 {6, 215, 52, 0},  {10, 215, 52, 0},
+                                                                 {11, 260, 49, 1}, {12, 260, 49, 1}};
     view.scrollHeight = 260;
     for (const auto& [presets, height, distant, relayouts] : rows) {
         add(presets - view.thumbnails);
         EXPECT_EQ(view.containerSize, (Size{263, height})) << presets;
-        EXPECT_EQ(gallery.slots().thumbnailRect(1).x, 15.0 + static_cast<double>(distant)) << presets;
+        EXPECT_EQ(gallery.slots().thumbnailRect(1).x, 15 + distant) << presets;
         EXPECT_EQ(view.relayouts, relayouts) << presets;
         EXPECT_EQ(gallery.gradientIndex(), presets);
     }
@@ -120,30 +109,28 @@ TEST_F(PresetGalleryTest, appliesAPresetWithoutTyingItToTheGradient) {
     GlobalData& data = GlobalData::sharedData();
     data.setColorFormatType(colorFormat::hsla);
     const std::vector<double> positions{0.0, 0.5, 1.0};
-    const std::vector<Color> colors{Color::white(), Color::black(), Color::white()};
-    const std::vector<double> opacities{1, 1, 1, 0.2};
-    post({"PresetGradientIndexChanged",
-          &view,
-          {{"colorMarkerPos", positions},
-           {"colorMarkerColor", colors},
-           {"colorMarkerOpacity", opacities},
-           {"orientationType", orientation::radial}}});
+    const Preset preset{
+        positions, {Color::white(), Color::black(), Color::white()}, {1, 1, 1, 0.2}, orientation::radial, 0};
+    const Notification change = presetNotification::makeGradientIndexChanged(preset, &view);
+    center.post(change);
+    EXPECT_EQ(change.name, "PresetGradientIndexChanged");
+    for (const char* const key :
+         {"colorMarkerPos", "colorMarkerColor", "colorMarkerOpacity", "orientationType"}) {
+        EXPECT_TRUE(change.userInfo.contains(key)) << key;
+    }
     EXPECT_EQ(log.messages, std::vector<std::string>{"updateGradientNotification"});
     EXPECT_EQ(data.colorFormatType(), colorFormat::hsla) << "the notation is no part of a preset";
     gallery.addGradientIntoPreset(nullptr);
-    const Preset preset{positions, colors, opacities, orientation::radial, 0};
-    EXPECT_EQ(gallery.presetGradient()[0], preset);
-
     data.colorMarkerPos()[1] = 0.7;
     EXPECT_EQ(gallery.presetGradient()[0], preset);
-    post(presetNotification::makeGradientIndexChanged(preset, &view));
+    center.post(change);
     EXPECT_EQ(data.colorMarkerPos(), positions);
     EXPECT_EQ(applied, 2);
-    post({"PresetGradientIndexChanged", &view, {{"index", 0}}}); // no preset with it
-    post({"DeletePresetGradient", &view, {}});
+    center.post({"PresetGradientIndexChanged", &view, {{"index", 0}}}); // no preset with it
+    center.post({"DeletePresetGradient", &view, {}});
     EXPECT_EQ(applied, 2);
     EXPECT_EQ(gallery.presetGradient().size(), 1U);
-    post({"DeletePresetGradient", &view, {{"index", std::int64_t{0}}}});
+    center.post({"DeletePresetGradient", &view, {{"index", std::int64_t{0}}}});
     EXPECT_TRUE(gallery.presetGradient().empty());
 }
 

@@ -11,9 +11,8 @@
 #include <atomic>
 #include <functional>
 #include <gtest/gtest.h>
-#include <random>
-#include <sched.h>
 #include <sys/mman.h>
+#include <sys/time.h>
 #include <sys/wait.h>
 
 namespace tessaly {
@@ -52,10 +51,10 @@ class ProgramRun : public PresetList {
   private:
     static std::vector<Preset> listOf(std::int64_t number) {
         std::vector<Preset> list;
+        const auto value = static_cast<double>(number);
         for (std::int64_t i = 0; number != 0 && i <= number % 7; ++i) {
-            const auto value = static_cast<double>(number);
-            list.push_back(
-                {{value, 0.5}, {Color::white(), Color{}}, {1.0, static_cast<double>(i)}, number % 5, i});
+            const std::vector<double> opacities{1.0, static_cast<double>(i)};
+            list.push_back({{value, 0.5}, {Color::white(), Color{}}, opacities, number % 5, i});
         }
         return list;
     }
@@ -73,35 +72,25 @@ class PresetSafetyTest : public testing::Test {
     std::filesystem::path safetyCopy() const { return folder() / "localDB.sqlite3.safety"; }
 
     std::vector<std::filesystem::path> setAside() const {
-        std::vector<std::filesystem::path> found;
-        for (const auto& entry : std::filesystem::directory_iterator{folder()}) {
-            if (entry.path().native().find("-set-aside-") != std::string::npos) {
-                found.push_back(entry.path());
-            }
-        }
+        std::vector<std::filesystem::path> found(std::filesystem::directory_iterator{folder()}, {});
+        std::erase_if(
+            found, [](const auto& path) { return path.native().find("-set-aside-") == std::string::npos; });
         return found;
     }
-
     void save(std::int64_t number) const { ProgramRun{support.path}.save(number); }
     std::int64_t stored() const { return ProgramRun{support.path}.number(); }
 
     /// Runs in a process of its own. True: it ended by itself, neither killed nor crashed.
-    static bool endsByItself(const std::function<void()>& run,
-                             const std::function<void()>& untilKilled = {}) {
+    static bool endsByItself(const std::function<void()>& run) {
         const pid_t child = ::fork();
         if (child == 0) {
             run();
             ::_exit(0);
         }
-        if (untilKilled) {
-            untilKilled();
-            ::kill(child, SIGKILL);
-        }
         int status = 0;
         ::waitpid(child, &status, 0);
         return WIFEXITED(status);
     }
-
     bool saveKilledAtCall(int call, std::int64_t number) const {
         return !endsByItself([&] {
             const FailingDisk disk{call, Failure::Crash};
@@ -132,38 +121,28 @@ class PresetSafetyTest : public testing::Test {
 };
 
 TEST_F(PresetSafetyTest, aKillAtAnyMomentLeavesTheListBeforeOrAfter) {
-    struct Progress {
-        std::atomic<std::int64_t> last; ///< saved completely
-        std::atomic<bool> saving;
-    };
-    auto* const progress = static_cast<Progress*>(
-        ::mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
-    const auto saveOneAfterAnother = [&] {
-        for (ProgramRun run{support.path};; ++progress->last) {
-            progress->saving = true;
-            run.save(progress->last + 1);
-        }
-    };
-    std::mt19937 random{1};
-    const auto aMomentOfSaving = [&] {
-        while (!progress->saving) {
-            ::sched_yield();
-        }
-        ::usleep(std::uniform_int_distribution{1U, 10'000U}(random));
-    };
+    // How many lists were saved completely, shared with the processes that are killed.
+    void* const memory =
+        ::mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    auto& saved = *static_cast<std::atomic<int>*>(memory);
     int unfinished = 0;
     for (int i = 0; i < 250; ++i) {
-        progress->saving = false;
-        ASSERT_FALSE(endsByItself(saveOneAfterAnother, aMomentOfSaving));
+        ASSERT_FALSE(endsByItself([&] {
+            ProgramRun run{support.path};
+            const itimerval moment{{}, {0, 1 + 40 * i}};
+            ::setitimer(ITIMER_REAL, &moment, nullptr); // its signal ends the process
+            for (;; ++saved) {
+                run.save(saved + 1);
+            }
+        }));
         unfinished += std::filesystem::exists(safetyCopy()) ? 1 : 0;
         const std::int64_t found = stored();
-        const std::int64_t last = progress->last;
-        ASSERT_TRUE(found == last || found == last + 1) << found << " after " << last;
-        progress->last = found;
+        ASSERT_TRUE(found == saved || found == saved + 1) << found << " after " << saved;
+        saved = static_cast<int>(found);
     }
     EXPECT_GT(unfinished, 50) << "the kills must hit saves";
     EXPECT_TRUE(setAside().empty());
-    ::munmap(progress, sizeof(Progress));
+    ::munmap(memory, sizeof saved);
 }
 
 TEST_F(PresetSafetyTest, aKillAtEverySystemCallOfSaveAndRestoreLosesNothing) {
@@ -188,9 +167,9 @@ TEST_F(PresetSafetyTest, aDiskThatFailsAtAnyCallLosesNothingAndTheNextSaveMendsI
         save(20);
         bool struck = true;
         for (int call = 1; struck; ++call) {
-            for (const bool failing : {true, false}) {
-                const FailingDisk disk{failing ? call : never, failure};
-                if (failing) {
+            for (const int at : {call, never}) {
+                const FailingDisk disk{at, failure};
+                if (at == call) {
                     save(21);
                     struck = disk.hasStruck();
                 }
@@ -206,8 +185,8 @@ TEST_F(PresetSafetyTest, aDiskThatFailsAtAnyCallLosesNothingAndTheNextSaveMendsI
                 }
             }
             ASSERT_EQ(stored(), 20) << "at call " << call;
-            EXPECT_FALSE(std::filesystem::exists(safetyCopy())) << "at call " << call;
-            EXPECT_EQ(setAside().size(), asideBefore) << "what was read is not damaged; call " << call;
+            ASSERT_FALSE(std::filesystem::exists(safetyCopy())) << "at call " << call;
+            ASSERT_EQ(setAside().size(), asideBefore) << "what was read is not damaged; call " << call;
         }
     }
 }
@@ -216,13 +195,12 @@ TEST_F(PresetSafetyTest, aSaveThatCannotBeGuardedChangesNothing) {
     for (const auto& [name, obstacle] : obstacles()) {
         save(20);
         ProgramRun run{support.path};
-        {
-            const std::shared_ptr<void> inTheWay = obstacle();
-            log.messages.clear();
-            run.save(21);
-            EXPECT_EQ(std::count(log.messages.begin(), log.messages.end(), "Error delete data!"), 2) << name;
-            EXPECT_EQ(log.messages.back().rfind("Error while inserting: ", 0), 0U) << name;
-        }
+        log.messages.clear();
+        std::shared_ptr<void> inTheWay = obstacle();
+        run.save(21);
+        EXPECT_EQ(std::count(log.messages.begin(), log.messages.end(), "Error delete data!"), 2) << name;
+        EXPECT_EQ(log.messages.back().rfind("Error while inserting: ", 0), 0U) << name;
+        inTheWay.reset();
         EXPECT_FALSE(std::filesystem::exists(safetyCopy())) << name;
         EXPECT_EQ(stored(), 20) << name;
         EXPECT_EQ(run.number(), 21) << name;
@@ -233,7 +211,7 @@ TEST_F(PresetSafetyTest, aSaveThatCannotBeGuardedChangesNothing) {
 }
 
 TEST_F(PresetSafetyTest, showsThePresetsAfterACrashEvenIfNothingCanBeRestored) {
-    constexpr int midst = 45;
+    constexpr int midst = 45; // a call within the save
     for (const auto& [name, obstacle] : obstacles()) {
         for (const auto& [call, expected] : {std::pair{midst, 27}, {never, 20}}) {
             save(27);
@@ -243,9 +221,7 @@ TEST_F(PresetSafetyTest, showsThePresetsAfterACrashEvenIfNothingCanBeRestored) {
                 run.save(20);
                 std::raise(SIGKILL);
             });
-            ASSERT_EQ(std::filesystem::exists(safetyCopy()), call == midst) << "a call within the save";
-            {
-                const std::shared_ptr<void> inTheWay = obstacle();
+            for (std::shared_ptr<void> inTheWay = obstacle(); inTheWay; inTheWay.reset()) {
                 EXPECT_EQ(stored(), expected) << name;
                 EXPECT_EQ(std::filesystem::exists(safetyCopy()), call == midst) << name;
             }
@@ -256,34 +232,24 @@ TEST_F(PresetSafetyTest, showsThePresetsAfterACrashEvenIfNothingCanBeRestored) {
 }
 
 TEST_F(PresetSafetyTest, whatCannotBeReadIsSetAsideBeforeItIsOverwritten) {
-    const auto cut = [&](std::uintmax_t size) {
-        return [=, this] { std::filesystem::resize_file(file(), size); };
+    const auto cut = [this](std::uintmax_t size) { std::filesystem::resize_file(file(), size); };
+    const auto overwrite = [this](std::streamoff place, char with) {
+        std::fstream{file(), std::ios::in | std::ios::out}.seekp(place) << std::string(100, with);
     };
-    const auto overwrite = [&](std::streamoff place, char with) {
-        return [=, this] {
-            std::fstream{file(), std::ios::in | std::ios::out}.seekp(place) << std::string(100, with);
-        };
-    };
-    const auto execute = [&](const char* sql) {
-        return [=, this] { SqliteConnection::open(file()).execute(sql); };
-    };
+    const auto execute = [this](const char* sql) { SqliteConnection::open(file()).execute(sql); };
+    constexpr const char* mainRows = "select count(*) from MainTable";
     // What is set aside still has 7 or 14 values to count; or, without a query, the same bytes.
-    const struct {
-        const char* name;
-        std::function<void()> damage;
-        const char* query;
-    } rows[] = {
-        {"no database", overwrite(0, 'x'), nullptr},
-        {"cut short", cut(4096), nullptr},
-        {"a broken page of stops", overwrite(8192, '\xFF'), "select count(*) from MainTable"},
-        {"a cut page that reads as other values", cut(12'200), "select count(*) from MainTable"},
-        {"another column", execute("alter table MainTable rename column orientationType to kind"),
+    const std::vector<std::tuple<const char*, std::function<void()>, const char*>> rows{
+        {"no database", [&] { overwrite(0, 'x'); }, nullptr},
+        {"cut short", [&] { cut(4096); }, nullptr},
+        {"a broken page of stops", [&] { overwrite(8192, '\xFF'); }, mainRows},
+        {"a cut page that reads as other values", [&] { cut(12'200); }, mainRows},
+        {"another column", [&] { execute("alter table MainTable rename column orientationType to kind"); },
          "select count(kind) from MainTable"},
-        {"a column less", execute("alter table AdditionalTable drop column blue"),
+        {"a column less", [&] { execute("alter table AdditionalTable drop column blue"); },
          "select count(green) from AdditionalTable"},
-        {"no table", execute("drop table AdditionalTable; create view AdditionalTable as select 1"),
-         "select count(*) from MainTable"},
-    };
+        {"no table", [&] { execute("drop table AdditionalTable; create view AdditionalTable as select 1"); },
+         mainRows}};
     for (const auto& [name, damage, query] : rows) {
         std::filesystem::remove_all(folder());
         save(27);
@@ -293,13 +259,6 @@ TEST_F(PresetSafetyTest, whatCannotBeReadIsSetAsideBeforeItIsOverwritten) {
             const auto count = text ? SqliteConnection::openImmutable(found).value(text) : std::nullopt;
             return text ? count == "7" || count == "14" : contentsOf(found) == bytes;
         };
-        const auto saveTwiceFailingAtCall = [&](int call, Failure failure) {
-            const FailingDisk disk{call, failure};
-            ProgramRun run{support.path};
-            run.save(22);
-            run.save(22);
-            return disk.hasStruck();
-        };
         for (const Failure failure : {Failure::Crash, Failure::OneError, Failure::NoSpace}) {
             bool struck = true;
             for (int call = 1; struck; ++call) {
@@ -308,12 +267,17 @@ TEST_F(PresetSafetyTest, whatCannotBeReadIsSetAsideBeforeItIsOverwritten) {
                 std::ofstream{file(), std::ios::binary} << bytes;
                 stored();
                 EXPECT_TRUE(setAside().empty()) << name << ": as long as nothing is saved";
-                struck = failure == Failure::Crash ? saveKilledAtCall(call, 22)
-                                                   : saveTwiceFailingAtCall(call, failure);
+                const auto saveTwice = [&] {
+                    const FailingDisk disk{call, failure};
+                    ProgramRun run{support.path};
+                    run.save(22);
+                    run.save(22);
+                    return disk.hasStruck();
+                };
+                struck = failure == Failure::Crash ? saveKilledAtCall(call, 22) : saveTwice();
                 std::vector<std::filesystem::path> candidates = setAside();
                 const std::int64_t found = stored();
-                EXPECT_TRUE(found == 22 || failure != Failure::OneError)
-                    << found << ": " << name << " at call " << call;
+                EXPECT_TRUE(found == 22 || failure != Failure::OneError) << name << " at call " << call;
                 candidates.push_back(file());
                 EXPECT_TRUE(std::any_of(candidates.begin(), candidates.end(), isKept))
                     << name << " at call " << call;
@@ -372,23 +336,21 @@ TEST_F(PresetSafetyTest, aBrokenSafetyCopyIsKeptAndTheDatabaseRead) {
 TEST_F(PresetSafetyTest, aReadOnlyFolderIsReadAndLeftAlone) {
     save(27);
     const bool isRoot = ::geteuid() == 0; // root may write anywhere, so not as root
-    const auto setPermissions = [&](perms permissions) {
+    const auto become = [&](uid_t user, perms permissions) {
+        ASSERT_TRUE(!isRoot || ::seteuid(0) == 0);
         for (const auto& path : {file(), folder(), support.path}) {
-            ASSERT_TRUE(!isRoot || ::chown(path.c_str(), 65534, 65534) == 0);
+            ASSERT_TRUE(!isRoot || ::chown(path.c_str(), user, user) == 0);
             std::filesystem::permissions(path, permissions);
         }
+        ASSERT_TRUE(!isRoot || ::seteuid(user) == 0);
     };
-    setPermissions(perms{0500});
-    ASSERT_TRUE(!isRoot || ::seteuid(65534) == 0);
-    {
-        ProgramRun run{support.path};
-        EXPECT_EQ(run.number(), 27);
-        run.save(20);
-        EXPECT_TRUE(log.has("LastError: attempt to write a readonly database"));
-    }
+    become(65534, perms{0500});
+    ProgramRun run{support.path};
+    EXPECT_EQ(run.number(), 27);
+    run.save(20);
+    EXPECT_TRUE(log.has("LastError: attempt to write a readonly database"));
     EXPECT_EQ(stored(), 27);
-    ASSERT_TRUE(!isRoot || ::seteuid(0) == 0);
-    setPermissions(perms{0700});
+    become(0, perms{0700});
 }
 
 } // namespace

@@ -37,27 +37,25 @@ class FailingDisk {
         errno = failure_ == Failure::NoSpace ? ENOSPC : EIO;
         return needsSpace || failure_ != Failure::NoSpace;
     }
+    static ssize_t write(int file, const void* data, std::size_t size) {
+        return strikes(true) ? -1 : ::write(file, data, size);
+    }
+    static ssize_t pwrite(int file, const void* data, std::size_t size, off_t at) {
+        const bool growsFile = ::lseek(file, 0, SEEK_END) < at + static_cast<off_t>(size);
+        return strikes(growsFile) ? -1 : ::pwrite(file, data, size, at);
+    }
+    static int ftruncate(int file, off_t size) { return strikes(false) ? -1 : ::ftruncate(file, size); }
+    static int unlink(const char* path) { return strikes(false) ? -1 : ::unlink(path); }
 
     static void install(bool hooked) {
-        static constexpr auto write = +[](int file, const void* data, std::size_t size) -> ssize_t {
-            return strikes(true) ? -1 : ::write(file, data, size);
-        };
-        static constexpr auto pwrite =
-            +[](int file, const void* data, std::size_t size, off_t at) -> ssize_t {
-            const bool growsFile = ::lseek(file, 0, SEEK_END) < at + static_cast<off_t>(size);
-            return strikes(growsFile) ? -1 : ::pwrite(file, data, size, at);
-        };
-        static constexpr auto truncate =
-            +[](int file, off_t size) { return strikes(false) ? -1 : ::ftruncate(file, size); };
-        static constexpr auto unlink = +[](const char* path) { return strikes(false) ? -1 : ::unlink(path); };
-        const auto set = [hooked](const char* name, auto call) {
+        const auto set = [hooked](const char* name, auto* call) {
             sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr);
             vfs->xSetSystemCall(vfs, name, hooked ? reinterpret_cast<sqlite3_syscall_ptr>(call) : nullptr);
         };
         set("write", write);
         set("pwrite", pwrite);
         set("pwrite64", pwrite);
-        set("ftruncate", truncate);
+        set("ftruncate", ftruncate);
         set("unlink", unlink);
     }
 

@@ -1,12 +1,16 @@
 #include "sourceview/qt/CustomTextView.h"
+#include "support/Palettes.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
 #include <array>
 #include <ctime>
+#include <functional>
 #include <gtest/gtest.h>
-#include <memory>
 #include <random>
 
 namespace tessaly {
@@ -15,69 +19,50 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::string_literals;
 
-/// Like a user, gets at what the view keeps from other code.
-class OpenTextView : public CustomTextView {
-  public:
-    using CustomTextView::canInsertFromMimeData;
-    using CustomTextView::createMimeDataFromSelection;
-    using CustomTextView::insertFromMimeData;
-};
-
 class CustomTextViewTest : public testing::Test {
   protected:
     CustomTextViewTest() {
-        view.resize(400, 200);
         QObject::connect(&view, &CustomTextView::userEdited,
-                         [this](std::size_t position, std::size_t removed, std::size_t added) {
-                             edits.push_back({position, removed, added});
-                         });
+                         [this](auto... edit) { edits.push_back({edit...}); });
     }
 
     void paste(const std::u16string& text) {
-        QMimeData data;
-        data.setText(QStringView{text}.toString());
-        view.insertFromMimeData(&data);
+        clipboard.setText(QStringView{text}.toString());
+        view.paste();
     }
 
-    OpenTextView view;
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    CustomTextView view;
     std::vector<TextEdit> edits;
 };
 
 TEST_F(CustomTextViewTest, keepsEveryCharacterAndEndsLinesWithLF) {
+    const std::u16string odd = u"\uFEFFno\u00A0break\u2028nel\u0085\tb\U0001F308 e\u0301\u05D0\u202E\u0000z"s;
     const std::u16string lone{u'x', char16_t{0xD83C}, u'y', char16_t{0xDF08}};
     const std::vector<std::pair<std::u16string, std::u16string>> rows{
-        {u"no\u00A0break\u2028sep\u0085nel\tb", u"no\u00A0break\u2028sep\u0085nel\tb"},
-        {u"\uFEFFbom \U0001F308 e\u0301 \u05D0\u202E\u0000z"s,
-         u"\uFEFFbom \U0001F308 e\u0301 \u05D0\u202E\u0000z"s},
-        {lone, lone},
-        {u"a\rb\r\nc\u2029d\n\re\r", u"a\nb\nc\nd\n\ne\n"},
-        {u"", u""},
-    };
+        {odd, odd}, {lone, lone}, {u"a\rb\r\nc\u2029d\n\re\r", u"a\nb\nc\nd\n\ne\n"}, {u"", u""}};
     for (const auto& [given, kept] : rows) {
         view.setText(given);
         EXPECT_EQ(view.text(), kept);
         EXPECT_EQ(view.length(), static_cast<std::size_t>(view.document()->characterCount() - 1));
         view.selectAll();
-        const std::unique_ptr<QMimeData> copied{view.createMimeDataFromSelection()};
-        EXPECT_EQ(copied->formats(), QStringList{u"text/plain"_s});
-        EXPECT_EQ(copied->text().toStdU16String(), kept);
+        view.copy();
+        if (!kept.empty()) {
+            EXPECT_EQ(clipboard.mimeData()->formats(), QStringList{u"text/plain"_s});
+            EXPECT_EQ(clipboard.text().toStdU16String(), kept);
+        }
         paste(given);
         EXPECT_EQ(view.text(), kept);
     }
 }
 
 TEST_F(CustomTextViewTest, writesBehindTheUsersBack) {
-    std::u16string text(2000, u'x');
-    for (std::size_t i = 6; i < text.size(); i += 7) {
-        text[i] = u'\n';
-    }
-    view.setText(text);
+    view.setText(u"xxxxxx\n"_s.repeated(300).toStdU16String());
     view.show();
     QTest::keyClicks(&view, u"abcdef"_s);
     view.setSelection({1000, 5});
     view.verticalScrollBar()->setValue(50);
     edits.clear();
-
     view.replaceCharacters({0, 6}, u"abcdef");
     EXPECT_TRUE(view.document()->isUndoAvailable()) << "nothing changed";
     int touched = 0;
@@ -87,21 +72,17 @@ TEST_F(CustomTextViewTest, writesBehindTheUsersBack) {
     EXPECT_EQ(touched, 1) << "the part that differs";
     EXPECT_FALSE(view.document()->isUndoAvailable());
     EXPECT_EQ(view.selection(), (CharacterRange{1001, 5})) << "beside the same text";
-    EXPECT_EQ(view.verticalScrollBar()->value(), 50);
     view.replaceCharacters({1001, 0}, u"at the caret");
-    EXPECT_EQ(view.selection(), (CharacterRange{1001, 17}));
-    EXPECT_EQ(view.verticalScrollBar()->value(), 50);
-    view.replaceCharacters({2000, 9999}, u"");
-    EXPECT_EQ(view.length(), 2000U);
+    EXPECT_EQ(view.selection(), (CharacterRange{1001, 17})) << "the caret stays before text put in at it";
+    view.replaceCharacters({2100, 9999}, u"");
+    EXPECT_EQ(view.length(), 2100U);
     EXPECT_EQ(view.verticalScrollBar()->value(), 50);
     EXPECT_TRUE(edits.empty());
 
-    view.setText(u"ab");
-    view.setSelection({1, 0});
-    view.replaceCharacters({1, 0}, u"--");
-    EXPECT_EQ(view.selection(), (CharacterRange{1, 0})) << "the caret stays before text put in at it";
+    view.setText(u"ab--c");
+    view.setSelection({1, 1});
     view.insertText(u"\r\nxy");
-    EXPECT_EQ(view.text(), u"a\nxy--b");
+    EXPECT_EQ(view.text(), u"a\nxy--c");
     EXPECT_EQ(view.selection(), (CharacterRange{4, 0}));
     view.moveToBeginningOfDocument();
     EXPECT_EQ(view.selection(), CharacterRange{});
@@ -111,32 +92,29 @@ TEST_F(CustomTextViewTest, reportsEveryEditOfTheUserAndNothingElse) {
     std::mt19937 random{6};
     const auto upTo = [&](std::size_t most) { return random() % (most + 1); };
     std::u16string shadow;
-    for (int i = 0; i < 1500; ++i) {
-        view.setSelection({upTo(view.length()), upTo(i % 50 == 0 ? view.length() : 3)});
-        edits.clear();
-        switch (random() % 9) {
-        case 0:
-            paste(u"p\u2028\r\nq\U0001F308");
-            break;
-        case 1:
-            view.undo();
-            break;
-        case 2:
-            view.redo();
-            break;
-        case 3:
-            view.cut();
-            break;
-        case 4: {
+    const std::vector<std::function<void()>> actions{
+        [&] { paste(u"p\u2028\r\nq\U0001F308"); },
+        [&] { view.undo(); },
+        [&] { view.redo(); },
+        [&] { view.cut(); },
+        [&] {
+            QInputMethodEvent event{u"ni"_s, {}};
+            event.setCommitString(random() % 2 != 0 ? u"\u4F60"_s : QString{}); // or still composing
+            QCoreApplication::sendEvent(&view, &event);
+        },
+        [&] {
             const CharacterRange range = view.selection();
             view.replaceCharacters(range, u"generated\n");
             ASSERT_TRUE(edits.empty());
             shadow.replace(range.location, range.length, u"generated\n");
-            break;
-        }
-        default:
-            QTest::keyClick(&view, std::array{Qt::Key_A, Qt::Key_Backspace, Qt::Key_Return}[random() % 3]);
-        }
+        },
+        [&] {
+            QTest::keyClick(&view, std::array{Qt::Key_A, Qt::Key_Backspace, Qt::Key_Return}[upTo(2)]);
+        }};
+    for (int i = 0; i < 1500; ++i) {
+        view.setSelection({upTo(view.length()), upTo(i % 50 == 0 ? view.length() : 3)});
+        edits.clear();
+        actions[std::min(upTo(9), actions.size() - 1)]();
         for (const TextEdit& edit : edits) {
             ASSERT_LE(edit.position + edit.removed, shadow.size());
             shadow.replace(edit.position, edit.removed, view.text().substr(edit.position, edit.added));
@@ -145,61 +123,30 @@ TEST_F(CustomTextViewTest, reportsEveryEditOfTheUserAndNothingElse) {
     }
 }
 
-TEST_F(CustomTextViewTest, anInputMethodReportsWhatItCommitsOnly) {
-    view.setText(u"ab");
-    view.setSelection({1, 0});
-    QInputMethodEvent composing{u"ni"_s, {}};
-    QCoreApplication::sendEvent(&view, &composing);
-    EXPECT_TRUE(edits.empty());
-    QInputMethodEvent committing;
-    committing.setCommitString(u"\u4F60"_s);
-    QCoreApplication::sendEvent(&view, &committing);
-    EXPECT_EQ(edits, (std::vector<TextEdit>{{1, 0, 1}}));
-    EXPECT_EQ(view.text(), u"a\u4F60b");
-}
-
 TEST_F(CustomTextViewTest, takesPlainTextOnly) {
-    QMimeData data;
-    data.setHtml(u"<b>bold</b>"_s);
-    data.setData(u"text/markdown"_s, "**bold**");
-    data.setUrls({QUrl{u"file:///etc/passwd"_s}});
-    EXPECT_FALSE(view.canInsertFromMimeData(&data));
-    view.insertFromMimeData(&data);
+    auto* const data = new QMimeData; // the clipboard owns it
+    data->setHtml(u"<b>bold</b>"_s);
+    data->setData(u"text/markdown"_s, "**bold**");
+    data->setUrls({QUrl{u"file:///etc/passwd"_s}});
+    clipboard.setMimeData(data);
+    view.paste();
+    EXPECT_FALSE(view.canPaste());
     EXPECT_EQ(view.text(), u"");
-    data.setText(u"**plain**"_s);
-    EXPECT_TRUE(view.canInsertFromMimeData(&data));
-    view.insertFromMimeData(&data);
+    data->setText(u"**plain**"_s);
+    view.paste();
     EXPECT_EQ(view.text(), u"**plain**");
-    EXPECT_EQ(CustomTextView::readablePasteboardTypes(), QStringList{u"text/plain"_s});
     view.setReadOnly(true);
-    view.insertFromMimeData(&data);
+    view.paste();
     EXPECT_EQ(view.length(), 9U);
 }
 
-TEST_F(CustomTextViewTest, wrapsUntilALineIsTooLong) {
-    view.setText(std::u16string(9'999, u'x') + u"\nshort");
-    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
-    view.setSelection({5, 0});
-    QTest::keyClick(&view, Qt::Key_A);
-    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
-    QTest::keyClick(&view, Qt::Key_A);
-    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::NoWrap);
-    view.undo();
-    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
-    paste(std::u16string(20'000, u'y'));
-    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::NoWrap);
-    view.setText(u"");
-    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
-}
-
 TEST_F(CustomTextViewTest, answersSoonAfterAPasteOfFiveMegabytes) {
-    std::u16string lines;
-    while (lines.size() < 5'000'000) {
-        lines += u"\tbackground: linear-gradient(to right, #000000 0%, #ffffff 100%);\n";
-    }
+    const QString line = u"\tbackground: linear-gradient(to right, #000000 0%, #ffffff 100%);\n"_s;
     view.show();
-    for (const std::u16string& text : {lines, std::u16string(5'000'000, u'x')}) {
+    for (const std::u16string& text :
+         {line.repeated(75'000).toStdU16String(), std::u16string(5'000'000, u'x')}) {
         view.setText(u"before\n\nafter");
+        EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
         view.setSelection({7, 0});
         QCoreApplication::processEvents();
         const std::clock_t start = std::clock();
@@ -210,26 +157,79 @@ TEST_F(CustomTextViewTest, answersSoonAfterAPasteOfFiveMegabytes) {
         EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 2.0);
         EXPECT_EQ(view.length(), text.size() + 13);
     }
+    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::NoWrap) << "a line is too long";
+    view.undo();
+    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
 }
 
 TEST_F(CustomTextViewTest, theKeyboardIsNotTrapped) {
     QWidget window;
-    QWidget before{&window};
+    QLineEdit before{&window};
     view.setParent(&window);
-    QWidget after{&window};
-    before.setFocusPolicy(Qt::StrongFocus);
-    after.setFocusPolicy(Qt::StrongFocus);
+    QLineEdit after{&window};
     window.show();
-    view.setFocus();
-    QTest::keyClick(&view, Qt::Key_Tab);
-    EXPECT_EQ(window.focusWidget(), &view);
-    QTest::keyClick(&view, Qt::Key_Tab, Qt::ControlModifier);
-    EXPECT_EQ(window.focusWidget(), &after);
-    view.setFocus();
-    QTest::keyClick(&view, Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(window.focusWidget(), &before);
+    using Row = std::tuple<Qt::Key, Qt::KeyboardModifier, QWidget*>;
+    for (const auto& [key, modifier, focused] : {Row{Qt::Key_Tab, Qt::NoModifier, &view},
+                                                 {Qt::Key_Tab, Qt::ControlModifier, &after},
+                                                 {Qt::Key_Backtab, Qt::ShiftModifier, &before}}) {
+        view.setFocus();
+        QTest::keyClick(&view, key, modifier);
+        EXPECT_EQ(window.focusWidget(), focused);
+    }
     EXPECT_EQ(view.text(), u"\t");
     view.setParent(nullptr);
+}
+
+class BandTest : public CustomTextViewTest {
+  protected:
+    BandTest() {
+        view.resize(300, 200);
+        view.awakeFromNib();
+        view.setText(u"one\ntwo\nthree\n" + std::u16string(60, u'w') + u"\n");
+        view.show();
+    }
+    // Rows that stand below one another, as the band covers them on whole points.
+    QRect rows(int first, int count) const {
+        const QRect row = view.highlightRectForRange({0, 0}).toAlignedRect();
+        return {0, row.top() + first * row.height(), view.viewport()->width(), count * row.height()};
+    }
+    // At the right of all text.
+    QColor paintedIn(int row) {
+        const QImage image = view.viewport()->grab().toImage();
+        return image.pixelColor(image.width() - 4, rows(row, 1).center().y());
+    }
+};
+
+TEST_F(BandTest, coversTheRowsThatTheRangeTouches) {
+    // A range may end with the end of a line, wrap (70), be the empty last line (75) or lie behind the text.
+    const std::vector<std::tuple<CharacterRange, int, int>> table{
+        {{0, 0}, 0, 1},  {{3, 0}, 0, 1},  {{4, 0}, 1, 1},  {{1, 8}, 0, 3},  {{0, 4}, 0, 1},
+        {{14, 0}, 3, 1}, {{70, 0}, 4, 1}, {{75, 0}, 5, 1}, {{999, 5}, 5, 1}};
+    for (const auto& [range, first, count] : table) {
+        EXPECT_EQ(view.highlightRectForRange(range).toAlignedRect(), rows(first, count)) << range.location;
+    }
+    view.setText(u"");
+    EXPECT_GT(view.highlightRectForRange({0, 0}).height(), 5);
+}
+
+TEST_F(BandTest, isPaintedBehindTheSelectedLinesInEveryState) {
+    const QColor base{Qt::white};
+    const QColor band{237, 243, 250}; // two fifths of the fill over white
+    view.setReadOnly(true);
+    view.setSelection({5, 5});
+    const std::vector painted{paintedIn(0), paintedIn(1), paintedIn(2), paintedIn(3)};
+    EXPECT_EQ(painted, (std::vector{base, band, band, base}));
+    view.setEnabled(false);
+    EXPECT_NE(paintedIn(1), paintedIn(0));
+    view.setEnabled(true);
+    view.setPalette(darkPalette());
+    EXPECT_NE(paintedIn(1), paintedIn(0)) << "the band is still seen";
+    EXPECT_LT(paintedIn(1).lightness(), 72) << "at least 7 : 1 below the light text";
+
+    CustomTextView bare;
+    EXPECT_EQ(bare.currentInsertionPoint(), -31);
+    bare.resize(100, 50);
+    EXPECT_EQ(bare.viewport()->grab().toImage().pixelColor(50, 8), base) << "no band without its colours";
 }
 
 } // namespace
