@@ -2,6 +2,7 @@
 #include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
+#include "support/NoPresets.h"
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ class Program {
   public:
     Program() {
         GlobalData::sharedData() = GlobalData{};
-        window.canvasView().awakeFromNib();
+        window.canvasView().awakeFromNib(noPresets);
         controller.awakeFromNib();
     }
 
@@ -63,7 +64,7 @@ void createBackground(benchmark::State& state) {
     StopControlPanel panel;
     CanvasView canvas{panel};
     GlobalData::sharedData() = GlobalData{};
-    canvas.awakeFromNib();
+    canvas.awakeFromNib(noPresets);
     GlobalData& data = GlobalData::sharedData();
     data.setOrientationType(state.range(0));
     for (int i = 1; i < 9; ++i) {

@@ -7,11 +7,11 @@ program=$1
 picture=$2
 shift 2
 
-export XDG_DATA_HOME
-XDG_DATA_HOME=$(mktemp -d) # the presets of the user stay out of the picture
+home=$(mktemp -d) # the user's presets, and a copy of the program that runs already, stay out of the picture
+export XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home
 "$program" &
 pid=$!
-trap 'kill "$pid" 2>/dev/null || true; wait "$pid" 2>/dev/null || true; rm -rf "$XDG_DATA_HOME"' EXIT
+trap 'kill "$pid" 2>/dev/null || true; wait "$pid" 2>/dev/null || true; rm -rf "$home"' EXIT
 
 window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$pid" --name Tessaly | head -n 1)
 sleep 1

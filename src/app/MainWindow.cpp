@@ -1,9 +1,11 @@
 #include "app/MainWindow.h"
 
+#include "app/CopyButton.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
 #include "chrome/qt/MainTabView.h"
 #include "codegen/qt/WebPreviewView.h"
+#include "presets/qt/PresetPanel.h"
 #include "sourceview/qt/Css3SourceView.h"
 #include "sourceview/qt/HtmlSourceView.h"
 
@@ -27,7 +29,9 @@ MainWindow::MainWindow(QWidget* parent)
     : QWidget{parent},
       stopControlPanel_{new StopControlPanel},
       canvasView_{new CanvasView{*stopControlPanel_}},
+      presetPanel_{new PresetPanel},
       mainTabView_{new MainTabView{{tr("CSS 3"), tr("HTML"), tr("Web Preview")}}},
+      copyButton_{new CopyButton},
       sourceCodeContainerView_{new QStackedWidget},
       css3SourceView_{new Css3SourceView},
       htmlSourceView_{new HtmlSourceView},
@@ -59,6 +63,8 @@ void MainWindow::layOut() {
     buttons->addWidget(relatedAppsButton_);
 
     auto* const side = new QVBoxLayout;
+    side->setSpacing(margin);
+    side->addWidget(presetPanel_, 0, Qt::AlignRight);
     side->addStretch();
     side->addLayout(buttons);
 
@@ -74,7 +80,11 @@ void MainWindow::layOut() {
     }
     auto* const code = new QVBoxLayout;
     code->setSpacing(0);
-    code->addWidget(mainTabView_);
+    auto* const header = new QHBoxLayout;
+    header->setSpacing(spacing);
+    header->addWidget(mainTabView_, 1);
+    header->addWidget(copyButton_);
+    code->addLayout(header);
     code->addWidget(sourceCodeContainerView_, 1);
 
     auto* const whole = new QVBoxLayout{this};

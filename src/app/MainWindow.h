@@ -8,9 +8,11 @@ class QStackedWidget;
 namespace tessaly {
 
 class CanvasView;
+class CopyButton;
 class Css3SourceView;
 class HtmlSourceView;
 class MainTabView;
+class PresetPanel;
 class StopControlPanel;
 class WebPreviewView;
 
@@ -22,11 +24,13 @@ class MainWindow : public QWidget {
     explicit MainWindow(QWidget* parent = nullptr);
 
     CanvasView& canvasView() const { return *canvasView_; }
+    PresetPanel& presetPanel() const { return *presetPanel_; }
     MainTabView& mainTabView() const { return *mainTabView_; }
     QStackedWidget& sourceCodeContainerView() const { return *sourceCodeContainerView_; }
     Css3SourceView& css3SourceView() const { return *css3SourceView_; }
     HtmlSourceView& htmlSourceView() const { return *htmlSourceView_; }
     WebPreviewView& webPreviewView() const { return *webPreviewView_; }
+    CopyButton& copyButton() const { return *copyButton_; }
     QPushButton& aboutButton() const { return *aboutButton_; }
     QPushButton& homepageButton() const { return *homepageButton_; }
     QPushButton& relatedAppsButton() const { return *relatedAppsButton_; }
@@ -36,7 +40,9 @@ class MainWindow : public QWidget {
 
     StopControlPanel* stopControlPanel_;
     CanvasView* canvasView_;
+    PresetPanel* presetPanel_;
     MainTabView* mainTabView_;
+    CopyButton* copyButton_;
     QStackedWidget* sourceCodeContainerView_;
     Css3SourceView* css3SourceView_;
     HtmlSourceView* htmlSourceView_;

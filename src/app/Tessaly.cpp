@@ -1,5 +1,6 @@
 #include "app/Tessaly.h"
 
+#include "app/CopyButton.h"
 #include "app/MainWindow.h"
 #include "canvas/CanvasNotifications.h"
 #include "canvas/qt/CanvasView.h"
@@ -25,6 +26,7 @@ Tessaly::Tessaly(MainWindow& mainWindow, std::filesystem::path temporaryDirector
       htmlTextView_{*mainWindow.htmlSourceView().textView()},
       css3TextView_{*mainWindow.css3SourceView().textView()},
       webCode_{htmlTextView_, css3TextView_, mainWindow.webPreviewView(), std::move(temporaryDirectory)} {
+    connect(&mainWindow.copyButton(), &QPushButton::clicked, this, &Tessaly::copyCode);
     connect(&mainWindow.aboutButton(), &QPushButton::clicked, this, &Tessaly::showAbout);
     connect(&mainWindow.homepageButton(), &QPushButton::clicked, this, &Tessaly::showHomepage);
     connect(&mainWindow.relatedAppsButton(), &QPushButton::clicked, this, &Tessaly::showRelatedApps);
@@ -63,6 +65,13 @@ void Tessaly::showSourceCodeView(std::int64_t index) {
         page = &mainWindow_.htmlSourceView();
     }
     mainWindow_.sourceCodeContainerView().setCurrentWidget(page);
+    mainWindow_.copyButton().setEnabled(page != &mainWindow_.webPreviewView());
+}
+
+void Tessaly::copyCode() {
+    const QWidget* const page = mainWindow_.sourceCodeContainerView().currentWidget();
+    const CodeTextAdapter& shown = page == &mainWindow_.htmlSourceView() ? htmlTextView_ : css3TextView_;
+    mainWindow_.copyButton().copy(QString::fromStdU16String(shown.text()));
 }
 
 void Tessaly::showAbout() {

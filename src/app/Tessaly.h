@@ -31,6 +31,9 @@ class Tessaly : public QObject {
     /// Shows the stylesheet (0), the page (1) or the preview (any other index).
     void showSourceCodeView(std::int64_t index);
 
+    /// Copies the whole text of the code view that is shown; the preview has none.
+    void copyCode();
+
     void showAbout();
     void showHomepage();
     void showRelatedApps();

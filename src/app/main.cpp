@@ -1,6 +1,8 @@
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "app/Presets.h"
 #include "app/QuitOnSignal.h"
+#include "app/SingleInstance.h"
 #include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
 #include "chrome/ProductInfo.h"
@@ -9,7 +11,32 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QStandardPaths>
 #include <csignal>
+
+namespace {
+
+// The folder that the presets' own folder lies in. A relative one from the environment is ignored, as the
+// rules for base directories ask.
+QString applicationSupport() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + QStringLiteral("/.local/share");
+}
+
+// Empty only when the environment names a folder that is missing.
+QString temporaryFolder() {
+    const QString folder = QDir::tempPath();
+    return folder.isEmpty() ? QStringLiteral("/tmp") : folder;
+}
+
+void showAgain(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     using namespace tessaly;
@@ -18,14 +45,20 @@ int main(int argc, char** argv) {
     QApplication application{argc, argv};
     QApplication::setApplicationName(toQString(product::name));
     QApplication::setApplicationVersion(toQString(product::version()));
+    const SingleInstance instance{applicationSupport()};
+    if (!instance.isFirst()) {
+        return 0;
+    }
     AppDelegate delegate{application};
     const QuitOnSignal quitOnSignal;
 
     MainWindow mainWindow;
-    const QString temporaryFolder = QDir::tempPath(); // empty when the environment names a missing one
-    Tessaly tessaly{mainWindow, temporaryFolder.isEmpty() ? "/tmp" : temporaryFolder.toStdString()};
-    mainWindow.canvasView().awakeFromNib();
+    Tessaly tessaly{mainWindow, temporaryFolder().toStdString()};
+    CanvasView& canvas = mainWindow.canvasView();
+    Presets presets{mainWindow.presetPanel(), canvas.editor(), applicationSupport().toStdString()};
+    canvas.awakeFromNib(presets.steps());
     tessaly.awakeFromNib();
+    QObject::connect(&instance, &SingleInstance::startedAgain, &mainWindow, [&] { showAgain(mainWindow); });
     delegate.setWindow(&mainWindow);
     mainWindow.show();
     delegate.applicationDidFinishLaunching();

@@ -13,9 +13,11 @@ GradientEditor::GradientEditor(Size viewSize, CanvasSurface& surface, const Stop
       interaction_{geometry_, hitAreas_, markers_, [this] { repaint(); }},
       controls_{controls, markers_, [this] { repaint(); }, [this] { announce(); }} {}
 
-void GradientEditor::awakeFromNib() {
+void GradientEditor::awakeFromNib(const PresetSteps& presets) {
+    presets.open();
     controls_.updateOrientationTypeComboBox();
     controls_.updateColorFormatTypeComboBox();
+    presets.read();
     GlobalData::sharedData().setOrientationType(orientation::leftToRight);
     markers_.addColorMarker(Color::black(), 0.0, 1.0, ColorMarkers::append);
     markers_.addColorMarker(Color::white(), 1.0, 1.0, ColorMarkers::append);
@@ -23,6 +25,7 @@ void GradientEditor::awakeFromNib() {
     colorChanged_ = NotificationCenter::defaultCenter().addObserver(
         canvasNotification::colorChanged, well_,
         [this](const Notification& notification) { controls_.colorChangedNotification(notification); });
+    presets.observe();
     controls_.updateRGBFromColorBox();
     controls_.updateHSLFromColorBox();
     controls_.setFormReady(true); // last: what was written above is no user input

@@ -7,9 +7,18 @@
 #include "canvas/StopControls.h"
 #include "foundation/NotificationCenter.h"
 
+#include <functional>
+
 namespace tessaly {
 
 class CanvasSurface;
+
+/// What the editor's set-up asks of the presets, each at its moment.
+struct PresetSteps {
+    std::function<void()> open;    ///< the store, and an empty gallery
+    std::function<void()> read;    ///< the stored presets into the gallery
+    std::function<void()> observe; ///< what is done to the thumbnails
+};
 
 /// The canvas without its toolkit: puts geometry, markers, mouse rules and controls together. It is the
 /// object of the "NeedToUpdateWebCode" notifications.
@@ -22,7 +31,7 @@ class GradientEditor {
     ~GradientEditor() = default;
 
     /// Sets the editor up with the default gradient; once, when everything is wired.
-    void awakeFromNib();
+    void awakeFromNib(const PresetSteps& presets);
 
     /// Repaints the picture, refreshes the controls of the selected stop and announces the change. From an
     /// idle form the refreshed colour well makes it run once more, nested.

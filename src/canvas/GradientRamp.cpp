@@ -26,23 +26,26 @@ Channels channelsOf(const Color& color, const RGBAComponents& backdrop) {
 
 GradientRamp::GradientRamp(std::span<const GradientStop> stops, const RGBAComponents& backdrop) {
     constexpr Channels constant{};
-    Segment last{-farAway, -farAway, channelsOf(stops.front().color, backdrop), constant};
+    const auto inReach = [](double position) {
+        return std::isnan(position) ? 0.0 : std::clamp(position, -farAway, farAway);
+    };
+    double end = inReach(stops.front().position);
+    Channels color = channelsOf(stops.front().color, backdrop);
+    segments_.push_back({end, end, color, constant}); // all before the first stop
     for (const GradientStop& stop : stops) {
-        const double wanted = std::isnan(stop.position) ? 0.0 : stop.position;
-        const double position = std::clamp(wanted, last.end, farAway);
-        const Channels color = channelsOf(stop.color, backdrop);
-        if (position > last.end) {
-            // The first stretch runs up to the first stop and does not change.
-            Segment segment{last.end, position, last.color, constant};
+        const double position = std::max(inReach(stop.position), end);
+        const Channels next = channelsOf(stop.color, backdrop);
+        if (position > end) {
+            Segment segment{end, position, color, constant};
             for (std::size_t i = 0; i < color.size(); ++i) {
-                segment.change[i] = (color[i] - last.color[i]) / (position - last.end);
+                segment.change[i] = (next[i] - color[i]) / (position - end);
             }
             segments_.push_back(segment);
         }
-        last.end = position;
-        last.color = color;
+        end = position;
+        color = next;
     }
-    segments_.push_back({last.end, std::numeric_limits<double>::infinity(), last.color, constant});
+    segments_.push_back({end, std::numeric_limits<double>::infinity(), color, constant});
 }
 
 const GradientRamp::Segment& GradientRamp::segmentAt(double t) const {

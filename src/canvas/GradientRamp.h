@@ -47,7 +47,7 @@ class GradientRamp {
         }
     };
 
-    /// The segments in order, without a gap from the smallest position to the largest.
+    /// The segments in order, without a gap: the first reaches back, the last ahead without an end.
     std::span<const Segment> segments() const { return segments_; }
 
   private:

@@ -32,6 +32,8 @@ at() {
 }
 
 expect '#ffffff 100%);'
+timeout 10 "$program" 2>"$work/second" || fail "a second start did not end"
+[ ! -e "$TMPDIR/WebFolder1" ] || fail "a second copy went to work"
 at 620 188 && xdotool mousedown 1 # the white marker, at the right end of the strip
 at 400 188 && at 328 188 && xdotool mouseup 1
 expect '#ffffff 50%);'
@@ -47,6 +49,14 @@ at 182 188 && xdotool mousedown 1
 at 328 100 && xdotool mouseup 1
 expect '#ffffff 50%, '
 expect '#ff0000 50%);'
+
+at 920 29 && xdotool click 1 # "Add Preset"
+sleep 0.3
+rows=$(sqlite3 "$XDG_DATA_HOME/Tessaly/localDB.sqlite3" 'select * from MainTable; select * from AdditionalTable')
+[ "$rows" = '0|1
+1|0|0.0|0.0|0.0|0.0|1.0
+2|0|0.5|1.0|1.0|1.0|1.0
+3|0|0.5|1.0|0.0|0.0|1.0' ] || fail "the preset database holds: $rows"
 
 xdotool key ctrl+q
 for _ in $(seq 100); do

@@ -20,11 +20,9 @@ TEST(CanvasGeometry, placesTheMarkersOfEveryOrientation) {
         std::int64_t orientation;
         double position;
         Point corner;
-    } rows[] = {
-        {1, 0.5, {210, 15}}, {1, 0.0, {10, 15}},   {0, 0.0, {15, 10}},  {0, 1.0, {15, 110}},
-        {2, 0.0, {10, 10}},  {2, 1.0, {410, 110}}, {3, 0.0, {410, 10}}, {3, 1.0, {10, 110}},
-        {4, 0.0, {210, 50}}, {4, 0.5, {310, 50}},  {4, 1.0, {410, 50}}, {9, 0.25, {310, 35}},
-    };
+    } rows[] = {{1, 0.5, {210, 15}}, {1, 0.0, {10, 15}},   {0, 0.0, {15, 10}},  {0, 1.0, {15, 110}},
+                {2, 0.0, {10, 10}},  {2, 1.0, {410, 110}}, {3, 0.0, {410, 10}}, {3, 1.0, {10, 110}},
+                {4, 0.0, {210, 50}}, {4, 0.5, {310, 50}},  {4, 1.0, {410, 50}}, {9, 0.25, {310, 35}}};
     for (const auto& row : rows) {
         EXPECT_EQ(geometry.markerRect(row.orientation, row.position),
                   (Rect{row.corner.x, row.corner.y, 20, 20}))
@@ -52,17 +50,15 @@ TEST(CanvasGeometry, projectsPointsOntoTheTrack) {
         Point point;
         double offset;
         std::int64_t limit;
-    } rows[] = {
-        {1, {220, 30}, 200, 400},
-        {4, {15, 30}, -5, 400},
-        {0, {220, 30}, 10, 100},
-        {2, {220, 70}, std::hypot(200, 50), 412}, // on the diagonal
-        {2, {220, 20}, std::hypot(100, 25), 412}, // moved along the other one, not square to it
-        {2, {20, 70}, std::hypot(100, 25), 412},
-        {3, {220, 70}, std::hypot(200, 50), 412},
-        {3, {420, 70}, std::hypot(100, 25), 412},
-        {7, {220, 120}, std::hypot(300, 75), 412},
-    };
+    } rows[] = {{1, {220, 30}, 200, 400},
+                {4, {15, 30}, -5, 400},
+                {0, {220, 30}, 10, 100},
+                {2, {220, 70}, std::hypot(200, 50), 412}, // on the diagonal
+                {2, {220, 20}, std::hypot(100, 25), 412}, // moved along the other one, not square to it
+                {2, {20, 70}, std::hypot(100, 25), 412},
+                {3, {220, 70}, std::hypot(200, 50), 412},
+                {3, {420, 70}, std::hypot(100, 25), 412},
+                {7, {220, 120}, std::hypot(300, 75), 412}};
     for (const auto& row : rows) {
         const auto [offset, limit] = geometry.offsetOnTrack(row.orientation, row.point);
         EXPECT_NEAR(offset, row.offset, 1e-9) << row.orientation;

@@ -3,6 +3,7 @@
 #include "support/FakeControls.h"
 #include "support/Gradients.h"
 #include "support/LogCapture.h"
+#include "support/NoPresets.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -17,7 +18,7 @@ class GradientEditorTest : public testing::Test {
   protected:
     GradientEditorTest() {
         data() = GlobalData{};
-        editor.awakeFromNib();
+        editor.awakeFromNib(noPresets);
         posts = 0;
         surface = {};
     }
@@ -65,10 +66,9 @@ TEST_F(GradientEditorTest, startsWithTheDefaultGradientAndFilledControls) {
     EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 1);
     EXPECT_TRUE(editor.controls().formReady());
     const std::pair<StopValue, std::string> fields[] = {
-        {StopValue::Red, "256"},        {StopValue::Green, "256"},     {StopValue::Blue, "256"},
-        {StopValue::Hue, "0"},          {StopValue::Saturation, "0"},  {StopValue::Lightness, "100"},
-        {StopValue::Position, "1.000"}, {StopValue::Opacity, "1.000"},
-    };
+        {StopValue::Red, "256"},        {StopValue::Green, "256"},    {StopValue::Blue, "256"},
+        {StopValue::Hue, "0"},          {StopValue::Saturation, "0"}, {StopValue::Lightness, "100"},
+        {StopValue::Position, "1.000"}, {StopValue::Opacity, "1.000"}};
     for (const auto& [value, text] : fields) {
         EXPECT_EQ(shown(value), text);
     }
@@ -150,10 +150,11 @@ TEST_F(GradientEditorTest, dragsAlongTheTrackOfEveryOrientation) {
         std::int64_t item;
         Point from, to;
         double position;
-    } rows[] = {
-        {0, {20, 25}, {120, 0}, 0.25},   {1, {25, 20}, {400, 70}, 0.5},  {2, {20, 20}, {400, 40}, 0.2},
-        {3, {420, 20}, {420, 95}, 0.75}, {4, {225, 65}, {325, 65}, 0.5},
-    };
+    } rows[] = {{0, {20, 25}, {120, 0}, 0.25},
+                {1, {25, 20}, {400, 70}, 0.5},
+                {2, {20, 20}, {400, 40}, 0.2},
+                {3, {420, 20}, {420, 95}, 0.75},
+                {4, {225, 65}, {325, 65}, 0.5}};
     for (const auto& row : rows) {
         data().colorMarkerPos() = {0.0, 1.0};
         chooseOrientation(row.item);
@@ -271,10 +272,8 @@ TEST_F(GradientEditorTest, keysMoveTheSelectedStopAlongItsTrackPointByPoint) {
         std::int64_t item;
         int right, up;
         double position; // after one point from 0.5, or unchanged
-    } rows[] = {
-        {0, 1, 0, 201.0 / 400}, {0, 0, 1, 0.5},        {1, 0, -1, 49.0 / 100}, {2, 1, 0, 51.0 / 100},
-        {3, 1, 0, 49.0 / 100},  {3, 0, 1, 51.0 / 100}, {4, -1, 0, 99.0 / 200},
-    };
+    } rows[] = {{0, 1, 0, 201.0 / 400}, {0, 0, 1, 0.5},        {1, 0, -1, 49.0 / 100}, {2, 1, 0, 51.0 / 100},
+                {3, 1, 0, 49.0 / 100},  {3, 0, 1, 51.0 / 100}, {4, -1, 0, 99.0 / 200}};
     for (const auto& row : rows) {
         chooseOrientation(row.item);
         data().colorMarkerPos() = {0.0, 0.5};

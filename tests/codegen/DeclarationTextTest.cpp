@@ -40,8 +40,7 @@ TEST(ColorNotation, writesEveryNotation) {
           "hsla(336.0,55.6%,45.0%, 0.8)"}},
         {Color::withoutRGBForm(),
          0.0,
-         {"none", "rgb(0,0,0)", "rgba(0,0,0, 0)", "hsl(0.0,0.0%,0.0%)", "hsla(0.0,0.0%,0.0%, 0)"}},
-    };
+         {"none", "rgb(0,0,0)", "rgba(0,0,0, 0)", "hsl(0.0,0.0%,0.0%)", "hsla(0.0,0.0%,0.0%, 0)"}}};
     for (const auto& row : rows) {
         for (std::int64_t code = 0; code < 5; ++code) {
             EXPECT_EQ(colorNotation::colorText(code, row.color, row.opacity).value_or("none"),
@@ -56,16 +55,14 @@ TEST_F(DeclarationTextTest, writesThePhrasesOfEveryOrientation) {
     const struct {
         std::int64_t orientation;
         std::string standard, prefixed, legacy;
-    } rows[] = {
-        {0, "linear-gradient(to top, ", "linear-gradient(bottom, ", "linear, left bottom, left top"},
-        {1, "linear-gradient(to right, ", "linear-gradient(left, ", "linear, left top, right top"},
-        {2, "linear-gradient(45deg, ", "linear-gradient(45deg, ", "linear, left bottom, right top"},
-        {3, "linear-gradient(-45deg, ", "linear-gradient(135deg, ", "linear, right bottom, left top"},
-        {4, "radial-gradient(ellipse at center, ", "radial-gradient(center, ellipse cover, ",
-         "radial, center center, 0px, center center, 100%"},
-        {5, "linear-gradient((null), ", "linear-gradient((null), ", "(null)"},
-        {-1, "linear-gradient((null), ", "linear-gradient((null), ", "(null)"},
-    };
+    } rows[] = {{0, "linear-gradient(to top, ", "linear-gradient(bottom, ", "linear, left bottom, left top"},
+                {1, "linear-gradient(to right, ", "linear-gradient(left, ", "linear, left top, right top"},
+                {2, "linear-gradient(45deg, ", "linear-gradient(45deg, ", "linear, left bottom, right top"},
+                {3, "linear-gradient(-45deg, ", "linear-gradient(135deg, ", "linear, right bottom, left top"},
+                {4, "radial-gradient(ellipse at center, ", "radial-gradient(center, ellipse cover, ",
+                 "radial, center center, 0px, center center, 100%"},
+                {5, "linear-gradient((null), ", "linear-gradient((null), ", "(null)"},
+                {-1, "linear-gradient((null), ", "linear-gradient((null), ", "(null)"}};
     const std::string stops = "\n\t\t\t\t#000000 0%, \n\t\t\t\t#ffffff 100%);\n";
     const std::string legacyStops =
         "\n\t\t\t\tcolor-stop(0%,#000000), \n\t\t\t\tcolor-stop(100%,#ffffff));\n";

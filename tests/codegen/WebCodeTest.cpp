@@ -12,31 +12,10 @@
 namespace tessaly {
 namespace {
 
-const std::string defaultStylesheet = ".gradient {\n"
-                                      "\theight: 236px;\n"
-                                      "\tbackground: #000000;\n"
-                                      "\tbackground: linear-gradient(to right, \n"
-                                      "\t\t\t\t#000000 0%, \n"
-                                      "\t\t\t\t#ffffff 100%);\n"
-                                      "\tbackground: -moz-linear-gradient(left, \n"
-                                      "\t\t\t\t#000000 0%, \n"
-                                      "\t\t\t\t#ffffff 100%);\n"
-                                      "\tbackground: -webkit-gradient(linear, left top, right top, \n"
-                                      "\t\t\t\tcolor-stop(0%,#000000), \n"
-                                      "\t\t\t\tcolor-stop(100%,#ffffff));\n"
-                                      "\tbackground: -webkit-linear-gradient(left, \n"
-                                      "\t\t\t\t#000000 0%, \n"
-                                      "\t\t\t\t#ffffff 100%);\n"
-                                      "\tbackground: -o-linear-gradient(left, \n"
-                                      "\t\t\t\t#000000 0%, \n"
-                                      "\t\t\t\t#ffffff 100%);\n"
-                                      "\tbackground: -ms-linear-gradient(left, \n"
-                                      "\t\t\t\t#000000 0%, \n"
-                                      "\t\t\t\t#ffffff 100%);\n"
-                                      "\tfilter: progid:DXImageTransform.Microsoft.gradient(\n"
-                                      "\t\tstartColorstr='#000000',\n"
-                                      "\t\tendColorstr='#ffffff',GradientType=1 );\n"
-                                      "}\n";
+// The expected texts stand in files, byte by byte.
+std::string expectedText(const char* name) {
+    return contentsOf(std::filesystem::path{TESSALY_TEST_DATA} / name);
+}
 
 class FakeWebView : public WebView {
   public:
@@ -95,7 +74,7 @@ class WebCodeTest : public testing::Test {
 };
 
 TEST_F(WebCodeTest, writesTheDefaultTexts) {
-    EXPECT_EQ(css.utf8(), defaultStylesheet);
+    EXPECT_EQ(css.utf8(), expectedText("default.css"));
     EXPECT_EQ(css.length(), 678U);
     const DeclarationRanges& ranges = code.ranges();
     EXPECT_EQ((std::array{ranges.backgroundColorOldIndex(), ranges.backgroundColorIndex(),
@@ -103,11 +82,7 @@ TEST_F(WebCodeTest, writesTheDefaultTexts) {
                           ranges.backgroundColorNewWebKitIndex(), ranges.backgroundColorOperaIndex(),
                           ranges.backgroundColorIEIndex(), ranges.backgroundColorMSFilterIndex()}),
               (std::array<std::size_t, 8>{28, 50, 126, 203, 323, 403, 478, 554}));
-    EXPECT_EQ(html.utf8(),
-              "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n\t<meta charset=\"utf-8\">\n"
-              "\t<link rel=\"stylesheet\" type=\"text/css\" href=\"styles.css\" media=\"screen\" />\n"
-              "\t<title>My Button</title>\n</head>\n<body>\n\t<div class=\"gradient\">\n\t</div>\n"
-              "</body>\n</html>\n");
+    EXPECT_EQ(html.utf8(), expectedText("default.html"));
     EXPECT_TRUE(css.editable && html.editable);
     EXPECT_EQ(css.caret, 0U);
     EXPECT_FALSE(code.shouldChangeTextInRange());
@@ -239,7 +214,7 @@ TEST_F(WebCodeTest, writesThePreviewIntoTheFirstFreeFolderAndTakesItAwayAtTheEnd
         EXPECT_EQ(owner.folderPath(), folder);
         EXPECT_EQ(GlobalData::sharedData().tempFolderPath(), folder.native());
         EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
-        EXPECT_EQ(contentsOf(folder / "styles.css"), defaultStylesheet);
+        EXPECT_EQ(contentsOf(folder / "styles.css"), expectedText("default.css"));
         EXPECT_EQ(contentsOf(folder / "index.html"), html.utf8());
         EXPECT_EQ(web.loaded, folder / "index.html");
         EXPECT_TRUE(log.has("htmlPath: " + (folder / "index.html").native()));
@@ -276,7 +251,7 @@ TEST_F(WebCodeTest, goesOnWithoutAPreviewWhenTheDiskRefuses) {
     std::filesystem::remove_all(code.folderPath()); // someone tidied up
     update();
     EXPECT_EQ(log.messages.back().rfind("Preview file not written: ", 0), 0U);
-    EXPECT_EQ(css.utf8(), defaultStylesheet);
+    EXPECT_EQ(css.utf8(), expectedText("default.css"));
 }
 
 } // namespace

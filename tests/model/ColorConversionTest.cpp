@@ -26,8 +26,7 @@ TEST(ColorConversion, roundsChannelsSoThatAFullOneIs256) {
         {Color::white(), {256, 256, 256}}, {Color::black(), {0, 0, 0}},
         {grey(0.5), {128, 128, 128}},      {grey(0.999), {256, 256, 256}},
         {grey(0.998), {255, 255, 255}},    {Color::withoutRGBForm(), {0, 0, 0}},
-        {grey(2.0), {256, 256, 256}},      {grey(-1.0), {0, 0, 0}},
-    };
+        {grey(2.0), {256, 256, 256}},      {grey(-1.0), {0, 0, 0}}};
     for (const auto& [color, expected] : rows) {
         EXPECT_EQ(GlobalData::rgbValueOfAnNSColor(color), expected);
     }
@@ -35,15 +34,13 @@ TEST(ColorConversion, roundsChannelsSoThatAFullOneIs256) {
 }
 
 TEST(ColorConversion, readsHueAsAWholeNumberAndTheRestUnrounded) {
-    const std::pair<Color, HSLValue> rows[] = {
-        {Color::calibratedRGB(1, 0, 0), {0, 100, 50}},
-        {Color::white(), {0, 0, 100}},
-        {Color::calibratedRGB(0, 0, 1), {240, 100, 50}},
-        {Color::calibratedRGB(1, 0, 1), {300, 100, 50}},
-        {Color::calibratedRGB(0, 1, 0), {120, 100, 50}},
-        {Color::calibratedRGB(1, 1, 0), {60, 100, 50}},
-        {Color::withoutRGBForm(), {0, 0, 0}},
-    };
+    const std::pair<Color, HSLValue> rows[] = {{Color::calibratedRGB(1, 0, 0), {0, 100, 50}},
+                                               {Color::white(), {0, 0, 100}},
+                                               {Color::calibratedRGB(0, 0, 1), {240, 100, 50}},
+                                               {Color::calibratedRGB(1, 0, 1), {300, 100, 50}},
+                                               {Color::calibratedRGB(0, 1, 0), {120, 100, 50}},
+                                               {Color::calibratedRGB(1, 1, 0), {60, 100, 50}},
+                                               {Color::withoutRGBForm(), {0, 0, 0}}};
     for (const auto& [color, expected] : rows) {
         EXPECT_EQ(GlobalData::hslValueOfAnNSColor(color), expected);
     }

@@ -37,9 +37,9 @@ CanvasView::CanvasView(StopControlPanel& panel, QWidget* parent)
     popupMenu_->addAction(tr("Delete Marker"), this, [this] { editor_.interaction().deleteColorMarker(); });
 }
 
-void CanvasView::awakeFromNib() {
+void CanvasView::awakeFromNib(const PresetSteps& presets) {
     panel_.connectTo(editor_.controls());
-    editor_.awakeFromNib();
+    editor_.awakeFromNib(presets);
 }
 
 QSize CanvasView::sizeHint() const {

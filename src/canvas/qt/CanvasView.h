@@ -23,7 +23,7 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     explicit CanvasView(StopControlPanel& panel, QWidget* parent = nullptr);
 
     /// Sets the editor up; once, when the window is wired.
-    void awakeFromNib();
+    void awakeFromNib(const PresetSteps& presets);
 
     GradientEditor& editor() { return editor_; }
     const QImage& picture() const { return picture_.image(); }

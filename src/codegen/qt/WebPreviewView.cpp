@@ -6,7 +6,6 @@
 
 #include <QEvent>
 #include <QLoggingCategory>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineProfile>
 #include <QWebEngineView>
@@ -27,6 +26,10 @@ void WebPreviewView::prepareProcess() {
 WebPreviewView::WebPreviewView(QWidget* parent) : QWidget{parent} {
     auto* const layout = new QVBoxLayout{this};
     layout->setContentsMargins(0, 0, 0, 0);
+    constexpr int pause = 200; // milliseconds
+    makeAgain_.setInterval(pause);
+    makeAgain_.setSingleShot(true);
+    connect(&makeAgain_, &QTimer::timeout, this, &WebPreviewView::makeView);
 }
 
 WebPreviewView::~WebPreviewView() = default;
@@ -110,7 +113,7 @@ void WebPreviewView::renderProcessEnded() {
     DiagnosticLog::write("The preview's render process ended; making the preview anew");
     // Not at once: a page that ends its process each time must not keep the machine busy. The old view may go
     // on showing nothing even when its page loads again, so it is replaced.
-    QTimer::singleShot(200, this, &WebPreviewView::makeView);
+    makeAgain_.start();
 }
 
 void WebPreviewView::takeBackground() {

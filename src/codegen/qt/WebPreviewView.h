@@ -2,6 +2,7 @@
 
 #include "codegen/WebView.h"
 
+#include <QTimer>
 #include <QUrl>
 #include <QWidget>
 #include <memory>
@@ -52,6 +53,7 @@ class WebPreviewView : public QWidget, public WebView {
     QUrl url_;
     bool loading_ = false;
     bool reloadAgain_ = false;
+    QTimer makeAgain_;
     QWidget* container_ = nullptr; ///< what the view's window is embedded in
     // In the order in which the engine wants them to end: the view first, the profile last.
     std::unique_ptr<PreviewRequestFilter> filter_;

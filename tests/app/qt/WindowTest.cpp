@@ -1,5 +1,6 @@
 // The whole window with a real browser engine, on a display.
 
+#include "app/CopyButton.h"
 #include "app/MainWindow.h"
 #include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
@@ -11,8 +12,11 @@
 #include "sourceview/qt/HtmlSourceView.h"
 #include "support/Eventually.h"
 #include "support/LogCapture.h"
+#include "support/NoPresets.h"
 #include "support/TemporaryFolder.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QTest>
@@ -27,7 +31,7 @@ class WindowTest : public testing::Test {
   protected:
     WindowTest() {
         GlobalData::sharedData() = GlobalData{};
-        window.canvasView().awakeFromNib();
+        window.canvasView().awakeFromNib(noPresets);
         tessaly.awakeFromNib();
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
@@ -106,8 +110,12 @@ TEST_F(WindowTest, listensToItsOwnTabsAndKeepsWhatTheUserTyped) {
     const int stranger = 0;
     NotificationCenter::defaultCenter().post({"SelectIndexChanged", &stranger, {{"Index", std::int64_t{1}}}});
     EXPECT_EQ(shownPage(), &window.css3SourceView());
+    QTest::mouseClick(&window.copyButton(), Qt::LeftButton);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), stylesheet());
     window.mainTabView().setSelectIndex(1);
     EXPECT_EQ(shownPage(), &window.htmlSourceView());
+    QTest::mouseClick(&window.copyButton(), Qt::LeftButton);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("<!DOCTYPE html>\n")));
     window.mainTabView().setSelectIndex(0);
 
     auto& view = *window.css3SourceView().textView();

@@ -26,12 +26,14 @@ class Picture {
                                            static_cast<int>(std::ceil((height - y) * ratio_)) - 1);
     }
 
-    // The darkest and the lightest pixel of the column at x within two points of y.
-    std::pair<int, int> range(double x, double y) const {
+    // The darkest and the lightest pixel within two points of a line, along one dash and the gap behind it.
+    std::pair<int, int> range(Point from, double slope) const {
         std::pair<int, int> found{255, 0};
-        for (double way = -2; way <= 2; way += 1 / ratio_) {
-            const int level = at(x, y + way).green();
-            found = {std::min(found.first, level), std::max(found.second, level)};
+        for (double along = 0; along < 25; along += 1 / ratio_) {
+            for (double aside = -2; aside <= 2; aside += 1 / ratio_) {
+                const int level = at(from.x + along, from.y + slope * along + aside).green();
+                found = {std::min(found.first, level), std::max(found.second, level)};
+            }
         }
         return found;
     }
@@ -83,21 +85,22 @@ TEST_P(CanvasPictureTest, showsStripFrameAndMarkersOfEveryOrientation) {
 TEST_P(CanvasPictureTest, drawsGuideLinesOnDiagonalsAndDisc) {
     const Color light = Color::calibratedRGB(0.6, 0.6, 0.6); // level 153
     GlobalData::sharedData().setColorMarkerColor({light, light});
-    GlobalData::sharedData().setColorMarkerPos({0.9, 0.95});            // out of the way
-    constexpr Point onDash[] = {{49, 27.3}, {49, 113.7}, {215, 60.5}}; // of the orientations from 2 on
+    GlobalData::sharedData().setColorMarkerPos({0.9, 0.95}); // out of the way
+    const struct {
+        std::int64_t orientation;
+        Point place;
+        double slope;
+    } guides[] = {{2, {320, 95.5}, 0.2525}, {3, {120, 95.5}, -0.2525}, {4, {330, 60.5}, 0}};
     for (const std::int64_t orientation : {0, 1, 2, 3, 4}) {
         GlobalData::sharedData().setOrientationType(orientation);
         const Picture picture{GetParam()};
-        for (std::int64_t guide = 2; guide <= 4; ++guide) {
-            const Point place = onDash[guide - 2];
-            const auto [darkest, lightest] = picture.range(place.x, place.y);
-            const bool drawn = guide == orientation;
-            EXPECT_EQ(darkest < 140, drawn) << orientation << ' ' << guide;
-            EXPECT_EQ(lightest > 165, drawn)
-                << orientation << ' ' << guide;
+        for (const auto& guide : guides) {
+            const auto [darkest, lightest] = picture.range(guide.place, guide.slope);
+            const bool drawn = guide.orientation == orientation;
+            EXPECT_EQ(darkest < 120, drawn) << orientation << ' ' << guide.orientation;
+            EXPECT_EQ(lightest > 190, drawn) << orientation << ' ' << guide.orientation;
         }
     }
-    EXPECT_EQ(Picture{GetParam()}.range(225, 60.5).first, 153) << "between two dashes";
 }
 
 TEST_P(CanvasPictureTest, showsOpacityOnlyForNotationsThatCarryIt) {

@@ -5,6 +5,7 @@
 #include "canvas/qt/StopControlPanel.h"
 #include "canvas/qt/ValueStepper.h"
 #include "support/LogCapture.h"
+#include "support/NoPresets.h"
 
 #include <QAccessible>
 #include <QColorDialog>
@@ -26,7 +27,7 @@ class CanvasViewTest : public testing::Test {
         auto* const layout = new QVBoxLayout{&window};
         layout->addWidget(canvas);
         layout->addWidget(panel);
-        canvas->awakeFromNib();
+        canvas->awakeFromNib(noPresets);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));

@@ -100,10 +100,11 @@ void setStops(int count, double opacity) {
 }
 
 TEST_F(BrowserTest, acceptsTheStandardDeclarationOfEveryOrientation) {
-    const std::pair<std::int64_t, const char*> rows[] = {
-        {0, "linear-gradient(to top, "}, {1, "linear-gradient(to right, "}, {2, "linear-gradient(45deg, "},
-        {3, "linear-gradient(-45deg, "}, {4, "radial-gradient("},
-    };
+    const std::pair<std::int64_t, const char*> rows[] = {{0, "linear-gradient(to top, "},
+                                                         {1, "linear-gradient(to right, "},
+                                                         {2, "linear-gradient(45deg, "},
+                                                         {3, "linear-gradient(-45deg, "},
+                                                         {4, "radial-gradient("}};
     for (const auto& [orientation, start] : rows) {
         GlobalData::sharedData().setOrientationType(orientation);
         show(declarationText(Declaration::Standard, GlobalData::sharedData()));

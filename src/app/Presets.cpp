@@ -1,0 +1,31 @@
+#include "app/Presets.h"
+
+#include "presets/qt/PresetPanel.h"
+
+namespace tessaly {
+
+Presets::Presets(PresetPanel& panel, GradientEditor& editor, const std::filesystem::path& applicationSupport)
+    : gallery_{panel, {[&editor] { editor.gradientReplaced(); }, [this] { store_.insertData(); }}},
+      store_{gallery_, applicationSupport} {
+    panel.connectTo(gallery_);
+}
+
+Presets::~Presets() {
+    store_.closeDB();
+}
+
+PresetSteps Presets::steps() {
+    return {[this] { open(); }, [this] { store_.readData(); }, [this] { gallery_.observeNotifications(); }};
+}
+
+void Presets::open() {
+    store_.openDB();
+    if (!store_.isTableExists("MainTable")) {
+        store_.createMainTable();
+    }
+    if (!store_.isTableExists("AdditionalTable")) {
+        store_.createAdditionalTable();
+    }
+}
+
+} // namespace tessaly

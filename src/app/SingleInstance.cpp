@@ -1,0 +1,60 @@
+#include "app/SingleInstance.h"
+
+#include "foundation/DiagnosticLog.h"
+
+#include <QCryptographicHash>
+#include <QLocalSocket>
+#include <QStandardPaths>
+
+namespace tessaly {
+namespace {
+
+// In the user's private folder for sockets; short, since the path of a socket has little room.
+QString pathFor(const QString& folder, const char* ending) {
+    const QByteArray hash =
+        QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha1).toHex().first(12);
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/tessaly-") +
+           QString::fromLatin1(hash) + QString::fromLatin1(ending);
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QString& folder, QObject* parent)
+    : QObject{parent}, lock_{pathFor(folder, ".lock")} {
+    lock_.setStaleLockTime(0); // held for as long as its owner lives
+    // What stops us is another copy alone, not a lock that cannot be had for another reason.
+    first_ = lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
+    const QString socketPath = pathFor(folder, ".socket");
+    if (first_) {
+        listen(socketPath);
+    } else {
+        tellFirst(socketPath);
+    }
+}
+
+void SingleInstance::listen(const QString& socketPath) {
+    QLocalServer::removeServer(
+        socketPath); // a crash leaves it; nobody else can own it while we have the lock
+    server_.setSocketOptions(QLocalServer::UserAccessOption);
+    connect(&server_, &QLocalServer::newConnection, this, [this] {
+        while (QLocalSocket* const caller = server_.nextPendingConnection()) {
+            caller->deleteLater();
+            Q_EMIT startedAgain();
+        }
+    });
+    if (!server_.listen(socketPath)) {
+        DiagnosticLog::write("A second start will not show this window: " +
+                             server_.errorString().toStdString());
+    }
+}
+
+void SingleInstance::tellFirst(const QString& socketPath) {
+    QLocalSocket first;
+    first.connectToServer(socketPath);
+    constexpr int patience = 2'000; // milliseconds
+    if (!first.waitForConnected(patience)) {
+        DiagnosticLog::write("Another copy runs but does not answer: " + first.errorString().toStdString());
+    }
+}
+
+} // namespace tessaly

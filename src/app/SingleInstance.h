@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLocalServer>
+#include <QLockFile>
+#include <QObject>
+#include <QString>
+
+namespace tessaly {
+
+/// Keeps a second copy of the program from working on the same presets: the second asks the first to show
+/// itself.
+class SingleInstance : public QObject {
+    Q_OBJECT
+
+  public:
+    /// `folder` is what must not be worked on twice. A copy that was killed does not count.
+    explicit SingleInstance(const QString& folder, QObject* parent = nullptr);
+
+    /// False when another copy runs; it has been told.
+    bool isFirst() const { return first_; }
+
+  Q_SIGNALS:
+    /// Another copy was started, and ends in favour of this one.
+    void startedAgain();
+
+  private:
+    void listen(const QString& socketPath);
+    static void tellFirst(const QString& socketPath);
+
+    QLockFile lock_;
+    QLocalServer server_;
+    bool first_;
+};
+
+} // namespace tessaly

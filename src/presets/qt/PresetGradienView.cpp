@@ -1,0 +1,85 @@
+#include "presets/qt/PresetGradienView.h"
+
+#include "canvas/GradientRaster.h"
+#include "foundation/DiagnosticLog.h"
+#include "foundation/NotificationCenter.h"
+#include "presets/PresetNotification.h"
+#include "presets/PresetSlotGeometry.h"
+
+#include <QPainter>
+#include <cmath>
+#include <span>
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+constexpr double size = PresetSlotGeometry::thumbnailSize;
+constexpr double outerInset = 1;
+constexpr double innerInset = 2;
+constexpr double cornerRadius = 4;
+
+QRectF inset(QPointF origin, double way) {
+    return {origin.x() + way, origin.y() + way, size - 2 * way, size - 2 * way};
+}
+
+} // namespace
+
+QImage PresetGradienView::gradientPicture(double devicePixelRatio) const {
+    const int pixels = static_cast<int>(std::ceil(size * devicePixelRatio));
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    std::vector<GradientStop> stops;
+    for (std::size_t i = 0; i < preset_.colorMarkerPos.size(); ++i) {
+        const ColorStop stop = preset_.stopAt(i);
+        stops.push_back({stop.position, stop.color.withAlpha(stop.opacity)});
+    }
+    if (stops.empty()) {
+        return image;
+    }
+    const auto count = static_cast<std::size_t>(pixels) * static_cast<std::size_t>(pixels);
+    const PixelBuffer buffer{std::span{reinterpret_cast<std::uint32_t*>(image.bits()), count}, pixels, pixels,
+                             devicePixelRatio, size};
+    const GradientRamp ramp{stops};
+    if (preset_.orientationType == orientation::radial) {
+        fillRadial(buffer, {size / 2, size / 2}, size / 2, ramp);
+    } else {
+        constexpr double side = size - 2 * outerInset;
+        fillLinear(buffer, {outerInset, outerInset, side, side}, gradientDirection(preset_.orientationType),
+                   ramp);
+    }
+    return image;
+}
+
+void PresetGradienView::drawRect(QPainter& painter, QPointF origin) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double ratio = painter.device()->devicePixelRatioF();
+    QBrush gradient{gradientPicture(ratio)};
+    gradient.setTransform(QTransform::fromTranslate(origin.x(), origin.y()).scale(1 / ratio, 1 / ratio));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(gradient);
+    painter.drawRoundedRect(inset(origin, outerInset), cornerRadius, cornerRadius);
+
+    // Only the inner half of the grey line is seen, so that the thumbnail ends where its clip does.
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen{QColor::fromRgbF(0.5F, 0.5F, 0.5F), 0.5});
+    painter.drawRoundedRect(inset(origin, outerInset + 0.25), cornerRadius - 0.25, cornerRadius - 0.25);
+    painter.setPen(QPen{Qt::white, 1});
+    painter.drawRoundedRect(inset(origin, innerInset), cornerRadius, cornerRadius);
+}
+
+void PresetGradienView::mouseDown() const {
+    DiagnosticLog::write("mouseDown");
+    sendUpdateDataNotification();
+}
+
+void PresetGradienView::sendUpdateDataNotification() const {
+    NotificationCenter::defaultCenter().post(presetNotification::makeGradientIndexChanged(preset_, &preset_));
+}
+
+void PresetGradienView::deletePresetGradientItem() const {
+    DiagnosticLog::write("deletePresetGradientItem");
+    NotificationCenter::defaultCenter().post(presetNotification::makeDeleteGradient(preset_.index, &preset_));
+}
+
+} // namespace tessaly

@@ -1,0 +1,86 @@
+#include "presets/qt/PresetPanel.h"
+
+#include "presets/PresetGallery.h"
+#include "presets/qt/PresetGradienContainerView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace tessaly {
+namespace {
+
+constexpr int spacing = 8;
+constexpr int scrollViewHeightInPoints = 232; // two rows of thumbnails need no scroller
+
+// The container's width, and what a scroller takes beyond the room that the narrow columns leave for it.
+int scrollViewWidth(const QScrollArea& view) {
+    constexpr int containerWidth = static_cast<int>(PresetSlotGeometry::containerWidth);
+    constexpr int roomForScroller = 8;
+    const int scroller = view.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &view);
+    return containerWidth + 2 * view.frameWidth() + std::max(scroller - roomForScroller, 0);
+}
+
+} // namespace
+
+PresetPanel::PresetPanel(QWidget* parent)
+    : QWidget{parent},
+      addButton_{new QPushButton{tr("A&dd Preset")}},
+      presetGradienContainerScrollView_{new QScrollArea},
+      presetGradienContainerView_{new PresetGradienContainerView} {
+    addButton_->setAccessibleName(tr("Add Preset"));
+    addButton_->setToolTip(tr("Keep the gradient being edited"));
+    QScrollArea& scrollView = *presetGradienContainerScrollView_;
+    scrollView.setWidget(presetGradienContainerView_);
+    scrollView.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollView.setFixedSize(scrollViewWidth(scrollView), scrollViewHeightInPoints);
+    scrollView.setFocusPolicy(Qt::NoFocus);
+    connect(presetGradienContainerView_, &PresetGradienContainerView::currentMoved, this,
+            [&scrollView](const QRect& place) {
+                scrollView.ensureVisible(place.center().x(), place.center().y(), 0, place.height());
+            });
+
+    auto* const label = new QLabel{tr("Prese&ts")};
+    label->setBuddy(presetGradienContainerView_);
+    auto* const header = new QHBoxLayout;
+    header->addWidget(label);
+    header->addStretch();
+    header->addWidget(addButton_);
+    auto* const layout = new QVBoxLayout{this};
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+    layout->addLayout(header);
+    layout->addWidget(presetGradienContainerScrollView_);
+}
+
+void PresetPanel::connectTo(PresetGallery& gallery) {
+    presetGradienContainerView_->setGallery(&gallery);
+    connect(addButton_, &QPushButton::clicked, this,
+            [this, &gallery] { gallery.addGradientIntoPreset(addButton_); });
+}
+
+double PresetPanel::scrollViewHeight() const {
+    return presetGradienContainerScrollView_->height();
+}
+
+void PresetPanel::setContainerSize(Size size) {
+    presetGradienContainerView_->resize(static_cast<int>(size.width), static_cast<int>(size.height));
+}
+
+void PresetPanel::thumbnailInserted(std::size_t /*position*/) {
+    presetGradienContainerView_->update();
+}
+
+void PresetPanel::thumbnailRemoved(std::size_t /*position*/) {
+    presetGradienContainerView_->update(); // the list shrinks next, and the relayout follows
+}
+
+void PresetPanel::thumbnailsMoved() {
+    presetGradienContainerView_->thumbnailsChanged();
+}
+
+} // namespace tessaly

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "presets/PresetGalleryView.h"
+
+#include <QWidget>
+
+class QPushButton;
+class QScrollArea;
+
+namespace tessaly {
+
+class PresetGallery;
+class PresetGradienContainerView;
+
+/// The presets beside the canvas: their scrolling gallery, and the button that adds one.
+class PresetPanel : public QWidget, public PresetGalleryView {
+    Q_OBJECT
+
+  public:
+    explicit PresetPanel(QWidget* parent = nullptr);
+
+    /// Shows a gallery and lets the button add to it. The gallery must outlive the panel's use.
+    void connectTo(PresetGallery& gallery);
+
+    double scrollViewHeight() const override;
+    void setContainerSize(Size size) override;
+    void thumbnailInserted(std::size_t position) override;
+    void thumbnailRemoved(std::size_t position) override;
+    void thumbnailsMoved() override;
+
+  private:
+    QPushButton* addButton_;
+    QScrollArea* presetGradienContainerScrollView_;
+    PresetGradienContainerView* presetGradienContainerView_;
+};
+
+} // namespace tessaly
