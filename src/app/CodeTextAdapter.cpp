@@ -9,10 +9,6 @@ std::u16string widened(std::string_view ascii) {
     return {ascii.begin(), ascii.end()};
 }
 
-CharacterRange charactersOf(TextRange range) {
-    return {range.location, range.length};
-}
-
 } // namespace
 
 void CodeTextAdapter::setText(std::string_view text) {
@@ -24,7 +20,7 @@ void CodeTextAdapter::setEditable(bool editable) {
 }
 
 void CodeTextAdapter::setSelection(TextRange selection) {
-    view_.setSelection(charactersOf(selection));
+    view_.setSelection(selection);
 }
 
 void CodeTextAdapter::insertText(std::string_view text) {
@@ -44,7 +40,7 @@ std::size_t CodeTextAdapter::length() const {
 }
 
 void CodeTextAdapter::replaceCharacters(TextRange range, std::string_view text) {
-    view_.replaceCharacters(charactersOf(range), widened(text));
+    view_.replaceCharacters(range, widened(text));
 }
 
 void CodeTextAdapter::redisplay() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "codegen/TextRange.h"
+#include "foundation/TextRange.h"
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "codegen/Declaration.h"
-#include "codegen/TextRange.h"
+#include "foundation/TextRange.h"
 
 namespace tessaly {
 

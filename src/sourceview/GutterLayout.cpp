@@ -48,7 +48,7 @@ std::vector<GutterLabel> GutterLayout::labels(double width,
     if (lines_.count() == 0) {
         return labels;
     }
-    const CharacterRange characters = layout_.charactersIn(layout_.visibleRect());
+    const TextRange characters = layout_.charactersIn(layout_.visibleRect());
     // One more, so that a line that starts right behind the last visible character is visible too.
     const std::size_t end = characters.end() + 1;
     std::size_t line = lines_.lineNumberForCharacterIndex(characters.location);

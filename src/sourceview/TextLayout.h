@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Geometry.h"
-#include "sourceview/CharacterRange.h"
+#include "foundation/TextRange.h"
 
 #include <string_view>
 #include <vector>
@@ -18,7 +18,7 @@ class TextLayout {
     virtual std::vector<Rect> rectanglesOfEmptyRange(std::size_t offset) const = 0;
 
     /// The characters of all rows that the rectangle touches.
-    virtual CharacterRange charactersIn(const Rect& rectangle) const = 0;
+    virtual TextRange charactersIn(const Rect& rectangle) const = 0;
 
     /// The part of the text that the scroll view shows.
     virtual Rect visibleRect() const = 0;

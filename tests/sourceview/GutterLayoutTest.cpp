@@ -15,7 +15,7 @@ struct FakeTextLayout : TextLayout {
         const double y = 20.0 * static_cast<double>(offset);
         return y == notLaidOut ? std::vector<Rect>{} : std::vector<Rect>{{0, y, 1, 20}, {0, -1000, 1, 1}};
     }
-    CharacterRange charactersIn(const Rect& rectangle) const override {
+    TextRange charactersIn(const Rect& rectangle) const override {
         const auto first = static_cast<std::size_t>(rectangle.y / 20);
         return {first, static_cast<std::size_t>(std::ceil(rectangle.maxY() / 20)) - first - unseen};
     }

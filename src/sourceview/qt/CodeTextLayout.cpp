@@ -17,9 +17,9 @@ std::vector<Rect> CodeTextLayout::rectanglesOfEmptyRange(std::size_t offset) con
     return row.isNull() ? std::vector<Rect>{} : std::vector{fromQt(row)};
 }
 
-CharacterRange CodeTextLayout::charactersIn(const Rect& rectangle) const {
+TextRange CodeTextLayout::charactersIn(const Rect& rectangle) const {
     const QRectF area{rectangle.x, rectangle.y, rectangle.width, rectangle.height};
-    return view_ != nullptr ? view_->charactersIn(area) : CharacterRange{};
+    return view_ != nullptr ? view_->charactersIn(area) : TextRange{};
 }
 
 Rect CodeTextLayout::visibleRect() const {

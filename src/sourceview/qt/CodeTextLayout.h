@@ -16,7 +16,7 @@ class CodeTextLayout : public TextLayout {
     CodeTextLayout(const CustomTextView* view, const QFont& labelFont) : view_{view}, metrics_{labelFont} {}
 
     std::vector<Rect> rectanglesOfEmptyRange(std::size_t offset) const override;
-    CharacterRange charactersIn(const Rect& rectangle) const override;
+    TextRange charactersIn(const Rect& rectangle) const override;
     Rect visibleRect() const override;
 
     /// The toolkit counts the space above the text in its rectangles.

@@ -33,7 +33,7 @@ void CustomTextView::setText(std::u16string_view text) {
     replaceCharacters({0, length()}, text);
 }
 
-void CustomTextView::replaceCharacters(CharacterRange range, std::u16string_view text) {
+void CustomTextView::replaceCharacters(TextRange range, std::u16string_view text) {
     const std::size_t location = std::min(range.location, length());
     const std::u16string stored = storedText(text);
     TextEdit edit = TextEdit::between(this->text().substr(location, range.length), stored);
@@ -72,12 +72,12 @@ void CustomTextView::replaceUnrecorded(const TextEdit& edit, std::u16string_view
 }
 
 void CustomTextView::insertText(std::u16string_view text) {
-    const CharacterRange replaced = selection();
+    const TextRange replaced = selection();
     replaceCharacters(replaced, text);
     setSelection({replaced.location + storedText(text).size(), 0});
 }
 
-void CustomTextView::setSelection(CharacterRange selection) {
+void CustomTextView::setSelection(TextRange selection) {
     const auto within = [&](std::size_t offset) { return static_cast<int>(std::min(offset, length())); };
     QTextCursor cursor = textCursor();
     cursor.setPosition(within(selection.location));
@@ -85,7 +85,7 @@ void CustomTextView::setSelection(CharacterRange selection) {
     setTextCursor(cursor);
 }
 
-CharacterRange CustomTextView::selection() const {
+TextRange CustomTextView::selection() const {
     const auto start = static_cast<std::size_t>(textCursor().selectionStart());
     return {start, static_cast<std::size_t>(textCursor().selectionEnd()) - start};
 }
@@ -166,7 +166,7 @@ void CustomTextView::insertFromMimeData(const QMimeData* source) {
 
 QMimeData* CustomTextView::createMimeDataFromSelection() const {
     auto* const plainText = new QMimeData; // the caller owns it
-    const CharacterRange range = selection();
+    const TextRange range = selection();
     plainText->setText(toQString(text().substr(range.location, range.length)));
     return plainText;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sourceview/CharacterRange.h"
+#include "foundation/TextRange.h"
 #include "sourceview/LongLineWatch.h"
 #include "sourceview/TextMirror.h"
 
@@ -44,12 +44,12 @@ class CustomTextView : public QPlainTextEdit {
     /// Replaces a range; what of it lies outside the text is ignored. Only the part that differs is touched,
     /// so equal text leaves the undo history alone. The caret, the selection and the scroll position stay,
     /// the first two beside the text that they stood in.
-    void replaceCharacters(CharacterRange range, std::u16string_view text);
+    void replaceCharacters(TextRange range, std::u16string_view text);
 
     /// Replaces the selection and puts the caret behind the text.
     void insertText(std::u16string_view text);
-    void setSelection(CharacterRange selection);
-    CharacterRange selection() const;
+    void setSelection(TextRange selection);
+    TextRange selection() const;
     void moveToBeginningOfDocument();
     void redisplay() { viewport()->update(); }
 
@@ -58,7 +58,7 @@ class CustomTextView : public QPlainTextEdit {
 
     /// The band for that selection, in the viewport's coordinates: the full width, and the rows that the
     /// range touches.
-    QRectF highlightRectForRange(CharacterRange range) const;
+    QRectF highlightRectForRange(TextRange range) const;
     void drawViewBackgroundInRect(QPainter& painter, const QRectF& rectangle) const;
 
     /// The rectangle of the laid-out row that starts at that offset, in the coordinates of the text; null
@@ -69,7 +69,7 @@ class CustomTextView : public QPlainTextEdit {
     QRectF visibleRect() const;
 
     /// The characters of the rows that the rectangle touches, looked for from the first visible line on.
-    CharacterRange charactersIn(const QRectF& rectangle) const;
+    TextRange charactersIn(const QRectF& rectangle) const;
 
     /// Places a ruler `width` points wide at the left of the text, on the text's background.
     void setVerticalRuler(QWidget* ruler, int width);

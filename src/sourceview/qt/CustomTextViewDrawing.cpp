@@ -39,7 +39,7 @@ void CustomTextView::drawViewBackgroundInRect(QPainter& painter, const QRectF& r
     painter.restore();
 }
 
-QRectF CustomTextView::highlightRectForRange(CharacterRange range) const {
+QRectF CustomTextView::highlightRectForRange(TextRange range) const {
     const std::size_t last = range.length == 0 ? range.location : range.end() - 1;
     const QRectF rows = rowRectangle(range.location).united(rowRectangle(last));
     return {0, rows.y() + contentOffset().y(), static_cast<double>(viewport()->width()), rows.height()};
@@ -67,7 +67,7 @@ QRectF CustomTextView::visibleRect() const {
     return {-contentOffset(), viewport()->size()};
 }
 
-CharacterRange CustomTextView::charactersIn(const QRectF& rectangle) const {
+TextRange CustomTextView::charactersIn(const QRectF& rectangle) const {
     QTextBlock block = firstVisibleBlock();
     double top = blockBoundingGeometry(block).top();
     int from = -1;

@@ -71,9 +71,9 @@ TEST_F(CustomTextViewTest, writesBehindTheUsersBack) {
     view.replaceCharacters({0, 6}, u"abc-def");
     EXPECT_EQ(touched, 1) << "the part that differs";
     EXPECT_FALSE(view.document()->isUndoAvailable());
-    EXPECT_EQ(view.selection(), (CharacterRange{1001, 5})) << "beside the same text";
+    EXPECT_EQ(view.selection(), (TextRange{1001, 5})) << "beside the same text";
     view.replaceCharacters({1001, 0}, u"at the caret");
-    EXPECT_EQ(view.selection(), (CharacterRange{1001, 17})) << "the caret stays before text put in at it";
+    EXPECT_EQ(view.selection(), (TextRange{1001, 17})) << "the caret stays before text put in at it";
     view.replaceCharacters({2100, 9999}, u"");
     EXPECT_EQ(view.length(), 2100U);
     EXPECT_EQ(view.verticalScrollBar()->value(), 50);
@@ -83,9 +83,9 @@ TEST_F(CustomTextViewTest, writesBehindTheUsersBack) {
     view.setSelection({1, 1});
     view.insertText(u"\r\nxy");
     EXPECT_EQ(view.text(), u"a\nxy--c");
-    EXPECT_EQ(view.selection(), (CharacterRange{4, 0}));
+    EXPECT_EQ(view.selection(), (TextRange{4, 0}));
     view.moveToBeginningOfDocument();
-    EXPECT_EQ(view.selection(), CharacterRange{});
+    EXPECT_EQ(view.selection(), TextRange{});
 }
 
 TEST_F(CustomTextViewTest, reportsEveryEditOfTheUserAndNothingElse) {
@@ -103,7 +103,7 @@ TEST_F(CustomTextViewTest, reportsEveryEditOfTheUserAndNothingElse) {
             QCoreApplication::sendEvent(&view, &event);
         },
         [&] {
-            const CharacterRange range = view.selection();
+            const TextRange range = view.selection();
             view.replaceCharacters(range, u"generated\n");
             ASSERT_TRUE(edits.empty());
             shadow.replace(range.location, range.length, u"generated\n");
@@ -202,7 +202,7 @@ class BandTest : public CustomTextViewTest {
 
 TEST_F(BandTest, coversTheRowsThatTheRangeTouches) {
     // A range may end with the end of a line, wrap (70), be the empty last line (75) or lie behind the text.
-    const std::vector<std::tuple<CharacterRange, int, int>> table{
+    const std::vector<std::tuple<TextRange, int, int>> table{
         {{0, 0}, 0, 1},  {{3, 0}, 0, 1},  {{4, 0}, 1, 1},  {{1, 8}, 0, 3},  {{0, 4}, 0, 1},
         {{14, 0}, 3, 1}, {{70, 0}, 4, 1}, {{75, 0}, 5, 1}, {{999, 5}, 5, 1}};
     for (const auto& [range, first, count] : table) {
