@@ -6,6 +6,7 @@
 #include "support/NoPresets.h"
 
 #include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -297,63 +298,40 @@ TEST_F(GradientEditorTest, noSequenceOfActionsBreaksTheInvariants) {
     std::mt19937 random;
     const auto upTo = [&](int most) { return std::uniform_int_distribution<int>{0, most}(random); };
     const auto anywhere = [&] { return Point{upTo(500) - 30.0, upTo(200) - 30.0}; };
+    const auto anyValue = [&] { return stopValues[static_cast<std::size_t>(upTo(7))].value; };
     const std::string texts[] = {"", "0", "0.5", "300", "-4", "1e99", "abc", "128"};
-    for (int i = 0; i < 10'000; ++i) {
+    const auto deleteOne = [&] {
+        mouse().rightMouseDown(anywhere());
+        if (data().stopCount() > static_cast<std::size_t>(upTo(8))) {
+            mouse().deleteColorMarker();
+        }
+    };
+    constexpr std::size_t deletion = 0;
+    constexpr std::size_t firstUnsorting = 7;
+    const std::function<void()> actions[] = {
+        deleteOne,
+        [&] { press(anywhere(), 2); },
+        [&] { press(anywhere()); },
+        [&] { mouse().mouseDragged(anywhere()); },
+        [&] { mouse().mouseUp(); },
+        [&] { mouse().moveSelected(upTo(2) - 1, upTo(2) - 1, upTo(10)); },
+        [&] { chooseOrientation(upTo(6) - 1), chooseFormat(upTo(6) - 1); },
+        [&] { type(anyValue(), texts[upTo(7)]); },
+        [&] { step(anyValue(), upTo(300) / 2.0); },
+        [&] { editor.markers().select(upTo(12) - 2), editor.repaint(); }};
+    const auto isSorted = [] {
+        return std::is_sorted(data().colorMarkerPos().begin(), data().colorMarkerPos().end());
+    };
+    for (unsigned i = 0; i < 10'000; ++i) {
         if (i % 2'000 == 0) {
-            random.seed(static_cast<unsigned>(i));
+            random.seed(i);
         }
-        const bool wasSorted = std::is_sorted(data().colorMarkerPos().begin(), data().colorMarkerPos().end());
-        const std::size_t stops = data().stopCount();
+        const bool wasSorted = isSorted();
         const std::size_t opacities = data().colorMarkerOpacity().size();
-        const int action = upTo(11);
-        switch (action) {
-        case 0:
-            press(anywhere(), 2);
-            break;
-        case 1:
-            press(anywhere());
-            break;
-        case 2:
-        case 3:
-            mouse().mouseDragged(anywhere());
-            break;
-        case 4:
-            mouse().mouseUp();
-            break;
-        case 5:
-            mouse().rightMouseDown(anywhere());
-            if (data().stopCount() > static_cast<std::size_t>(upTo(8))) {
-                mouse().deleteColorMarker();
-            }
-            break;
-        case 6:
-            type(stopValues[static_cast<std::size_t>(upTo(7))].value, texts[upTo(7)]);
-            break;
-        case 7:
-            step(stopValues[static_cast<std::size_t>(upTo(7))].value, upTo(300) / 2.0);
-            break;
-        case 8:
-            chooseOrientation(upTo(6) - 1);
-            break;
-        case 9:
-            chooseFormat(upTo(6) - 1);
-            break;
-        case 10:
-            mouse().moveSelected(upTo(2) - 1, upTo(2) - 1, upTo(10));
-            break;
-        default:
-            editor.markers().select(upTo(12) - 2);
-            editor.repaint();
-        }
-        constexpr int deletion = 5;
-        constexpr int typing = 6;
-        constexpr int stepping = 7;
-        const bool sorted = std::is_sorted(data().colorMarkerPos().begin(), data().colorMarkerPos().end());
-        ASSERT_TRUE(sorted || !wasSorted || action == typing || action == stepping) << i;
-        if (action == deletion) {
-            ASSERT_EQ(data().colorMarkerOpacity().size(), opacities) << i;
-            ASSERT_GE(data().stopCount() + 1, stops) << i;
-        }
+        const auto action = static_cast<std::size_t>(upTo(std::size(actions) - 1));
+        actions[action]();
+        ASSERT_TRUE(isSorted() || !wasSorted || action >= firstUnsorting) << i;
+        ASSERT_TRUE(action != deletion || data().colorMarkerOpacity().size() == opacities) << i;
         ASSERT_EQ(data().colorMarkerPos().size(), data().colorMarkerColor().size()) << i;
         ASSERT_GE(data().colorMarkerOpacity().size(), data().stopCount()) << i;
         ASSERT_EQ(surface.markers.size(), data().stopCount()) << i;
