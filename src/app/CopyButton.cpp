@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QKeySequence>
 #include <algorithm>
 
 namespace tessaly {
@@ -23,6 +24,7 @@ CopyButton::CopyButton(QWidget* parent) : QPushButton{parent} {
 void CopyButton::copy(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
     setText(tr("Copied \u2713"));
+    setShortcut(QKeySequence{Qt::ALT | Qt::Key_Y}); // the confirmation has no letter of its own
     confirmation_.start();
 }
 

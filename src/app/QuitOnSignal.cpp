@@ -2,23 +2,23 @@
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
-#include <array>
-#include <csignal>
+#include <cerrno>
+#include <cstddef>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace tessaly {
 namespace {
 
-constexpr std::array endingSignals{SIGINT, SIGTERM, SIGHUP};
-
 // A handler may do next to nothing, so it wakes the event loop through a pipe.
 std::array<int, 2> wakePipe{-1, -1};
 
 void wake(int /*signal*/) {
+    const int error = errno; // whoever was interrupted may be about to look at it
     const char byte = 0;
     [[maybe_unused]] const ssize_t written =
         ::write(wakePipe[1], &byte, 1); // a full pipe has woken the loop already
+    errno = error;
 }
 
 } // namespace
@@ -32,8 +32,11 @@ QuitOnSignal::QuitOnSignal(QObject* parent) : QObject{parent} {
         notifier_->setEnabled(false);
         QCoreApplication::exit(); // asks no window: whoever sent the signal wants the program to end
     });
-    for (const int signal : endingSignals) {
-        std::signal(signal, wake);
+    for (std::size_t i = 0; i < endingSignals.size(); ++i) {
+        before_[i] = std::signal(endingSignals[i], wake);
+        if (before_[i] == SIG_IGN) {
+            std::signal(endingSignals[i], SIG_IGN); // whoever started us wants us to outlive it
+        }
     }
 }
 
@@ -41,8 +44,8 @@ QuitOnSignal::~QuitOnSignal() {
     if (notifier_ == nullptr) {
         return;
     }
-    for (const int signal : endingSignals) {
-        std::signal(signal, SIG_DFL);
+    for (std::size_t i = 0; i < endingSignals.size(); ++i) {
+        std::signal(endingSignals[i], before_[i]);
     }
     for (const int end : wakePipe) {
         ::close(end);

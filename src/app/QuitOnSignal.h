@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <array>
+#include <csignal>
 
 class QSocketNotifier;
 
@@ -18,6 +20,9 @@ class QuitOnSignal : public QObject {
     ~QuitOnSignal() override;
 
   private:
+    static constexpr std::array endingSignals{SIGINT, SIGTERM, SIGHUP};
+
+    std::array<void (*)(int), endingSignals.size()> before_{};
     QSocketNotifier* notifier_ = nullptr;
 };
 

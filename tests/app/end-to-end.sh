@@ -43,12 +43,16 @@ expect '#000000 25%,'
 at 81 242 && xdotool click --repeat 3 --delay 60 1 && xdotool type 255 && xdotool key Return
 expect '#ff0000 25%,'
 
-at 540 355 && xdotool click 1 # the third tab
-sleep 2
+at 500 700 && xdotool click 1 && xdotool key ctrl+Home && xdotool type 'a' # into the stylesheet
+for tab in 450 405 515; do # "HTML", "CSS 3", "Web Preview"
+    at "$tab" 355 && xdotool click 1
+    sleep 1
+done
 at 182 188 && xdotool mousedown 1
 at 328 100 && xdotool mouseup 1
 expect '#ffffff 50%, '
 expect '#ff0000 50%);'
+expect 'a.gradient {'
 
 at 920 29 && xdotool click 1 # "Add Preset"
 sleep 0.3

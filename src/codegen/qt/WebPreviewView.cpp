@@ -15,7 +15,7 @@ namespace tessaly {
 
 void WebPreviewView::prepareProcess() {
     // The engine reports its whole configuration otherwise, in the middle of our log.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.*=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
     if (::geteuid() == 0 && !qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX")) {
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
         DiagnosticLog::write(

@@ -19,6 +19,9 @@ class RulerImage {
     void setSize(QSizeF size) { size_ = size; }
 
     void draw(QPainter& painter, QPointF topLeft) const {
+        if (representationSize_.isEmpty()) {
+            return; // it was asked for before the ruler had a size
+        }
         painter.save();
         painter.translate(topLeft);
         painter.scale(size_.width() / representationSize_.width(),

@@ -150,7 +150,7 @@ void WendleLineNumberView::removeMarker(const MarkerPointer& marker) {
 void WendleLineNumberView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     drawBackground(painter);
-    drawHashMarksAndLabels(painter);
+    drawHashMarksAndLabelsInRect(painter);
 }
 
 void WendleLineNumberView::drawBackground(QPainter& painter) const {
@@ -166,7 +166,7 @@ void WendleLineNumberView::drawBackground(QPainter& painter) const {
     painter.restore();
 }
 
-void WendleLineNumberView::drawHashMarksAndLabels(QPainter& painter) const {
+void WendleLineNumberView::drawHashMarksAndLabelsInRect(QPainter& painter) const {
     const CodeTextLayout layout = textLayout();
     const auto isMarked = [this](std::size_t line) {
         return linesToMarkers_.contains(static_cast<std::int64_t>(line));
@@ -185,6 +185,9 @@ void WendleLineNumberView::drawHashMarksAndLabels(QPainter& painter) const {
 
 void WendleLineNumberView::drawMarker(QPainter& painter, const GutterLabel& label) const {
     const WendleLineNumberMarker& marker = *linesToMarkers_.at(static_cast<std::int64_t>(label.line));
+    if (marker.image() == nullptr) {
+        return;
+    }
     const QSizeF size = marker.image()->size();
     const Point place =
         GutterLayout::markerPosition(label, width(), {size.width(), size.height()}, marker.imageOrigin().y());

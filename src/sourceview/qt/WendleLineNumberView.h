@@ -80,7 +80,7 @@ class WendleLineNumberView : public VerticalRuler {
     CodeTextLayout textLayout() const { return {textView(), textAttributes().font}; }
     void calculateLines() const;
     void drawBackground(QPainter& painter) const;
-    void drawHashMarksAndLabels(QPainter& painter) const;
+    void drawHashMarksAndLabelsInRect(QPainter& painter) const;
     void drawMarker(QPainter& painter, const GutterLabel& label) const;
     void redrawWithText(const QRect& changed, int scrolled);
 

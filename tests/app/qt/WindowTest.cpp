@@ -20,6 +20,7 @@
 #include <QScreen>
 #include <QStackedWidget>
 #include <QTest>
+#include <QWebEngineSettings>
 #include <QWebEngineView>
 #include <csignal>
 #include <gtest/gtest.h>
@@ -100,6 +101,10 @@ TEST_F(WindowTest, thePreviewReadsItsOwnTwoFilesAndNothingElse) {
     window.mainTabView().setSelectIndex(2);
     EXPECT_TRUE(previewComesToShow(0.25, 127));
     QWebEnginePage* const page = window.webPreviewView().engineView()->page();
+    for (const auto off : {QWebEngineSettings::JavascriptEnabled, QWebEngineSettings::LocalStorageEnabled,
+                           QWebEngineSettings::PluginsEnabled, QWebEngineSettings::NavigateOnDropEnabled}) {
+        EXPECT_FALSE(page->settings()->testAttribute(off)) << off;
+    }
     const QUrl url = page->url();
     page->setUrl(QUrl::fromLocalFile(QString::fromStdString(secret.native())));
     QTest::qWait(300);
