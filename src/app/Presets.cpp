@@ -5,12 +5,14 @@
 namespace tessaly {
 
 Presets::Presets(PresetPanel& panel, GradientEditor& editor, const std::filesystem::path& applicationSupport)
-    : gallery_{panel, {[&editor] { editor.gradientReplaced(); }, [this] { store_.insertData(); }}},
+    : panel_{panel},
+      gallery_{panel, {[&editor] { editor.gradientReplaced(); }, [this] { store_.insertData(); }}},
       store_{gallery_, applicationSupport} {
     panel.connectTo(gallery_);
 }
 
 Presets::~Presets() {
+    panel_.disconnectFromGallery();
     store_.closeDB();
 }
 

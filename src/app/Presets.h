@@ -27,6 +27,7 @@ class Presets {
   private:
     void open();
 
+    PresetPanel& panel_;
     PresetGallery gallery_;
     PresetStore store_;
 };

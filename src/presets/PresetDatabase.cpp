@@ -33,7 +33,10 @@ bool PresetDatabase::open() {
 }
 
 void PresetDatabase::close() {
-    connection_.execute("pragma journal_mode=delete");
+    const bool onTheDisk = connection_.value("pragma journal_mode=delete") == "delete";
+    if (std::exchange(savedButNotDurable_, false) && onTheDisk) {
+        endGuard();
+    }
     connection_ = {};
     copyReader_ = {};
 }
@@ -143,6 +146,10 @@ std::optional<std::string> PresetDatabase::prepareSave() {
         return "another copy of the program is saving";
     }
     configure(); // once more, for the case that a lock was in the way
+    savedButNotDurable_ = false;
+    if (copy_.exists() && !copy_.open().isOpen() && !copy_.setAside()) {
+        return "a broken safety copy is in the way";
+    }
     if (!copy_.exists()) {
         SqliteResult made = copy_.make(connection_);
         if (made.isDamage()) {
@@ -191,14 +198,20 @@ void PresetDatabase::endSave(bool complete) {
     } else if (!complete) {
         afterFailedSave();
     } else if (makeDurable()) {
-        if (allKnown_) {
-            copy_.remove();
-        } else {
-            copy_.setAside();
-        }
-        allKnown_ = true;
+        endGuard();
+    } else {
+        DiagnosticLog::write("Presets saved, but not known to be on the disk yet");
+        savedButNotDurable_ = true;
     }
     save_.reset();
+}
+
+void PresetDatabase::endGuard() {
+    if (allKnown_) {
+        copy_.remove();
+    } else {
+        allKnown_ = copy_.setAside(); // what could not be read goes on being kept
+    }
 }
 
 void PresetDatabase::afterFailedSave() {

@@ -74,12 +74,14 @@ class PresetDatabase {
     bool makeDurable() const;
     std::optional<std::string> prepareSave(); ///< none, or why nothing must be written
     void afterFailedSave();
+    void endGuard(); ///< the database alone is complete and on the disk
 
     std::filesystem::path folder_;
     std::filesystem::path file_;
     PresetSafetyCopy copy_;
     SqliteConnection connection_;
     SqliteConnection copyReader_;
+    bool savedButNotDurable_ = false;
     bool allKnown_ = false; ///< the list in memory has all that is stored
     bool hasTables_ = true; ///< false from when the database was emptied until a save makes them anew
     std::optional<std::string> knownVersion_; ///< of the database that `allKnown_` is about

@@ -48,19 +48,23 @@ SqliteConnection PresetSafetyCopy::open() const {
 void PresetSafetyCopy::remove() const {
     std::error_code error;
     std::filesystem::remove(file_, error);
+    if (error) {
+        DiagnosticLog::write("Safety copy of the presets not removed: " + error.message());
+    }
     syncToDisk(file_.parent_path());
 }
 
-void PresetSafetyCopy::setAside() const {
+bool PresetSafetyCopy::setAside() const {
     const std::filesystem::path dated = datedName(database_);
     std::error_code error;
     std::filesystem::rename(file_, dated, error);
     if (error) {
         DiagnosticLog::write("Presets not set aside: " + error.message());
-        return;
+        return false;
     }
     syncToDisk(file_.parent_path());
     DiagnosticLog::write("Presets set aside: " + dated.native());
+    return true;
 }
 
 } // namespace tessaly

@@ -25,8 +25,8 @@ class PresetSafetyCopy {
     /// The database needs no guard any more.
     void remove() const;
 
-    /// Keeps the copy for the user, under a dated name.
-    void setAside() const;
+    /// Keeps the copy for the user, under a dated name. False: it is still where it was.
+    bool setAside() const;
 
   private:
     std::filesystem::path database_;

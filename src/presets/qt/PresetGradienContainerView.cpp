@@ -15,6 +15,8 @@
 namespace tessaly {
 namespace {
 
+constexpr int focusRingReach = 3; // points beyond the thumbnail
+
 int stepFor(int key) {
     constexpr int row = static_cast<int>(PresetSlotGeometry::thumbnailsPerRow);
     switch (key) {
@@ -47,6 +49,9 @@ std::size_t PresetGradienContainerView::count() const {
 void PresetGradienContainerView::thumbnailsChanged() {
     current_ = std::min(current_, std::max<std::size_t>(count(), 1) - 1);
     update();
+    QAccessibleEvent reordered{this, QAccessible::ObjectReorder};
+    QAccessible::updateAccessibility(&reordered);
+    announceCurrentAccessibleItem(*this, *this); // another preset is there now
 }
 
 std::optional<std::size_t> PresetGradienContainerView::positionAt(QPointF point) const {
@@ -63,7 +68,7 @@ void PresetGradienContainerView::paintEvent(QPaintEvent* event) {
         return;
     }
     QPainter painter{this};
-    const QRect& area = event->rect();
+    const QRect area = event->rect().adjusted(0, -focusRingReach, 0, focusRingReach);
     const auto visible = PresetSlotGeometry::positionsBetween(area.top(), area.bottom() + 1, count());
     for (std::size_t position = visible.first; position < visible.last; ++position) {
         const QRect place = placeOf(position);
@@ -111,7 +116,9 @@ void PresetGradienContainerView::keyPressEvent(QKeyEvent* event) {
         apply(current_);
         break;
     case Qt::Key_Delete:
-        remove(current_);
+        if (!event->isAutoRepeat()) { // a key held too long must not cost the whole gallery
+            remove(current_);
+        }
         break;
     default:
         if (const int step = stepFor(event->key()); step != 0) {
@@ -134,13 +141,13 @@ void PresetGradienContainerView::moveCurrent(int by) {
     const auto wanted = static_cast<std::ptrdiff_t>(current_) + by;
     if (wanted >= 0 && wanted < static_cast<std::ptrdiff_t>(count())) {
         setCurrent(static_cast<std::size_t>(wanted));
+        Q_EMIT currentMoved(placeOf(current_));
     }
 }
 
 void PresetGradienContainerView::setCurrent(std::size_t position) {
     current_ = position;
     update();
-    Q_EMIT currentMoved(placeOf(position));
     announceCurrentAccessibleItem(*this, *this);
 }
 

@@ -35,7 +35,7 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     void pressAccessibleItem(int item) override;
 
   Q_SIGNALS:
-    /// The thumbnail that has the keyboard is there, in this widget's coordinates.
+    /// A key moved on to the thumbnail that is there, in this widget's coordinates.
     void currentMoved(const QRect& place);
 
   protected:

@@ -41,7 +41,7 @@ PresetPanel::PresetPanel(QWidget* parent)
     scrollView.setFocusPolicy(Qt::NoFocus);
     connect(presetGradienContainerView_, &PresetGradienContainerView::currentMoved, this,
             [&scrollView](const QRect& place) {
-                scrollView.ensureVisible(place.center().x(), place.center().y(), 0, place.height());
+                scrollView.ensureVisible(place.center().x(), place.center().y(), 0, place.height() / 2 + 8);
             });
 
     auto* const label = new QLabel{tr("Prese&ts")};
@@ -59,8 +59,13 @@ PresetPanel::PresetPanel(QWidget* parent)
 
 void PresetPanel::connectTo(PresetGallery& gallery) {
     presetGradienContainerView_->setGallery(&gallery);
-    connect(addButton_, &QPushButton::clicked, this,
-            [this, &gallery] { gallery.addGradientIntoPreset(addButton_); });
+    adding_ = connect(addButton_, &QPushButton::clicked, this,
+                      [this, &gallery] { gallery.addGradientIntoPreset(addButton_); });
+}
+
+void PresetPanel::disconnectFromGallery() {
+    presetGradienContainerView_->setGallery(nullptr);
+    disconnect(adding_);
 }
 
 double PresetPanel::scrollViewHeight() const {

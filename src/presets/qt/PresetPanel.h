@@ -19,8 +19,9 @@ class PresetPanel : public QWidget, public PresetGalleryView {
   public:
     explicit PresetPanel(QWidget* parent = nullptr);
 
-    /// Shows a gallery and lets the button add to it. The gallery must outlive the panel's use.
+    /// Shows a gallery and lets the button add to it, until the gallery is taken away again before it ends.
     void connectTo(PresetGallery& gallery);
+    void disconnectFromGallery();
 
     double scrollViewHeight() const override;
     void setContainerSize(Size size) override;
@@ -30,6 +31,7 @@ class PresetPanel : public QWidget, public PresetGalleryView {
 
   private:
     QPushButton* addButton_;
+    QMetaObject::Connection adding_;
     QScrollArea* presetGradienContainerScrollView_;
     PresetGradienContainerView* presetGradienContainerView_;
 };

@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -26,6 +27,8 @@ class PresetPanelTest : public testing::Test {
         panel.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
     }
+
+    ~PresetPanelTest() override { panel.disconnectFromGallery(); }
 
     void add(std::int64_t orientation) {
         GlobalData::sharedData().setOrientationType(orientation);
@@ -64,8 +67,10 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     QApplication::sendEvent(&container(), &menu);
     auto* const popup = container().findChild<QMenu*>();
     EXPECT_EQ(popup->actions().first()->text(), QStringLiteral("Delete"));
+    EXPECT_EQ(popup->title(), QStringLiteral("Contextual Menu"));
     popup->actions().first()->trigger();
     popup->hide();
+    EXPECT_TRUE(log.has("mouseDown") && log.has("deletePresetGradientItem"));
     EXPECT_EQ(gallery.presetGradient()[0].orientationType, 1);
     EXPECT_EQ(saved, 8);
 
@@ -76,7 +81,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     EXPECT_EQ(GlobalData::sharedData().orientationType(), 0);
 }
 
-TEST_F(PresetPanelTest, scrollingPaintsOnlyWhatIsVisible) {
+TEST_F(PresetPanelTest, theKeyboardScrollsThroughThousandsAndAClickDoesNotScroll) {
     for (int i = 0; i < 10'000; ++i) {
         gallery.addGradientIntoPreset(nullptr);
     }
@@ -88,7 +93,11 @@ TEST_F(PresetPanelTest, scrollingPaintsOnlyWhatIsVisible) {
         QTest::keyClick(&container(), Qt::Key_Down);
     }
     EXPECT_TRUE(container().visibleRegion().contains(container().accessibleItemRect(105).center()));
-    EXPECT_LT(container().visibleRegion().boundingRect().height(), scrollView->height());
+    const int scrolled = scrollView->verticalScrollBar()->value();
+    const QRect visible = container().visibleRegion().boundingRect();
+    QTest::mouseClick(&container(), Qt::LeftButton, {}, {35, visible.bottom() - 2});
+    QTest::mouseClick(&container(), Qt::LeftButton, {}, {35, visible.top() + 2});
+    EXPECT_EQ(scrollView->verticalScrollBar()->value(), scrolled);
 }
 
 TEST(PresetGradienView, drawsTheGradientInTwoLines) {
