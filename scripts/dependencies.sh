@@ -11,7 +11,7 @@ declare -A packages=(
     [display]="xvfb xauth"
     [screenshot]="xdotool imagemagick"
     [test]="libgtest-dev libgmock-dev locales xvfb xauth xdotool sqlite3"
-    [bench]="libbenchmark-dev"
+    [bench]="libbenchmark-dev sqlite3"
     [check]="clang clang-format clang-tidy libclang-rt-14-dev"
 )
 

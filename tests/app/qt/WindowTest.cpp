@@ -2,6 +2,7 @@
 
 #include "app/CopyButton.h"
 #include "app/MainWindow.h"
+#include "app/SingleInstance.h"
 #include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
 #include "chrome/qt/MainTabView.h"
@@ -18,6 +19,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
 #include <QWebEngineSettings>
@@ -137,6 +139,19 @@ TEST_F(WindowTest, listensToItsOwnTabsAndKeepsWhatTheUserTyped) {
     dragWhiteMarker(292);
     EXPECT_EQ(stylesheet().rfind("\tbackground: #000000;\n", 0), 0U) << "what was deleted comes back";
     EXPECT_EQ(stylesheetFile(), stylesheet());
+}
+
+TEST(SingleInstance, aSecondOneTellsTheFirstAndMayFollowIt) {
+    const TemporaryFolder folder;
+    const QString path = QString::fromStdString(folder.path.native());
+    {
+        const SingleInstance first{path};
+        QSignalSpy again{&first, &SingleInstance::startedAgain};
+        const SingleInstance second{path};
+        EXPECT_TRUE(first.isFirst() && !second.isFirst());
+        EXPECT_TRUE(again.wait());
+    }
+    EXPECT_TRUE(SingleInstance{path}.isFirst());
 }
 
 } // namespace
