@@ -16,11 +16,17 @@ namespace {
 
 constexpr double size = PresetSlotGeometry::thumbnailSize;
 constexpr double outerInset = 1;
-constexpr double innerInset = 2;
 constexpr double cornerRadius = 4;
 
 QRectF inset(QPointF origin, double way) {
     return {origin.x() + way, origin.y() + way, size - 2 * way, size - 2 * way};
+}
+
+// The nearest place that lies on the corner of a device pixel.
+QPointF onPixels(const QPainter& painter, QPointF place) {
+    const QTransform& toDevice = painter.deviceTransform();
+    const QPointF pixel = toDevice.map(place);
+    return toDevice.inverted().map(QPointF{std::round(pixel.x()), std::round(pixel.y())});
 }
 
 } // namespace
@@ -52,20 +58,29 @@ QImage PresetGradienView::gradientPicture(double devicePixelRatio) const {
 }
 
 void PresetGradienView::drawRect(QPainter& painter, QPointF origin) const {
-    painter.setRenderHint(QPainter::Antialiasing);
     const double ratio = painter.device()->devicePixelRatioF();
+    const auto wholePixels = [&](double points) { return std::round(points * ratio) / ratio; };
+    const QPointF corner = onPixels(painter, origin);
+    const double outer = wholePixels(outerInset);
+    painter.setRenderHint(QPainter::Antialiasing);
     QBrush gradient{gradientPicture(ratio)};
-    gradient.setTransform(QTransform::fromTranslate(origin.x(), origin.y()).scale(1 / ratio, 1 / ratio));
+    gradient.setTransform(QTransform::fromTranslate(corner.x(), corner.y()).scale(1 / ratio, 1 / ratio));
     painter.setPen(Qt::NoPen);
     painter.setBrush(gradient);
-    painter.drawRoundedRect(inset(origin, outerInset), cornerRadius, cornerRadius);
+    painter.drawRoundedRect(inset(corner, outer), cornerRadius, cornerRadius);
 
-    // Only the inner half of the grey line is seen, so that the thumbnail ends where its clip does.
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen{QColor::fromRgbF(0.5F, 0.5F, 0.5F), 0.5});
-    painter.drawRoundedRect(inset(origin, outerInset + 0.25), cornerRadius - 0.25, cornerRadius - 0.25);
-    painter.setPen(QPen{Qt::white, 1});
-    painter.drawRoundedRect(inset(origin, innerInset), cornerRadius, cornerRadius);
+    // Of the grey line only the inner half is to be seen, half a point, and the white one starts behind it;
+    // both fill whole pixels.
+    const double grey = std::ceil(0.5 * ratio) / ratio;
+    const double white = wholePixels(1.0);
+    const auto drawLine = [&](const QColor& color, double from, double width) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen{color, width});
+        const double middle = from + width / 2;
+        painter.drawRoundedRect(inset(corner, middle), cornerRadius, cornerRadius);
+    };
+    drawLine(QColor::fromRgbF(0.5F, 0.5F, 0.5F), outer, grey);
+    drawLine(Qt::white, outer + grey, white);
 }
 
 void PresetGradienView::mouseDown() const {
