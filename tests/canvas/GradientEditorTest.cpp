@@ -322,6 +322,7 @@ TEST_F(GradientEditorTest, noSequenceOfActionsBreaksTheInvariants) {
     const auto isSorted = [] {
         return std::is_sorted(data().colorMarkerPos().begin(), data().colorMarkerPos().end());
     };
+    editor.repaint();
     for (unsigned i = 0; i < 10'000; ++i) {
         if (i % 2'000 == 0) {
             random.seed(i);
