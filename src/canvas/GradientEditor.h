@@ -44,7 +44,6 @@ class GradientEditor {
     void gradientReplaced();
 
     const CanvasGeometry& geometry() const { return geometry_; }
-    const MarkerHitAreas& hitAreas() const { return hitAreas_; }
     ColorMarkers& markers() { return markers_; }
     const ColorMarkers& markers() const { return markers_; }
     MarkerInteraction& interaction() { return interaction_; }
