@@ -1,6 +1,6 @@
 #include "canvas/StopControls.h"
 
-#include "canvas/ComboBoxItems.h"
+#include "canvas/OrientationItems.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
@@ -9,14 +9,6 @@
 #include <utility>
 
 namespace tessaly {
-namespace {
-
-bool isColorFormatItem(std::int64_t index) {
-    return index >= 0 && index < std::ssize(colorFormatItems);
-}
-
-} // namespace
-
 StopControls::StopControls(const StopControlSet& controls, ColorMarkers& markers,
                            std::function<void()> repaint, std::function<void()> announce)
     : controls_{controls}, markers_{markers}, repaint_{std::move(repaint)}, announce_{std::move(announce)} {}
@@ -97,7 +89,7 @@ void StopControls::updateColorFormatComboBoxValue() {
     }
     handle([&] {
         const std::int64_t item = controls_.selectedColorFormatComboBox->indexOfSelectedItem();
-        if (isColorFormatItem(item)) {
+        if (colorFormat::isKnown(item)) {
             GlobalData::sharedData().setColorFormatType(item);
         }
         updateEnabledState();
@@ -125,7 +117,7 @@ void StopControls::updateOrientationTypeComboBox() {
 
 void StopControls::updateColorFormatTypeComboBox() {
     const std::int64_t code = GlobalData::sharedData().colorFormatType();
-    if (isColorFormatItem(code)) {
+    if (colorFormat::isKnown(code)) {
         controls_.selectedColorFormatComboBox->selectItemAtIndex(code);
     }
     updateEnabledState();
@@ -200,7 +192,7 @@ void StopControls::showSelectedStop() {
 void StopControls::updateEnabledState() {
     const bool anyStop = markers_.selectedStop().has_value();
     const std::int64_t code = GlobalData::sharedData().colorFormatType();
-    if (isColorFormatItem(code)) {
+    if (colorFormat::isKnown(code)) {
         opacityEditable_ = colorFormat::carriesOpacity(code);
     }
     for (const StopValueTraits& traits : stopValues) {

@@ -1,6 +1,7 @@
 #include "codegen/ColorNotation.h"
 
 #include "foundation/NumberText.h"
+#include "model/ColorFormat.h"
 #include "model/GlobalData.h"
 
 #include <array>
@@ -22,13 +23,18 @@ std::string hslComponents(const Color& color) {
 using Writer = std::optional<std::string> (*)(const Color& color, double opacity);
 
 // By notation code.
-constexpr std::array<Writer, 5> writers{
-    [](const Color& color, double) { return hexadecimalValueOfAnNSColor(color); },
-    [](const Color& color, double) { return std::optional{rgbValueOfAnNSColor(color)}; },
-    [](const Color& color, double opacity) { return std::optional{rgbaValueOfAnNSColor(color, opacity)}; },
-    [](const Color& color, double) { return std::optional{hslValueOfAnNSColor(color)}; },
-    [](const Color& color, double opacity) { return std::optional{hslaValueOfAnNSColor(color, opacity)}; },
+constexpr std::array writers{
+    Writer{[](const Color& color, double) { return hexadecimalValueOfAnNSColor(color); }},
+    Writer{[](const Color& color, double) { return std::optional{rgbValueOfAnNSColor(color)}; }},
+    Writer{[](const Color& color, double opacity) {
+        return std::optional{rgbaValueOfAnNSColor(color, opacity)};
+    }},
+    Writer{[](const Color& color, double) { return std::optional{hslValueOfAnNSColor(color)}; }},
+    Writer{[](const Color& color, double opacity) {
+        return std::optional{hslaValueOfAnNSColor(color, opacity)};
+    }},
 };
+static_assert(writers.size() == colorFormat::notations.size());
 
 } // namespace
 
@@ -61,12 +67,9 @@ std::string hslaValueOfAnNSColor(const Color& color, double alpha) {
 }
 
 std::optional<std::string> colorText(std::int64_t colorFormatType, const Color& color, double opacity) {
-    return isKnown(colorFormatType) ? writers[static_cast<std::size_t>(colorFormatType)](color, opacity)
-                                    : std::nullopt;
-}
-
-bool isKnown(std::int64_t colorFormatType) {
-    return colorFormatType >= 0 && colorFormatType < std::ssize(writers);
+    return colorFormat::isKnown(colorFormatType)
+               ? writers[static_cast<std::size_t>(colorFormatType)](color, opacity)
+               : std::nullopt;
 }
 
 } // namespace tessaly::colorNotation

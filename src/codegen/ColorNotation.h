@@ -23,7 +23,4 @@ std::string hslaValueOfAnNSColor(const Color& color, double alpha);
 /// `opacity`.
 std::optional<std::string> colorText(std::int64_t colorFormatType, const Color& color, double opacity);
 
-/// Whether `colorFormatType` is the code of a notation.
-bool isKnown(std::int64_t colorFormatType);
-
 } // namespace tessaly::colorNotation

@@ -28,7 +28,7 @@ void appendStop(std::string& list, StopSyntax syntax, std::string_view color, st
 // The stops in array order, a line each; never sorted. Only called with at least one stop.
 std::string stopList(StopSyntax syntax, const GlobalData& gradient) {
     const std::int64_t format = gradient.colorFormatType();
-    if (!colorNotation::isKnown(format)) {
+    if (!colorFormat::isKnown(format)) {
         return std::string{null};
     }
     std::string list = "\n";
@@ -76,16 +76,17 @@ std::string filterDeclaration(const GlobalData& gradient) {
 using Generator = std::string (*)(const GlobalData& gradient);
 
 // In the order of the declarations.
-constexpr std::array<Generator, declarationCount> generators{
-    plainColorDeclaration,
-    gradientDeclaration<dialect::standard>,
-    gradientDeclaration<dialect::moz>,
-    gradientDeclaration<dialect::oldWebKit>,
-    gradientDeclaration<dialect::newWebKit>,
-    gradientDeclaration<dialect::opera>,
-    gradientDeclaration<dialect::ie>,
-    filterDeclaration,
+constexpr std::array generators{
+    Generator{plainColorDeclaration},
+    Generator{gradientDeclaration<dialect::standard>},
+    Generator{gradientDeclaration<dialect::moz>},
+    Generator{gradientDeclaration<dialect::oldWebKit>},
+    Generator{gradientDeclaration<dialect::newWebKit>},
+    Generator{gradientDeclaration<dialect::opera>},
+    Generator{gradientDeclaration<dialect::ie>},
+    Generator{filterDeclaration},
 };
+static_assert(generators.size() == declarationCount);
 
 } // namespace
 

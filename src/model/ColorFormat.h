@@ -1,9 +1,23 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <string_view>
 
-/// The colour-notation codes: how stop colours are written. Any other value may be stored and means none.
+/// The colour notations: how stop colours are written. A notation's code is its place in the table; any other
+/// value may be stored and means none.
 namespace tessaly::colorFormat {
+
+struct Notation {
+    std::string_view title;
+    bool carriesOpacity; ///< the others ignore a stop's opacity, in the code and on the canvas
+};
+
+inline constexpr std::array notations{
+    Notation{"Hexadecimal", false}, Notation{"RGB", false}, Notation{"RGBA", true},
+    Notation{"HSL", false},         Notation{"HSLA", true},
+};
 
 inline constexpr std::int64_t hexadecimal = 0;
 inline constexpr std::int64_t rgb = 1;
@@ -11,9 +25,12 @@ inline constexpr std::int64_t rgba = 2;
 inline constexpr std::int64_t hsl = 3;
 inline constexpr std::int64_t hsla = 4;
 
-/// Whether the notation writes a stop's opacity; the others ignore it, in the code and on the canvas.
+constexpr bool isKnown(std::int64_t code) {
+    return code >= 0 && code < std::ssize(notations);
+}
+
 constexpr bool carriesOpacity(std::int64_t code) {
-    return code == rgba || code == hsla;
+    return isKnown(code) && notations[static_cast<std::size_t>(code)].carriesOpacity;
 }
 
 } // namespace tessaly::colorFormat

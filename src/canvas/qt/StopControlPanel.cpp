@@ -1,11 +1,12 @@
 #include "canvas/qt/StopControlPanel.h"
 
-#include "canvas/ComboBoxItems.h"
+#include "canvas/OrientationItems.h"
 #include "canvas/qt/ColorPickerImageView.h"
 #include "canvas/qt/NumberFieldEdit.h"
 #include "canvas/qt/TitledComboBox.h"
 #include "canvas/qt/ValueStepper.h"
 #include "foundation/qt/ToQString.h"
+#include "model/ColorFormat.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -14,7 +15,7 @@ namespace tessaly {
 namespace {
 
 constexpr int spacing = 8;
-constexpr int columnGap = 24;
+constexpr int columnGap = 16;
 
 /// Where a value stands in the grid, and the key that leads to it with Alt.
 struct Cell {
@@ -104,8 +105,8 @@ void StopControlPanel::addLists(QGridLayout& grid) {
     for (const OrientationItem& item : orientationItems) {
         selectedOrientationComboBox_->addTitle(item.title);
     }
-    for (const std::string_view title : colorFormatItems) {
-        selectedColorFormatComboBox_->addTitle(title);
+    for (const colorFormat::Notation& notation : colorFormat::notations) {
+        selectedColorFormatComboBox_->addTitle(notation.title);
     }
     constexpr int stopBlock = 2 * columnsPerBlock;
     constexpr int listBlock = lastBlock * columnsPerBlock;

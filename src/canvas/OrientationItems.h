@@ -24,8 +24,4 @@ inline constexpr std::array<OrientationItem, 5> orientationItems{{
     {"Radial", orientation::radial},
 }};
 
-/// Titles of the notations, by their code.
-inline constexpr std::array<std::string_view, 5> colorFormatItems{"Hexadecimal", "RGB", "RGBA", "HSL",
-                                                                  "HSLA"};
-
 } // namespace tessaly
