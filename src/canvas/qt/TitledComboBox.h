@@ -14,7 +14,7 @@ class TitledComboBox : public QComboBox, public ComboBox {
     Q_OBJECT
 
   public:
-    explicit TitledComboBox(QWidget* parent = nullptr) : QComboBox{parent} {}
+    explicit TitledComboBox(QWidget* parent = nullptr);
 
     void addTitle(std::string_view title) { addItem(toQString(title)); }
 
