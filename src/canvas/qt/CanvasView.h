@@ -41,6 +41,7 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     QRect accessibleItemRect(int item) const override;
     int currentAccessibleItem() const override;
     void pressAccessibleItem(int item) override;
+    bool accessibleItemsHaveMenu() const override { return true; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -2,6 +2,9 @@
 
 #include "foundation/qt/AccessibleItems.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
+
 namespace tessaly {
 
 AccessibleItem::AccessibleItem(QWidget& widget, AccessibleItems& items, int index)
@@ -60,9 +63,24 @@ void* AccessibleItem::interface_cast(QAccessible::InterfaceType type) {
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
 }
 
+QStringList AccessibleItem::actionNames() const {
+    QStringList names{pressAction()};
+    if (items_.accessibleItemsHaveMenu()) {
+        names << showMenuAction();
+    }
+    return names;
+}
+
 void AccessibleItem::doAction(const QString& name) {
-    if (isValid() && widget_->isEnabled() && name == pressAction()) {
+    if (!isValid() || !widget_->isEnabled()) {
+        return;
+    }
+    if (name == pressAction()) {
         items_.pressAccessibleItem(index_);
+    } else if (name == showMenuAction()) {
+        const QPoint center = items_.accessibleItemRect(index_).center();
+        QContextMenuEvent event{QContextMenuEvent::Other, center, widget_->mapToGlobal(center)};
+        QCoreApplication::sendEvent(widget_, &event);
     }
 }
 

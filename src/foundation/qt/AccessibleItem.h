@@ -9,7 +9,8 @@ namespace tessaly {
 
 class AccessibleItems;
 
-/// One item of a widget that paints its items itself: has a name and a place, and can be pressed.
+/// One item of a widget that paints its items itself: has a name and a place, can be pressed and may have a
+/// context menu.
 class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInterface {
   public:
     /// `items` is the widget itself.
@@ -29,7 +30,7 @@ class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInte
     QAccessible::State state() const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
 
-    QStringList actionNames() const override { return {pressAction()}; }
+    QStringList actionNames() const override;
     void doAction(const QString& name) override;
     QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 

@@ -26,6 +26,9 @@ class AccessibleItems {
     /// The item that is selected and has the keyboard when the widget has it; -1 for none.
     virtual int currentAccessibleItem() const = 0;
     virtual void pressAccessibleItem(int item) = 0;
+
+    /// Whether a context menu opens on an item.
+    virtual bool accessibleItemsHaveMenu() const { return false; }
 };
 
 /// Makes every widget that is an `AccessibleItems` known to assistive tools as a list of its items.

@@ -33,6 +33,7 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     QRect accessibleItemRect(int item) const override;
     int currentAccessibleItem() const override;
     void pressAccessibleItem(int item) override;
+    bool accessibleItemsHaveMenu() const override { return true; }
 
   Q_SIGNALS:
     /// A key moved on to the thumbnail that is there, in this widget's coordinates.
