@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <string>
 #include <utility>
 
@@ -42,10 +43,13 @@ bool MarkerInteraction::addAt(Point point) {
         return false;
     }
     const auto way = static_cast<double>(radial ? place - minColorMarkerPos_ : place);
-    markers_.addColorMarker(Color::black(), way / static_cast<double>(limit - minColorMarkerPos_), 1.0,
-                            ColorMarkers::insertSorted);
-    repaint_();
+    addBlackStop(way / static_cast<double>(limit - minColorMarkerPos_));
     return true;
+}
+
+void MarkerInteraction::addBlackStop(double position) {
+    markers_.addColorMarker(Color::black(), position, 1.0, ColorMarkers::insertSorted);
+    repaint_();
 }
 
 void MarkerInteraction::grab(std::int64_t marker, Point point) {
@@ -103,6 +107,18 @@ void MarkerInteraction::deleteColorMarker() {
         markers_.deleteColorMarker();
         repaint_();
     }
+}
+
+void MarkerInteraction::addBesideSelected() {
+    constexpr double middle = 0.5;
+    const GlobalData& gradient = GlobalData::sharedData();
+    const std::int64_t selected = markers_.selectedColorMarkerIndex();
+    const auto next = gradient.stopAt(selected + 1);
+    const auto neighbour = next ? next : gradient.stopAt(selected - 1);
+    const auto stop = gradient.stopAt(selected);
+    const double position = stop && neighbour ? std::midpoint(stop->position, neighbour->position) : middle;
+    startDrag_ = false;
+    addBlackStop(position);
 }
 
 bool MarkerInteraction::moveSelected(int right, int up, std::int64_t points) {

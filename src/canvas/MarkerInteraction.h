@@ -28,6 +28,10 @@ class MarkerInteraction {
     /// The command of that menu.
     void deleteColorMarker();
 
+    /// Adds a black stop, as a double click does, half-way from the selected one to the next, or to the one
+    /// before where there is no next; a gradient without two such stops gets it in the middle.
+    void addBesideSelected();
+
     /// Moves the selected marker by points along its track, in the direction of a key: {1, 0} is right, {0,
     /// 1} up. False when its track does not run that way.
     bool moveSelected(int right, int up, std::int64_t points);
@@ -40,10 +44,12 @@ class MarkerInteraction {
 
     bool startDrag() const { return startDrag_; }
     std::int64_t minColorMarkerPos() const { return minColorMarkerPos_; }
+    /// 1 when the last drag step went to a greater position, else 0.
     std::int64_t markerDragOrientation() const { return markerDragOrientation_; }
 
   private:
     bool addAt(Point point);
+    void addBlackStop(double position);
     void grab(std::int64_t marker, Point point);
     void moveSelectedTo(double offset);
     static std::int64_t orientation();
@@ -57,8 +63,8 @@ class MarkerInteraction {
     Point startDragCursorPos_;
     std::int64_t startDragImagePosX_ = 0; ///< points along the track when the marker was grabbed
     std::int64_t startDragImagePosY_ = 0;
-    std::int64_t minColorMarkerPos_ = 0;     ///< deliberately never lowered again: see addAt
-    std::int64_t markerDragOrientation_ = 0; ///< 1 when the last drag step went to a greater position
+    std::int64_t minColorMarkerPos_ = 0; ///< deliberately never lowered again: see addAt
+    std::int64_t markerDragOrientation_ = 0;
 };
 
 } // namespace tessaly

@@ -150,6 +150,9 @@ void CanvasView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Up:
         handled = interaction.moveSelected(0, 1, points);
         break;
+    case Qt::Key_Insert:
+        interaction.addBesideSelected();
+        break;
     case Qt::Key_Delete:
         interaction.deleteColorMarker();
         break;
