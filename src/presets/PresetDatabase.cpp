@@ -1,6 +1,7 @@
 #include "presets/PresetDatabase.h"
 
 #include "foundation/DiagnosticLog.h"
+#include "presets/PresetTable.h"
 #include "presets/PrivateFile.h"
 #include "presets/SqliteBackup.h"
 
@@ -78,6 +79,7 @@ void PresetDatabase::restore() {
     const SqliteResult result =
         lock.isHeldByOther() ? SqliteResult{SQLITE_BUSY, "another copy is saving"} : copyBack(copy);
     if (result.code == SQLITE_OK && makeDurable()) {
+        // cppcheck-suppress unreadVariable ; closes the file
         copy = {};
         copy_.remove();
         DiagnosticLog::write("The last save did not finish: presets restored");
@@ -133,7 +135,11 @@ void PresetDatabase::beginReading() {
 }
 
 void PresetDatabase::endReading(bool complete) {
-    allKnown_ = complete && !copyReader_.isOpen();
+    // A view would be read and could never be saved to.
+    const std::string tables =
+        std::string{"select count(*) from sqlite_master where type='table' and name in ('"} +
+        presetTable::main + "', '" + presetTable::additional + "')";
+    allKnown_ = complete && !copyReader_.isOpen() && connection_.value(tables) == "2";
     copyReader_ = {};
 }
 

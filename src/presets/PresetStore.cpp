@@ -6,6 +6,7 @@
 #include "presets/SqliteStatement.h"
 
 #include <sqlite3.h>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -198,10 +199,12 @@ bool PresetStore::executeSQL(const std::string& query, std::vector<std::vector<s
     rowData.clear();
     SqliteStatement statement = SqliteStatement::prepareFirstGeneration(database_.connection(), query);
     while (statement.step() == SQLITE_ROW) {
-        std::vector<std::string>& row = rowData.emplace_back();
+        std::vector<std::string> row;
+        row.reserve(static_cast<std::size_t>(statement.columnCount()));
         for (int column = 0; column < statement.columnCount(); ++column) {
             row.push_back(statement.text(column));
         }
+        rowData.push_back(std::move(row));
     }
     return true;
 }

@@ -47,10 +47,10 @@ void SqliteConnection::Closer::operator()(sqlite3* handle) const {
 }
 
 SqliteConnection SqliteConnection::open(const std::string& name, int flags) {
-    sqlite3* handle = nullptr;
-    const int code = sqlite3_open_v2(name.c_str(), &handle, flags, nullptr);
+    sqlite3* opened = nullptr;
+    const int code = sqlite3_open_v2(name.c_str(), &opened, flags, nullptr);
     SqliteConnection connection;
-    connection.handle_.reset(handle); // SQLite hands one out on failure too, to be closed
+    connection.handle_.reset(opened); // SQLite hands one out on failure too, to be closed
     return code == SQLITE_OK ? std::move(connection) : SqliteConnection{};
 }
 
