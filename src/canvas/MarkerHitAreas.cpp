@@ -1,6 +1,7 @@
 #include "canvas/MarkerHitAreas.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tessaly {
 namespace {
@@ -16,9 +17,7 @@ bool ovalContains(const Rect& frame, Point point) {
 
 void MarkerHitAreas::rebuild(const CanvasScene& scene) {
     colorMarkerPath_.clear();
-    for (const CanvasScene::Marker& marker : scene.markers) {
-        colorMarkerPath_.push_back(marker.frame);
-    }
+    std::ranges::transform(scene.markers, std::back_inserter(colorMarkerPath_), &CanvasScene::Marker::frame);
 }
 
 std::optional<std::int64_t> MarkerHitAreas::markerAt(Point point) const {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace tessaly {
 namespace {
@@ -25,10 +26,10 @@ void TabBarLayout::addTab(Size textSize) {
 }
 
 void TabBarLayout::layOutHitRectangles(double frameWidth) {
-    totalWidth_ = truncated(gap) * (static_cast<std::int64_t>(textSizes_.size()) - 1);
-    for (const Size& size : textSizes_) {
-        totalWidth_ = widened(totalWidth_, size.width);
-    }
+    const std::int64_t gaps = truncated(gap) * (static_cast<std::int64_t>(textSizes_.size()) - 1);
+    totalWidth_ =
+        std::accumulate(textSizes_.begin(), textSizes_.end(), gaps,
+                        [](std::int64_t width, const Size& size) { return widened(width, size.width); });
     hitRectangles_.clear();
     double x = (frameWidth - static_cast<double>(totalWidth_)) / 2;
     const std::int64_t halfHeight = textHeight_ / 2; // a whole number

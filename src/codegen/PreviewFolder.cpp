@@ -17,13 +17,13 @@ std::optional<PreviewFolder> PreviewFolder::create(const std::filesystem::path& 
     }
     // Making a folder fails where anything of that name exists, which is the test and the claim in one step.
     for (int number = 0;; ++number) {
-        std::filesystem::path path = temporaryDirectory / ("WebFolder" + std::to_string(number));
-        if (::mkdir(path.c_str(), S_IRWXU) == 0) {
-            return PreviewFolder{std::move(path)};
+        std::filesystem::path folder = temporaryDirectory / ("WebFolder" + std::to_string(number));
+        if (::mkdir(folder.c_str(), S_IRWXU) == 0) {
+            return PreviewFolder{std::move(folder)};
         }
         if (errno != EEXIST) {
             const std::error_code error{errno, std::generic_category()};
-            DiagnosticLog::write("No preview folder: " + path.native() + ": " + error.message());
+            DiagnosticLog::write("No preview folder: " + folder.native() + ": " + error.message());
             return std::nullopt;
         }
     }

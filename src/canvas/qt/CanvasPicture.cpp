@@ -52,13 +52,13 @@ void CanvasPicture::paint(const CanvasScene& scene) {
 }
 
 void CanvasPicture::createColorMarker() {
-    QImage image = transparentImage(CanvasGeometry::colorMarkerSize, devicePixelRatio_);
-    QPainter painter{&image};
+    QImage marker = transparentImage(CanvasGeometry::colorMarkerSize, devicePixelRatio_);
+    QPainter painter{&marker};
     painter.setRenderHint(QPainter::Antialiasing);
     drawOval(painter, {1, 1, 18, 18}, Qt::white);
     drawOval(painter, {6, 6, 8, 8}, QColor::fromRgbF(0.5F, 0.5F, 0.5F));
     painter.end();
-    colorMarkerImage_ = QPixmap::fromImage(image);
+    colorMarkerImage_ = QPixmap::fromImage(marker);
 }
 
 void CanvasPicture::paintScene() {
@@ -74,14 +74,14 @@ void CanvasPicture::paintScene() {
 }
 
 void CanvasPicture::paintGradient() {
-    QImage& image = backgroundOffscreenRep_;
-    image.fill(controlColor_);
+    QImage& picture = backgroundOffscreenRep_;
+    picture.fill(controlColor_);
     if (scene_->stops.empty()) {
         return;
     }
-    auto* const pixels = reinterpret_cast<std::uint32_t*>(image.bits());
-    const auto count = static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
-    const PixelBuffer buffer{std::span{pixels, count}, image.width(), image.height(), devicePixelRatio_,
+    auto* const pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
+    const auto count = static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
+    const PixelBuffer buffer{std::span{pixels, count}, picture.width(), picture.height(), devicePixelRatio_,
                              geometry_.viewSize().height};
     const GradientRamp ramp{scene_->stops, *fromQColor(controlColor_).calibratedRGB()};
     if (scene_->orientation == orientation::radial) {

@@ -60,11 +60,11 @@ void NumberFieldEdit::setText(std::string_view text) {
 QSize NumberFieldEdit::sizeHint() const {
     QStyleOptionFrame option;
     initStyleOption(&option);
-    const int text = fontMetrics().horizontalAdvance(QString(widestText_, u'8'));
+    const int textWidth = fontMetrics().horizontalAdvance(QString(widestText_, u'8'));
     const int height = QLineEdit::sizeHint().height();
     constexpr int textMargins = 8;
     return style()->sizeFromContents(QStyle::CT_LineEdit, &option,
-                                     {text + textMargins, height - 2 * option.lineWidth}, this);
+                                     {textWidth + textMargins, height - 2 * option.lineWidth}, this);
 }
 
 void NumberFieldEdit::keyPressEvent(QKeyEvent* event) {

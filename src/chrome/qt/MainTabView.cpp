@@ -97,14 +97,14 @@ void MainTabView::paintEvent(QPaintEvent* /*event*/) {
     if (tabs_.isEmpty()) {
         return;
     }
-    const DrawnTabs tabs = layout_.drawn(frameSize(), selectIndex_);
-    for (std::size_t i = 0; i < tabs.titles.size(); ++i) {
-        drawTab(painter, i, tabs);
+    const DrawnTabs drawn = layout_.drawn(frameSize(), selectIndex_);
+    for (std::size_t i = 0; i < drawn.titles.size(); ++i) {
+        drawTab(painter, i, drawn);
     }
-    trackingPath_ = fromLayout(tabs.trackingPath);
+    trackingPath_ = fromLayout(drawn.trackingPath);
     updateTrackingAreas();
     if (hasFocus()) {
-        drawFocusFrame(painter, tabs);
+        drawFocusFrame(painter, drawn);
     }
 }
 

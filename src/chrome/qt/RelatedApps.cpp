@@ -10,7 +10,9 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <any>
+#include <iterator>
 
 namespace tessaly {
 namespace {
@@ -19,9 +21,8 @@ constexpr int space = 8;
 
 QStringList tabTitles() {
     QStringList titles;
-    for (const RelatedToolGroup& group : relatedTools) {
-        titles.push_back(toQString(group.title));
-    }
+    std::ranges::transform(relatedTools, std::back_inserter(titles),
+                           [](const RelatedToolGroup& group) { return toQString(group.title); });
     return titles;
 }
 

@@ -101,9 +101,9 @@ void CustomTextView::setVerticalRuler(QWidget* ruler, int width) {
 
 void CustomTextView::placeRuler() {
     if (ruler_ != nullptr) {
-        const QRect text = viewport()->geometry();
+        const QRect area = viewport()->geometry();
         const int width = viewportMargins().left();
-        ruler_->setGeometry(text.left() - width, text.top(), width, text.height());
+        ruler_->setGeometry(area.left() - width, area.top(), width, area.height());
     }
 }
 
