@@ -43,6 +43,12 @@ std::size_t TextEdit::mapped(std::size_t offset) const {
     return offset - removed + added;
 }
 
+TextEdit TextEdit::followedBy(const TextEdit& next) const {
+    const std::size_t start = std::min(position, next.position);
+    const std::size_t end = std::max(position + added, next.position + next.removed); // between the two
+    return {start, end - added + removed - start, end - next.removed + next.added - start};
+}
+
 TextEdit TextEdit::between(std::u16string_view before, std::u16string_view after) {
     if (before == after) {
         return {};

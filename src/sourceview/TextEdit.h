@@ -17,6 +17,9 @@ struct TextEdit {
     /// as far as it reaches.
     std::size_t mapped(std::size_t offset) const;
 
+    /// This edit and the one that came after it, as one.
+    TextEdit followedBy(const TextEdit& next) const;
+
     /// What turns `before` into `after`, without the beginning and end that both have. Never cuts a
     /// surrogate pair in two.
     static TextEdit between(std::u16string_view before, std::u16string_view after);

@@ -116,13 +116,13 @@ void CustomTextView::noteChange(int position, int removed, int added) {
     longLines_.textEdited(text(), edit);
     setWrapping(!longLines_.hasLongLine());
     if (!writing_) {
-        unreported_.push_back(edit);
+        unreported_ = unreported_ ? unreported_->followedBy(edit) : edit;
     }
 }
 
 void CustomTextView::reportEdits() {
-    for (const TextEdit& edit : std::exchange(unreported_, {})) {
-        Q_EMIT userEdited(edit.position, edit.removed, edit.added);
+    if (const auto edit = std::exchange(unreported_, std::nullopt)) {
+        Q_EMIT userEdited(edit->position, edit->removed, edit->added);
     }
 }
 

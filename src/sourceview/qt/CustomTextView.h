@@ -8,8 +8,8 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <cstdint>
+#include <optional>
 #include <string_view>
-#include <vector>
 
 namespace tessaly {
 
@@ -104,8 +104,8 @@ class CustomTextView : public QPlainTextEdit {
     QColor textViewSelectColorBorder_;
     TextMirror mirror_;
     LongLineWatch longLines_;
-    std::vector<TextEdit> unreported_;
-    bool writing_ = false; // the program is changing the text
+    std::optional<TextEdit> unreported_; ///< all edits since the last report, as one
+    bool writing_ = false;               // the program is changing the text
     QPointer<QWidget> ruler_;
 };
 
