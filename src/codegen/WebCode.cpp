@@ -7,6 +7,7 @@
 #include "foundation/Utf8.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <span>
 #include <utility>
@@ -24,12 +25,18 @@ TextRange startingFrom(TextRange range, std::size_t location) {
     return {start, std::max(range.end(), start) - start};
 }
 
-// Where `wanted` stands: at `likely`, or else at the first place from `from` on; nowhere is an empty range.
+// Where `wanted` stands, as near to `likely` as can be and not before `from`; nowhere is an empty range. The
+// user may have written the same elsewhere.
 TextRange find(const std::u16string& wanted, std::u16string_view text, std::size_t likely, std::size_t from) {
-    const bool there = likely <= text.size() && text.substr(likely).starts_with(wanted);
-    const std::size_t found = there ? likely : text.find(wanted, from);
-    return found == std::u16string_view::npos ? TextRange{} : TextRange{found, wanted.size()};
+    constexpr std::size_t npos = std::u16string_view::npos;
+    const std::size_t after = text.find(wanted, likely);
+    const std::size_t before = text.rfind(wanted, likely);
+    const bool isBefore = before != npos && before >= from && likely - before < after - likely;
+    const std::size_t found = isBefore ? before : after;
+    return found == npos ? TextRange{} : TextRange{found, wanted.size()};
 }
+
+constexpr std::hash<std::u16string> hashOf;
 
 } // namespace
 
@@ -77,6 +84,7 @@ void WebCode::insertCSS3Code() {
     }
     css3TextView_.insertText("}\n");
     endInsertion(css3TextView_);
+    forgetEdits();
 }
 
 void WebCode::createHTMLIndexFile() {
@@ -95,6 +103,7 @@ void WebCode::updateBackgroundColorDataUpdatedNotification(const Notification& /
     for (const Declaration declaration : allDeclarations) {
         doUpdate(declaration);
     }
+    forgetEdits();
     writeFile();
 }
 
@@ -110,16 +119,28 @@ void WebCode::doUpdate(Declaration declaration) {
 }
 
 void WebCode::stylesheetEdited(std::size_t position, std::size_t removed, std::size_t added) {
+    const std::u16string text = css3TextView_.text();
     const DeclarationRanges before = ranges_;
     ranges_.followEdit(position, removed, added);
+    const auto [known, isNew] = rangesOfTexts_.try_emplace(hashOf(text), ranges_);
+    if (!isNew) {
+        ranges_ = known->second; // an undo or a redo has brought the text back
+        return;
+    }
     if (added > 0) {
-        findDeclarations(before, {position, removed});
+        findDeclarations(before, {position, removed}, text);
+        known->second = ranges_;
     }
 }
 
-// An undo brings back what was deleted, and text dragged elsewhere is reported as one edit of all between: a
+void WebCode::forgetEdits() {
+    rangesOfTexts_.clear();
+    rangesOfTexts_.emplace(hashOf(css3TextView_.text()), ranges_);
+}
+
+// Text dragged elsewhere is reported as one edit of all between, and several undone steps may be: a
 // declaration that the edit touched and that stands unchanged nearby keeps its place there.
-void WebCode::findDeclarations(const DeclarationRanges& before, TextRange edited) {
+void WebCode::findDeclarations(const DeclarationRanges& before, TextRange edited, std::u16string_view text) {
     const auto touched = [&](Declaration declaration) {
         const TextRange& old = before[declaration];
         return old.location <= edited.end() && edited.location <= old.end();
@@ -129,14 +150,13 @@ void WebCode::findDeclarations(const DeclarationRanges& before, TextRange edited
     if (first == last) {
         return;
     }
-    const std::u16string text = css3TextView_.text();
     const std::size_t limit = last == allDeclarations.end() ? text.size() : ranges_[*last].location;
     std::size_t from = first == allDeclarations.begin() ? 0 : ranges_[*std::prev(first)].end();
     for (const Declaration declaration : std::span{first, last}) {
         const std::string& own = declarations_.text(declaration);
         const TextRange followed = startingFrom(ranges_[declaration], from);
-        const TextRange found = find({own.begin(), own.end()}, std::u16string_view{text}.substr(0, limit),
-                                     followed.location, from);
+        const TextRange found =
+            find({own.begin(), own.end()}, text.substr(0, limit), followed.location, from);
         ranges_.place(declaration, found.length > 0 ? found : followed);
         from = ranges_[declaration].end();
     }

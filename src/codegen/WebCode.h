@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 
 namespace tessaly {
 
@@ -41,7 +43,7 @@ class WebCode {
     void doUpdateBackgroundColorMSFilterDataUpdatedNotification() { doUpdate(Declaration::MSFilter); }
 
     /// The user, not this object, replaced `removed` units of the stylesheet text at `position` by `added`
-    /// others.
+    /// others. To be told of before the text changes again.
     void stylesheetEdited(std::size_t position, std::size_t removed, std::size_t added);
 
     void writeFile();
@@ -62,7 +64,8 @@ class WebCode {
 
   private:
     void doUpdate(Declaration declaration);
-    void findDeclarations(const DeclarationRanges& before, TextRange edited);
+    void findDeclarations(const DeclarationRanges& before, TextRange edited, std::u16string_view text);
+    void forgetEdits();
     void beginInsertion(CodeText& view);
     void endInsertion(CodeText& view);
 
@@ -73,6 +76,8 @@ class WebCode {
     std::optional<PreviewFolder> folder_;
     GradientDeclarations declarations_;
     DeclarationRanges ranges_;
+    /// The ranges in every text since the last update, by the text's hash: an undo brings back both.
+    std::unordered_map<std::size_t, DeclarationRanges> rangesOfTexts_;
     bool shouldChangeTextInRange_ = true;
     bool needToWriteCSSFile_ = false;
     bool needToWriteHTMLFile_ = false;
