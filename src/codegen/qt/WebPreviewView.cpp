@@ -26,6 +26,7 @@ void WebPreviewView::prepareProcess() {
 WebPreviewView::WebPreviewView(QWidget* parent) : QWidget{parent} {
     auto* const layout = new QVBoxLayout{this};
     layout->setContentsMargins(0, 0, 0, 0);
+    setAccessibleName(tr("Web preview"));
     constexpr int pause = 200; // milliseconds
     makeAgain_.setInterval(pause);
     makeAgain_.setSingleShot(true);
@@ -91,7 +92,6 @@ void WebPreviewView::makeView() {
     view_->setAttribute(Qt::WA_QuitOnClose, false);
     view_->setPage(page_.get());
     view_->setContextMenuPolicy(Qt::NoContextMenu);
-    view_->setAccessibleName(tr("Web preview"));
     loading_ = false;
     reloadAgain_ = false;
     if (url_.isValid()) {
