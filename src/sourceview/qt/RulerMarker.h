@@ -13,7 +13,8 @@ class VerticalRuler;
 /// An image at a place of a ruler.
 class RulerMarker {
   public:
-    /// `imageOrigin` is the point of the image that comes to the marker's place. The ruler is not owned.
+    /// `location` runs along the ruler, in points of the text that it is beside, downwards. `imageOrigin` is
+    /// the point of the image that comes there, at the ruler's left edge. The ruler is not owned.
     RulerMarker(VerticalRuler* ruler, double location, std::shared_ptr<RulerImage> image, QPointF imageOrigin)
         : ruler_{ruler}, markerLocation_{location}, image_{std::move(image)}, imageOrigin_{imageOrigin} {}
     virtual ~RulerMarker() = default;

@@ -25,7 +25,7 @@ class VerticalRuler : public QWidget {
 
     CustomTextView* scrollView() const { return scrollView_; }
 
-    QWidget* clientView() const { return clientView_; }
+    QWidget* clientView() const { return clientView_.data(); }
     virtual void setClientView(QWidget* client) { clientView_ = client; }
 
     /// In points.
@@ -33,13 +33,20 @@ class VerticalRuler : public QWidget {
     virtual double requiredThickness() const = 0;
     virtual void setRuleThickness(double thickness);
 
-    /// The markers that have no place of their own in the ruler.
+    /// The markers at a location along the ruler, not those that a kind of ruler places itself.
     const std::vector<MarkerPointer>& markers() const { return markers_; }
     virtual void setMarkers(const std::vector<MarkerPointer>& markers);
-    virtual void addMarker(const MarkerPointer& marker) { markers_.push_back(marker); }
-    virtual void removeMarker(const MarkerPointer& marker) { std::erase(markers_, marker); }
+    virtual void addMarker(const MarkerPointer& marker);
+    virtual void removeMarker(const MarkerPointer& marker);
+
+  protected:
+    /// Draws the ruler, and the markers over it.
+    void paintEvent(QPaintEvent* event) override;
+    virtual void drawHashMarksAndLabelsInRect(QPainter& painter) const = 0;
 
   private:
+    void drawMarkers(QPainter& painter) const;
+
     CustomTextView* scrollView_;
     QPointer<QWidget> clientView_;
     double ruleThickness_ = 0.0;

@@ -147,12 +147,6 @@ void WendleLineNumberView::removeMarker(const MarkerPointer& marker) {
     }
 }
 
-void WendleLineNumberView::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter{this};
-    drawBackground(painter);
-    drawHashMarksAndLabelsInRect(painter);
-}
-
 void WendleLineNumberView::drawBackground(QPainter& painter) const {
     if (!backgroundColor_) {
         return;
@@ -167,6 +161,7 @@ void WendleLineNumberView::drawBackground(QPainter& painter) const {
 }
 
 void WendleLineNumberView::drawHashMarksAndLabelsInRect(QPainter& painter) const {
+    drawBackground(painter);
     const CodeTextLayout layout = textLayout();
     const auto isMarked = [this](std::size_t line) {
         return linesToMarkers_.contains(static_cast<std::int64_t>(line));

@@ -73,14 +73,13 @@ class WendleLineNumberView : public VerticalRuler {
     void initWithCoder(const QVariantMap& archive);
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
+    void drawHashMarksAndLabelsInRect(QPainter& painter) const override;
 
   private:
     CustomTextView* textView() const;
     CodeTextLayout textLayout() const { return {textView(), textAttributes().font}; }
     void calculateLines() const;
     void drawBackground(QPainter& painter) const;
-    void drawHashMarksAndLabelsInRect(QPainter& painter) const;
     void drawMarker(QPainter& painter, const GutterLabel& label) const;
     void redrawWithText(const QRect& changed, int scrolled);
 
