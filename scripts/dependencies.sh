@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the project needs and the machine lacks. The one place that names Debian packages.
 #
-#   scripts/dependencies.sh GROUP...    groups: core, build, display, screenshot, test, bench, check
+#   scripts/dependencies.sh GROUP...    groups: core, build, display, screenshot, test, package, icons, bench, check
 set -euo pipefail
 
 declare -A packages=(
@@ -10,9 +10,12 @@ declare -A packages=(
              fonts-dejavu-core"
     [display]="xvfb xauth"
     [screenshot]="xdotool imagemagick"
-    [test]="libgtest-dev libgmock-dev locales xvfb xauth xdotool sqlite3"
-    [bench]="libbenchmark-dev sqlite3"
-    [check]="clang clang-format clang-tidy libclang-rt-14-dev"
+    [test]="libgtest-dev libgmock-dev locales xvfb xauth xdotool sqlite3
+            openbox wmctrl xclip lintian desktop-file-utils appstream mandoc"
+    [package]="dpkg-dev file"
+    [icons]="librsvg2-bin"
+    [bench]="libbenchmark-dev sqlite3 python3"
+    [check]="clang clang-format clang-tidy cppcheck libclang-rt-14-dev llvm"
 )
 
 missing=()

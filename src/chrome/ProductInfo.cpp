@@ -10,4 +10,8 @@ std::string_view homepage() {
     return TESSALY_HOMEPAGE_URL;
 }
 
+std::string_view desktopId() {
+    return TESSALY_DESKTOP_ID;
+}
+
 } // namespace tessaly::product

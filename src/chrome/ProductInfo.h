@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// What the program says about itself; version and homepage are set by the build.
+/// What the program says about itself; what is no constant here is set by the build.
 namespace tessaly::product {
 
 inline constexpr std::string_view name = "Tessaly";
@@ -11,5 +11,8 @@ inline constexpr std::string_view purpose =
 
 std::string_view version();
 std::string_view homepage();
+
+/// The name, without its ending, of the file that describes the program to the desktop.
+std::string_view desktopId();
 
 } // namespace tessaly::product

@@ -2,12 +2,11 @@
 
 #include "chrome/LinkAddress.h"
 #include "chrome/ProductInfo.h"
+#include "chrome/qt/ProgramIcon.h"
 #include "chrome/qt/WebLabel.h"
 #include "foundation/qt/ToQString.h"
 
-#include <QApplication>
 #include <QFontInfo>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -47,7 +46,7 @@ About::About(QWidget* mainWindow) : QDialog{mainWindow} {
     setWindowModality(Qt::WindowModal);
 
     auto* const icon = centred(new QLabel);
-    icon->setPixmap(QApplication::windowIcon().pixmap({iconSize, iconSize}, devicePixelRatioF()));
+    icon->setPixmap(programIcon().pixmap({iconSize, iconSize}, devicePixelRatioF()));
     auto* const link = new WebLabel{toQString(LinkAddress::labelText(product::homepage()))};
     auto* const close = new QPushButton{tr("&Close")};
     close->setDefault(true);

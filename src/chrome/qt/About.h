@@ -10,7 +10,6 @@ class About : public QDialog {
     Q_OBJECT
 
   public:
-    /// Shows the application's window icon as it is now.
     explicit About(QWidget* mainWindow = nullptr);
 
     void closeWindow();
