@@ -1,11 +1,10 @@
 #include "app/AppDelegate.h"
-#include "app/MainWindow.h"
-#include "app/Presets.h"
+#include "app/CommandLine.h"
 #include "app/QuitOnSignal.h"
 #include "app/SingleInstance.h"
-#include "app/Tessaly.h"
-#include "canvas/qt/CanvasView.h"
+#include "app/WiredWindow.h"
 #include "chrome/ProductInfo.h"
+#include "chrome/qt/ProgramIcon.h"
 #include "codegen/qt/WebPreviewView.h"
 #include "foundation/qt/ToQString.h"
 
@@ -41,10 +40,13 @@ void showAgain(QWidget& window) {
 int main(int argc, char** argv) {
     using namespace tessaly;
     std::signal(SIGPIPE, SIG_IGN); // a log that nobody reads any more must not end the program
-    WebPreviewView::prepareProcess();
-    QApplication application{argc, argv};
     QApplication::setApplicationName(toQString(product::name));
     QApplication::setApplicationVersion(toQString(product::version()));
+    answerCommandLine(argc, argv);
+    WebPreviewView::prepareProcess();
+    QApplication application{argc, argv};
+    QApplication::setDesktopFileName(toQString(product::desktopId()));
+    QApplication::setWindowIcon(programIcon());
     const SingleInstance instance{applicationSupport()};
     if (!instance.isFirst()) {
         return 0;
@@ -52,12 +54,8 @@ int main(int argc, char** argv) {
     AppDelegate delegate{application};
     const QuitOnSignal quitOnSignal;
 
-    MainWindow mainWindow;
-    Tessaly tessaly{mainWindow, temporaryFolder().toStdString()};
-    CanvasView& canvas = mainWindow.canvasView();
-    Presets presets{mainWindow.presetPanel(), canvas.editor(), applicationSupport().toStdString()};
-    canvas.awakeFromNib(presets.steps());
-    tessaly.awakeFromNib();
+    WiredWindow wired{temporaryFolder().toStdString(), applicationSupport().toStdString()};
+    MainWindow& mainWindow = wired.mainWindow();
     QObject::connect(&instance, &SingleInstance::startedAgain, &mainWindow, [&] { showAgain(mainWindow); });
     delegate.setWindow(&mainWindow);
     mainWindow.show();
