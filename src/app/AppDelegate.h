@@ -16,7 +16,7 @@ class AppDelegate : public QObject {
     explicit AppDelegate(QApplication& application);
 
     /// The main window, while there is one.
-    QWidget* window() const { return window_; }
+    QWidget* window() const { return window_.data(); }
     void setWindow(QWidget* window) { window_ = window; }
 
     /// Nothing is left to do at either moment: the window sets itself up, and its parts clean up behind

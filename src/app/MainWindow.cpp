@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -22,6 +23,7 @@ namespace {
 constexpr int margin = 16;
 constexpr int spacing = 8;
 constexpr QSize startSize{980, 760};
+constexpr QSize frame{16, 40}; // what a desktop's window borders and title take at most
 
 } // namespace
 
@@ -43,9 +45,14 @@ MainWindow::MainWindow(QWidget* parent)
     layOut();
     auto* const quit = new QAction{this};
     quit->setShortcut(QKeySequence{Qt::CTRL | Qt::Key_Q});
+    quit->setShortcutContext(Qt::ApplicationShortcut); // in the colour dialog too
     connect(quit, &QAction::triggered, this, &QWidget::close);
     addAction(quit);
-    resize(startSize);
+    resize(startSize.boundedTo(room()));
+}
+
+QSize MainWindow::room() const {
+    return screen()->availableSize() - frame;
 }
 
 void MainWindow::layOut() {
@@ -55,7 +62,7 @@ void MainWindow::layOut() {
     editor->addWidget(stopControlPanel_);
     editor->addStretch();
 
-    auto* const buttons = new QHBoxLayout;
+    auto* const buttons = new QBoxLayout{QBoxLayout::LeftToRight};
     buttons->setSpacing(spacing);
     buttons->addStretch();
     buttons->addWidget(aboutButton_);
@@ -92,6 +99,9 @@ void MainWindow::layOut() {
     whole->setSpacing(margin);
     whole->addLayout(top);
     whole->addLayout(code, 1);
+    if (minimumSizeHint().width() > room().width()) { // a small screen and a large font
+        buttons->setDirection(QBoxLayout::TopToBottom);
+    }
 }
 
 } // namespace tessaly

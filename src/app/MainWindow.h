@@ -37,6 +37,7 @@ class MainWindow : public QWidget {
 
   private:
     void layOut();
+    QSize room() const; ///< that the screen has for the window
 
     StopControlPanel* stopControlPanel_;
     CanvasView* canvasView_;
