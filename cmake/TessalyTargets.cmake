@@ -7,7 +7,11 @@ target_compile_options(tessaly_options INTERFACE
 if(TESSALY_SANITIZE)
     target_compile_options(tessaly_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_compile_definitions(tessaly_options INTERFACE _GLIBCXX_ASSERTIONS) # an index past the end within the capacity
     target_link_options(tessaly_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(TESSALY_FUZZ)
+    target_compile_options(tessaly_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # tessaly_library(<room> SOURCES ... [LINK ...]): a core library, tessaly_<room>. It never sees Qt.
