@@ -42,8 +42,6 @@ class MarkerInteraction {
     /// Selects the stop so many places on; without a selected stop the first, or the last when going back.
     bool selectNeighbour(std::int64_t places);
 
-    bool startDrag() const { return startDrag_; }
-    std::int64_t minColorMarkerPos() const { return minColorMarkerPos_; }
     /// 1 when the last drag step went to a greater position, else 0.
     std::int64_t markerDragOrientation() const { return markerDragOrientation_; }
 

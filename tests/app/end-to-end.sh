@@ -4,50 +4,11 @@
 set -euo pipefail
 program=$1
 
-work=$(mktemp -d)
-export TMPDIR=$work/tmp XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work/run
-mkdir -m 700 "$TMPDIR" "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR"
-styles=$TMPDIR/WebFolder0/styles.css
-trap 'kill -9 "$pid" 2>/dev/null || true; rm -rf "$work"' EXIT
-
-fail() {
-    echo "FAILED: $1"
-    cat "$work/log" "$styles" 2>/dev/null || true
-    exit 1
-}
-
-# Waits up to ten seconds for a command to succeed.
-eventually() {
-    for _ in $(seq 100); do
-        "$@" >/dev/null 2>&1 && return
-        sleep 0.1
-    done
-    fail "never came true: $*"
-}
-expect() {
-    eventually grep -qF -- "$1" "$styles"
-}
-at() {
-    xdotool mousemove --window "$window" "$1" "$2"
-}
-begin() {
-    "$program" 2>"$work/log" &
-    pid=$!
-    window=$(timeout 30 xdotool search --sync --onlyvisible --pid "$pid" --name '^Tessaly$' | head -n 1)
-    expect '#ffffff 100%);'
-}
-finish() {
-    xdotool key ctrl+q
-    local status=0
-    wait "$pid" || status=$?
-    [ "$status" -eq 0 ] || fail "the program ended with status $status"
-    [ -z "$(ls "$TMPDIR")" ] || fail "left behind: $(ls "$TMPDIR")"
-}
-database() {
-    sqlite3 "$XDG_DATA_HOME/Tessaly/localDB.sqlite3" "$1"
-}
+. "$(dirname "$0")/../support/program.sh"
 
 begin
+eval "$(xdotool getwindowgeometry --shell "$window")"
+[ "$HEIGHT" -le 680 ] || fail "the window is higher than the screen"
 timeout 10 "$program" 2>"$work/second" || fail "a second start did not end"
 [ ! -e "$TMPDIR/WebFolder1" ] || fail "a second copy went to work"
 at 620 188 && xdotool mousedown 1 # the white marker, at the right end of the strip
@@ -58,11 +19,16 @@ expect '#000000 25%,'
 at 81 242 && xdotool click --repeat 3 --delay 60 1 && xdotool type 255 && xdotool key Return
 expect '#ff0000 25%,'
 
-at 500 700 && xdotool click 1 && xdotool key ctrl+Home && xdotool type 'a' # into the stylesheet
-for tab in 450 405 515; do # "HTML", "CSS 3", "Web Preview"
-    at "$tab" 355 && xdotool click 1
-    sleep 1
-done
+at 500 600 && xdotool click 1 && xdotool key ctrl+Home && xdotool type 'a' # into the stylesheet
+copied() {
+    xclip -out -selection clipboard | grep -qF "$1"
+}
+at 425 355 && xdotool click 1 && at 923 355 && xdotool click 1 # "HTML", "Copy"
+eventually copied '<!DOCTYPE html>'
+at 375 355 && xdotool click 1 && at 923 355 && xdotool click 1 # "CSS 3", "Copy"
+eventually copied 'a.gradient {'
+at 496 355 && xdotool click 1 # "Web Preview"
+sleep 1
 at 182 188 && xdotool mousedown 1
 at 328 100 && xdotool mouseup 1
 expect '#ff0000 50%);'
@@ -77,7 +43,7 @@ rows_are_stored() {
     [ "$(database 'select * from MainTable; select * from AdditionalTable')" = "$stored" ]
 }
 eventually rows_are_stored
-finish
+finish wmctrl -i -c "$window"
 
 begin
 at 730 82 && xdotool click 1 # the thumbnail
@@ -88,5 +54,5 @@ none_is_stored() {
     [ "$(database 'select count(*) from MainTable')" = 0 ]
 }
 eventually none_is_stored
-finish
+finish xdotool key ctrl+q
 echo "ok"

@@ -1,11 +1,10 @@
 #include "canvas/GradientEditor.h"
 
+#include "foundation/NumberText.h"
 #include "support/FakeControls.h"
-#include "support/Gradients.h"
 #include "support/LogCapture.h"
 #include "support/NoPresets.h"
 
-#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
@@ -14,31 +13,25 @@ namespace tessaly {
 namespace {
 
 using Positions = std::vector<double>;
+using Counts = std::array<int, 3>;
 
 class GradientEditorTest : public testing::Test {
   protected:
     GradientEditorTest() {
         data() = GlobalData{};
         editor.awakeFromNib(noPresets);
-        posts = 0;
-        surface = {};
+        takeCounts();
     }
 
     static GlobalData& data() { return GlobalData::sharedData(); }
     MarkerInteraction& mouse() { return editor.interaction(); }
 
-    void press(Point point, int clicks = 1) { mouse().mouseDown(point, clicks); }
-    void drag(Point from, Point to) {
-        press(from);
-        mouse().mouseDragged(to);
-        mouse().mouseUp();
-    }
     void type(StopValue value, const std::string& text) {
-        controls.field(value).shown = text;
+        controls.fields[static_cast<std::size_t>(value)].shown = text;
         editor.controls().updateTextFieldValue(value);
     }
     void step(StopValue value, double to) {
-        controls.stepper(value).setValue(to);
+        controls.steppers[static_cast<std::size_t>(value)].setValue(to);
         editor.controls().updateStepperValue(value);
     }
     void chooseOrientation(std::int64_t item) {
@@ -49,297 +42,224 @@ class GradientEditorTest : public testing::Test {
         controls.colorFormat.selected = item;
         editor.controls().updateColorFormatComboBoxValue();
     }
-    std::string shown(StopValue value) { return controls.field(value).shown; }
+
+    /// Stops a, b, c ... each with a colour and an opacity of its own, the last one selected.
+    void setStops(const Positions& positions, std::int64_t orientation = orientation::leftToRight) {
+        data() = GlobalData{};
+        data().setOrientationType(orientation);
+        for (const double position : positions) {
+            const double shade = 0.125 * static_cast<double>(data().stopCount() + 1);
+            editor.markers().addColorMarker(Color::calibratedRGB(shade, 0, 0), position, 1 - shade,
+                                            ColorMarkers::append);
+        }
+        editor.repaint();
+    }
+    /// Letter and position of each stop, ">" before the selected one. "+" is a black one, "w" a white; "*"
+    /// follows the letter of one whose opacity is not its own.
+    std::string stops() {
+        std::string text;
+        for (std::int64_t i = 0; const auto stop = data().stopAt(i); ++i) {
+            const double shade = stop->color.calibratedRGB()->red;
+            text += i == editor.markers().selectedColorMarkerIndex() ? " >" : " ";
+            text += "+abcdefgw"[static_cast<int>(shade * 8)];
+            text += (stop->opacity == 1 - shade ? "" : "*") + significantText(stop->position, 12);
+        }
+        return text;
+    }
+    /// What the eight fields show, the disabled ones in parentheses.
+    std::string fields() {
+        std::string text;
+        for (std::size_t i = 0; i < stopValues.size(); ++i) {
+            const std::string& shown = controls.fields[i].shown;
+            text += controls.fields[i].enabled ? ' ' + shown : " (" + shown + ')';
+            EXPECT_EQ(controls.steppers[i].enabled, controls.fields[i].enabled);
+        }
+        return text;
+    }
+    /// Announcements, paintings and redraws since the last call.
+    Counts takeCounts() {
+        return {std::exchange(posts, 0), std::exchange(surface.paints, 0), std::exchange(surface.redraws, 0)};
+    }
 
     LogCapture log;
     FakeControls controls;
     FakeSurface surface;
-    GradientEditor editor{Size{440, 140}, surface, controls.set()};
+    GradientEditor editor{Size{440, 140}, surface, controls.set};
     int posts = 0;
     NotificationCenter::Observation observation = NotificationCenter::defaultCenter().addObserver(
         canvasNotification::needToUpdateWebCode, &editor, [this](const auto&) { ++posts; });
 };
 
 TEST_F(GradientEditorTest, startsWithTheDefaultGradientAndFilledControls) {
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 1.0}));
-    EXPECT_EQ(data().colorMarkerColor(), (std::vector{Color::black(), Color::white()}));
-    EXPECT_EQ(data().colorMarkerOpacity(), (Positions{1.0, 1.0}));
-    EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 1);
-    EXPECT_TRUE(editor.controls().formReady());
-    const std::pair<StopValue, std::string> fields[] = {
-        {StopValue::Red, "256"},        {StopValue::Green, "256"},    {StopValue::Blue, "256"},
-        {StopValue::Hue, "0"},          {StopValue::Saturation, "0"}, {StopValue::Lightness, "100"},
-        {StopValue::Position, "1.000"}, {StopValue::Opacity, "1.000"}};
-    for (const auto& [value, text] : fields) {
-        EXPECT_EQ(shown(value), text);
-    }
-    EXPECT_EQ(controls.stepper(StopValue::Red).held, 255) << "the field shows what the stepper cannot hold";
-    EXPECT_EQ(controls.orientation.selected, 0);
-    EXPECT_EQ(controls.colorFormat.selected, 0);
-    EXPECT_FALSE(controls.field(StopValue::Opacity).enabled);
-    EXPECT_TRUE(controls.field(StopValue::Position).enabled);
-}
-
-TEST_F(GradientEditorTest, aRepaintFromIdleRunsOnceMoreNestedAndPostsForEach) {
-    editor.createBackground();
-    EXPECT_EQ(surface.paints, 2);
-    EXPECT_EQ(posts, 2);
-    EXPECT_TRUE(editor.controls().formReady());
-    posts = 0;
+    EXPECT_EQ(stops(), " +0 >w*1");
+    EXPECT_EQ(fields(), " 256 256 256 0 0 100 1.000 (1.000)");
+    EXPECT_EQ(controls.steppers[0].held, 255) << "the field shows what the stepper cannot hold";
+    EXPECT_TRUE(controls.orientation.selected == 0 && controls.colorFormat.selected == 0);
+    editor.repaint();
+    EXPECT_EQ(takeCounts(), (Counts{2, 2, 2})) << "from idle it runs once more, nested";
     step(StopValue::Position, 0.5);
-    EXPECT_EQ(posts, 1) << "a handler keeps the form closed, and the echo of the well out";
+    EXPECT_EQ(takeCounts(), (Counts{1, 1, 1})) << "a handler keeps the echo of the well out";
 }
 
-TEST_F(GradientEditorTest, aDoubleClickAddsABlackStopAndGrabsIt) {
-    press({220, 30}, 2);
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 0.5, 1.0}));
-    EXPECT_EQ(data().colorMarkerColor()[1], Color::black());
-    EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 1);
-    EXPECT_TRUE(mouse().startDrag());
-    const int redrawsBefore = surface.redraws;
-    mouse().mouseDragged({260, 90});
-    EXPECT_GT(surface.redraws, redrawsBefore);
-    EXPECT_EQ(data().colorMarkerPos()[1], 0.6);
-    EXPECT_EQ(mouse().markerDragOrientation(), 1);
-    mouse().mouseUp();
-    mouse().mouseDragged({300, 30});
-    EXPECT_EQ(data().colorMarkerPos()[1], 0.6);
-    press({15, 30}, 2);
-    press({425, 30}, 2);
-    EXPECT_EQ(data().stopCount(), 3U) << "off the track";
-    for (const char* message : {"double Clicked!", "addColorMarker: -2", "position: 1", "Clicked!",
-                                "selectedColorMarkerIndex: 1", "startDragImagePosX: 200"}) {
-        EXPECT_TRUE(log.has(message)) << message;
+TEST_F(GradientEditorTest, mouseAndKeysAddAndMoveStopsOnEveryTrack) {
+    const auto drag = [&](Point from, Point to, int clicks = 1) {
+        mouse().mouseDown(from, clicks);
+        mouse().mouseDragged(to);
+        mouse().mouseUp();
+        mouse().mouseDragged(from);
+    };
+    const auto add = [&](Point at, Point to) { drag(at, to, 2); };
+    const auto key = [&](Point way, Point /*unused*/) {
+        mouse().moveSelected(static_cast<int>(way.x), static_cast<int>(way.y), 1);
+    };
+    using Gesture = std::function<void(Point, Point)>;
+    const std::tuple<const char*, std::int64_t, Positions, Gesture, Point, Point, const char*> rows[] = {
+        {"adds and grabs", 1, {0, 1}, add, {220, 30}, {260, 90}, " a0 >+0.6 b1"},
+        {"adds behind its equal", 1, {0, 0.5, 1}, add, {220, 90}, {0, 0}, " a0 b0.5 >+0.5 c1"},
+        {"left of the track", 1, {0, 1}, add, {15, 30}, {60, 30}, " a0 >b1"},
+        {"right of the track", 1, {0, 1}, add, {425, 30}, {300, 30}, " a0 >b1"},
+        {"in the corner of a marker", 1, {0, 0.5}, drag, {212, 33}, {312, 33}, " a0 >b0.5"},
+        {"the lower of two markers", 1, {0.5, 0.52}, drag, {224, 25}, {264, 25}, " b0.52 >a0.6"},
+        {"past the end", 1, {0, 0.5, 0.7}, drag, {220, 25}, {500, 25}, " a0 c0.7 >b1"},
+        {"before the start", 1, {0, 0.7, 0.75}, drag, {320, 25}, {0, 25}, " a0 >c0 b0.7"},
+        {"adds beside the upward track", 0, {0, 1}, add, {220, 45}, {0, 0}, " a0 >+0.25 b1"},
+        {"drags up", 0, {0, 1}, drag, {25, 20}, {400, 70}, " >a0.5 b1"},
+        // Added where the other diagonal through the point meets the track, not square to it.
+        {"adds below a diagonal", 2, {0, 1}, add, {220, 20}, {0, 0}, " a0 >+0.25 b1"},
+        {"drags to the top right", 2, {0, 1}, drag, {20, 20}, {400, 40}, " >a0.2 b1"},
+        {"adds above a diagonal", 3, {0, 1}, add, {420, 70}, {0, 0}, " a0 >+0.25 b1"},
+        {"drags to the top left", 9, {0, 1}, drag, {420, 20}, {420, 95}, " >a0.75 b1"},
+        {"right", 1, {0, 0.5}, key, {1, 0}, {}, " a0 >b0.5025"},
+        {"down", 0, {0, 0.5}, key, {0, -1}, {}, " a0 >b0.49"},
+        {"right is up", 2, {0, 0.5}, key, {1, 0}, {}, " a0 >b0.51"},
+        {"right is down", 3, {0, 0.5}, key, {1, 0}, {}, " a0 >b0.49"},
+        {"inwards", 4, {0, 0.5}, key, {-1, 0}, {}, " a0 >b0.495"},
+        {"drags outwards", 4, {0, 1}, drag, {225, 65}, {325, 65}, " >a0.5 b1"},
+        {"adds and drags inwards", 4, {0, 1}, add, {320, 60}, {270, 60}, " a0 >+0.25 b1"},
+        // The disc's lower bound stays for good; above it the place counts over what the bound leaves.
+        {"below the bound", 1, {0, 1}, add, {100, 30}, {300, 30}, " a0 >b1"},
+        {"above the bound", 1, {0, 1}, add, {320, 30}, {0, 30}, " a0 b1 >+1.5"},
+        {"down to the bound", 1, {0, 0.25, 1}, drag, {120, 25}, {0, 25}, " a0 >b0.5 c1"}};
+    for (const auto& [name, orientation, before, act, from, to, after] : rows) {
+        setStops(before, orientation);
+        act(from, to);
+        EXPECT_EQ(stops(), after) << name;
     }
-}
-
-TEST_F(GradientEditorTest, draggingPastANeighbourReordersAndKeepsTheSelection) {
-    press({220, 25}, 2); // at 0.5
-    mouse().mouseUp();
-    press({300, 25}, 2); // at 0.7
-    mouse().mouseUp();
-    type(StopValue::Red, "255");
-    drag({220, 25}, {320, 25});
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 0.7, 0.75, 1.0}));
-    EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 2);
-    EXPECT_EQ(data().colorMarkerColor()[1], Color::calibratedRGB(1, 0, 0));
-    drag({320, 25}, {0, 25});
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 0.0, 0.7, 1.0})) << "clamped, and behind its equal";
-    EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 1);
-}
-
-TEST_F(GradientEditorTest, aRadialDoubleClickRaisesTheLowerBoundForGood) {
-    chooseOrientation(4);
-    press({320, 60}, 2);
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 0.5, 1.0}));
-    EXPECT_EQ(mouse().minColorMarkerPos(), 200);
-    mouse().mouseDragged({270, 60}); // 50 of 200 points to the left
-    EXPECT_EQ(data().colorMarkerPos()[1], 0.25);
-    EXPECT_TRUE(log.has("newPos: 0.250000"));
-    mouse().mouseUp();
-    chooseOrientation(0);
-    press({100, 30}, 2);
-    EXPECT_EQ(data().stopCount(), 3U) << "offset 80 is below the bound";
-    press({320, 30}, 2); // offset 300: the place of the click over what the bound leaves
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 0.25, 1.0, 1.5}));
-    drag({120, 25}, {0, 25});
-    EXPECT_EQ(data().colorMarkerPos()[1], 0.5) << "no further left than offset 200";
-}
-
-TEST_F(GradientEditorTest, dragsAlongTheTrackOfEveryOrientation) {
-    const struct {
-        std::int64_t item;
-        Point from, to;
-        double position;
-    } rows[] = {{0, {20, 25}, {120, 0}, 0.25},
-                {1, {25, 20}, {400, 70}, 0.5},
-                {2, {20, 20}, {400, 40}, 0.2},
-                {3, {420, 20}, {420, 95}, 0.75},
-                {4, {225, 65}, {325, 65}, 0.5}};
-    for (const auto& row : rows) {
-        data().colorMarkerPos() = {0.0, 1.0};
-        chooseOrientation(row.item);
-        drag(row.from, row.to);
-        EXPECT_EQ(data().colorMarkerPos()[0], row.position) << row.item;
-    }
+    EXPECT_TRUE(log.has("startDragImagePosX: 200") && log.has("x: 320.000000 y: 45.000000"));
 }
 
 TEST_F(GradientEditorTest, deletesAndDeliberatelyLeavesTheOpacityBehind) {
-    data().setColorMarkerPos({0.0, 0.5, 1.0});
-    data().setColorMarkerColor({Color::black(), Color::black(), Color::white()});
-    data().setColorMarkerOpacity({1.0, 0.5, 0.2});
-    editor.repaint();
-    const auto counts = [&] { return std::array{surface.paints, surface.redraws, posts}; };
-    const auto countsBefore = counts();
-    EXPECT_TRUE(mouse().rightMouseDown({20, 25}));
-    EXPECT_EQ(counts(), countsBefore) << "a right click repaints nothing";
-    EXPECT_FALSE(mouse().rightMouseDown({100, 100}));
-    mouse().deleteColorMarker();
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.5, 1.0}));
-    EXPECT_EQ(data().colorMarkerOpacity(), (Positions{1.0, 0.5, 0.2}));
-    EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 0);
-    editor.markers().select(1);
-    mouse().deleteColorMarker();
-    mouse().deleteColorMarker();
-    mouse().deleteColorMarker(); // nothing is left to delete
-    EXPECT_EQ(data().stopCount(), 0U);
-    EXPECT_FALSE(controls.field(StopValue::Red).enabled || controls.well.enabled);
-    type(StopValue::Position, "0.5");
-    editor.markers().addColorMarker(Color::black(), 0.3, 1.0, 5);
-    EXPECT_EQ(data().stopCount(), 0U);
-    press({220, 25}, 2);
-    EXPECT_EQ(data().stopCount(), 1U);
-    EXPECT_TRUE(controls.field(StopValue::Red).enabled);
+    setStops({0, 0.5, 1});
+    takeCounts();
+    EXPECT_TRUE(mouse().rightMouseDown({20, 25}) && !mouse().rightMouseDown({100, 100}));
+    EXPECT_EQ(takeCounts(), Counts{}) << "a right click repaints nothing";
+    for (const char* left : {" >b*0.5 c*1", " >c*1", "", ""}) {
+        mouse().deleteColorMarker();
+        EXPECT_EQ(stops(), left);
+    }
+    EXPECT_EQ(data().colorMarkerOpacity(), (Positions{0.875, 0.75, 0.625}));
+    type(StopValue::Position, "0.5"); // of no stop
+    EXPECT_TRUE(fields().starts_with(" (") && !controls.well.enabled);
+    mouse().mouseDown({220, 25}, 2);
+    EXPECT_TRUE(stops() == " >+*0.5" && !fields().starts_with(" (") && controls.well.enabled);
 }
 
-TEST_F(GradientEditorTest, typedAndSteppedColorsFollowEachOther) {
-    type(StopValue::Red, "300");
-    EXPECT_EQ(shown(StopValue::Red), "255");
-    EXPECT_EQ(data().colorMarkerColor()[1], Color::white());
-    type(StopValue::Green, "-7");
-    type(StopValue::Blue, "");
-    EXPECT_EQ(shown(StopValue::Green), "0");
-    EXPECT_EQ(data().colorMarkerColor()[1], Color::calibratedRGB(1, 0, 0));
-    EXPECT_EQ(shown(StopValue::Saturation), "100");
-    EXPECT_EQ(shown(StopValue::Lightness), "50");
-    step(StopValue::Red, 127);
-    EXPECT_EQ(data().colorMarkerColor()[1].calibratedRGB()->red, static_cast<double>(127.0F / 255.0F));
-    EXPECT_EQ(shown(StopValue::Red), "127");
-    type(StopValue::Saturation, "100");
-    type(StopValue::Lightness, "50");
-    type(StopValue::Hue, "120");
-    EXPECT_EQ(shown(StopValue::Red), "-1") << "as converted, the stepper beside it at its bound";
-    EXPECT_EQ(shown(StopValue::Blue), "1");
-    EXPECT_EQ(controls.stepper(StopValue::Red).held, 0);
-    EXPECT_EQ(data().colorMarkerColor()[1], Color::calibratedRGB(0, 1, static_cast<double>(1.0F / 255.0F)));
+TEST_F(GradientEditorTest, keysReachEveryPointAndEveryStop) {
+    setStops({0, 0}, orientation::bottomToTop);
+    EXPECT_FALSE(mouse().moveSelected(1, 0, 1)) << "the track does not run so";
+    for (int i = 0; i < 100; ++i) {
+        mouse().moveSelected(0, 1, 1);
+    }
+    EXPECT_EQ(stops(), " a0 >b1") << "no step may stick to a rounded place";
+    setStops({0.5, 1});
+    mouse().addBesideSelected();
+    mouse().addBesideSelected();
+    EXPECT_EQ(stops(), " a0.5 +0.75 >+0.875 b1") << "before the last, then behind the new one";
+    setStops({0, 1});
+    EXPECT_TRUE(mouse().selectNeighbour(-1) && !mouse().selectNeighbour(-1));
+    editor.markers().select(7); // as after a preset with fewer stops
+    EXPECT_TRUE(mouse().selectNeighbour(-1));
+    EXPECT_EQ(stops(), " a0 >b1");
 }
 
-TEST_F(GradientEditorTest, aPickedColorReachesTheStopAndAllFields) {
-    controls.well.setBackgroundColor(Color::calibratedRGB(0, 0, 1));
-    EXPECT_EQ(data().colorMarkerColor()[1], Color::calibratedRGB(0, 0, 1));
-    EXPECT_EQ(shown(StopValue::Blue), "256");
-    EXPECT_EQ(shown(StopValue::Hue), "240");
-    EXPECT_TRUE(log.has("colorChangedNotification"));
-    FakeWell stranger;
-    posts = 0;
-    stranger.setBackgroundColor(Color::black());
-    EXPECT_EQ(posts, 0);
-}
-
-TEST_F(GradientEditorTest, typedPositionsDoNotSortAndOpacityNeedsItsNotation) {
-    press({220, 25}, 2);
-    mouse().mouseUp();
-    editor.markers().select(2);
-    type(StopValue::Position, "0.2");
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 0.5, 0.2}));
-    EXPECT_EQ(shown(StopValue::Position), "0.200");
-    type(StopValue::Position, "1e9");
-    EXPECT_EQ(data().colorMarkerPos()[2], 1.0);
-    posts = 0;
-    editor.controls().setFormReady(false);
+TEST_F(GradientEditorTest, typedAndSteppedValuesReachTheStopAndTheOtherFields) {
+    setStops({0, 0.5, 1});
     chooseFormat(colorFormat::rgba);
-    EXPECT_EQ(posts, 0);
-    editor.controls().setFormReady(true);
-    chooseFormat(colorFormat::rgba);
-    EXPECT_EQ(posts, 2);
-    EXPECT_TRUE(controls.field(StopValue::Opacity).enabled && controls.stepper(StopValue::Opacity).enabled);
-    type(StopValue::Opacity, "0.25");
-    EXPECT_EQ(data().colorMarkerOpacity()[2], 0.25);
-    chooseFormat(-1);
-    EXPECT_EQ(data().colorFormatType(), colorFormat::rgba);
-    EXPECT_TRUE(controls.field(StopValue::Opacity).enabled);
-    chooseFormat(colorFormat::hsl);
-    EXPECT_FALSE(controls.field(StopValue::Opacity).enabled);
+    controls.well.setBackgroundColor(Color::white()); // picked
+    EXPECT_EQ(fields(), " 256 256 256 0 0 100 1.000 0.625");
+    // Typed, or stepped where there is no text.
+    const std::tuple<StopValue, const char*, double, const char*> rows[] = {
+        {StopValue::Red, "300", 0, " 255 256 256 0 0 100 1.000 0.625"},
+        {StopValue::Green, "-7", 0, " 255 0 256 300 100 50 1.000 0.625"},
+        {StopValue::Blue, "", 0, " 255 0 0 0 100 50 1.000 0.625"},
+        {StopValue::Red, nullptr, 127, " 127 0 0 0 100 24 1.000 0.625"},
+        {StopValue::Lightness, nullptr, 50, " 255 0 0 0 100 50 1.000 0.625"},
+        {StopValue::Hue, "120", 0, " -1 255 1 120 100 50 1.000 0.625"}, // as converted
+        {StopValue::Opacity, nullptr, 0.25, " -1 255 1 120 100 50 1.000 0.250"},
+        {StopValue::Position, "-1e9", 0, " -1 255 1 120 100 50 0.000 0.250"},
+        {StopValue::Position, "0.2", 0, " -1 255 1 120 100 50 0.200 0.250"}};
+    for (const auto& [value, typed, stepped, shown] : rows) {
+        typed != nullptr ? type(value, typed) : step(value, stepped);
+        EXPECT_EQ(fields(), shown);
+    }
+    const Color color = Color::calibratedRGB(0, 1, static_cast<double>(1 / 255.0F));
+    EXPECT_EQ(data().stopAt(2), (ColorStop{0.2, color, 0.25})) << "a typed position does not sort";
 }
 
-TEST_F(GradientEditorTest, mapsTheOrientationListToTheCodesAndBack) {
-    constexpr std::array<std::int64_t, 5> codes{1, 0, 2, 3, 4};
-    for (std::int64_t item = 0; item < 5; ++item) {
+TEST_F(GradientEditorTest, theListsChooseOrientationAndNotation) {
+    using ItemAndCode = std::pair<std::int64_t, std::int64_t>;
+    for (const auto& [item, code] : {ItemAndCode{0, 1}, {1, 0}, {2, 2}, {3, 3}, {4, 4}}) {
         chooseOrientation(item);
-        EXPECT_EQ(data().orientationType(), codes[static_cast<std::size_t>(item)]);
-        controls.orientation.selected = -1;
+        chooseOrientation(-1);
+        EXPECT_EQ(data().orientationType(), code);
         editor.gradientReplaced();
         EXPECT_EQ(controls.orientation.selected, item);
     }
-    chooseOrientation(-1);
-    EXPECT_EQ(data().orientationType(), 4);
-    data().setOrientationType(9);
-    editor.gradientReplaced();
-    EXPECT_EQ(controls.orientation.selected, -1);
-}
-
-TEST_F(GradientEditorTest, keysMoveTheSelectedStopAlongItsTrackPointByPoint) {
-    const struct {
-        std::int64_t item;
-        int right, up;
-        double position; // after one point from 0.5, or unchanged
-    } rows[] = {{0, 1, 0, 201.0 / 400}, {0, 0, 1, 0.5},        {1, 0, -1, 49.0 / 100}, {2, 1, 0, 51.0 / 100},
-                {3, 1, 0, 49.0 / 100},  {3, 0, 1, 51.0 / 100}, {4, -1, 0, 99.0 / 200}};
-    for (const auto& row : rows) {
-        chooseOrientation(row.item);
-        data().colorMarkerPos() = {0.0, 0.5};
-        EXPECT_EQ(mouse().moveSelected(row.right, row.up, 1), row.position != 0.5);
-        EXPECT_DOUBLE_EQ(data().colorMarkerPos()[1], row.position) << row.item;
+    editor.controls().setFormReady(false);
+    chooseFormat(2); // by nobody who uses the window
+    editor.controls().setFormReady(true);
+    takeCounts();
+    for (const auto& [item, code] :
+         {ItemAndCode{std::ssize(colorFormat::notations), 0}, {2, 2}, {3, 3}, {4, 4}, {-1, 4}, {0, 0}}) {
+        chooseFormat(item);
+        EXPECT_EQ(data().colorFormatType(), code);
+        EXPECT_EQ(fields().ends_with(')'), !colorFormat::carriesOpacity(code)) << code;
+        EXPECT_EQ(takeCounts(), (Counts{2, 1, 1})) << "announced twice";
     }
-    chooseOrientation(0);
-    data().colorMarkerPos() = {0.0, 0.5};
-    for (int i = 0; i < 400; ++i) {
-        mouse().moveSelected(-1, 0, 1);
-    }
-    EXPECT_EQ(data().colorMarkerPos(), (Positions{0.0, 0.0})) << "no step may stick to a rounded place";
-    EXPECT_TRUE(mouse().selectNeighbour(-1));
-    EXPECT_FALSE(mouse().selectNeighbour(-1));
-    editor.markers().select(7); // as after a preset with fewer stops
-    EXPECT_TRUE(mouse().selectNeighbour(-1));
-    EXPECT_EQ(editor.markers().selectedColorMarkerIndex(), 1);
 }
 
 TEST_F(GradientEditorTest, noSequenceOfActionsBreaksTheInvariants) {
-    std::mt19937 random;
+    std::mt19937 random{5};
     const auto upTo = [&](int most) { return std::uniform_int_distribution<int>{0, most}(random); };
     const auto anywhere = [&] { return Point{upTo(500) - 30.0, upTo(200) - 30.0}; };
     const auto anyValue = [&] { return stopValues[static_cast<std::size_t>(upTo(7))].value; };
+    const auto isFraction = [](double opacity) { return opacity >= 0 && opacity <= 1; };
     const std::string texts[] = {"", "0", "0.5", "300", "-4", "1e99", "abc", "128"};
-    const auto deleteOne = [&] {
-        mouse().rightMouseDown(anywhere());
-        if (data().stopCount() > static_cast<std::size_t>(upTo(8))) {
-            mouse().deleteColorMarker();
-        }
-    };
-    constexpr std::size_t deletion = 0;
-    constexpr std::size_t firstUnsorting = 7;
     const std::function<void()> actions[] = {
-        deleteOne,
-        [&] { press(anywhere(), 2); },
-        [&] { press(anywhere()); },
+        [&] { mouse().rightMouseDown(anywhere()), mouse().deleteColorMarker(); },
+        [&] { mouse().mouseDown(anywhere(), 2); },
+        [&] { mouse().mouseDown(anywhere(), 1 + upTo(1)); },
         [&] { mouse().mouseDragged(anywhere()); },
         [&] { mouse().mouseUp(); },
         [&] { mouse().moveSelected(upTo(2) - 1, upTo(2) - 1, upTo(10)); },
         [&] { chooseOrientation(upTo(6) - 1), chooseFormat(upTo(6) - 1); },
-        [&] { type(anyValue(), texts[upTo(7)]); },
-        [&] { step(anyValue(), upTo(300) / 2.0); },
-        [&] { editor.markers().select(upTo(12) - 2), editor.repaint(); }};
-    const auto isSorted = [] {
-        return std::is_sorted(data().colorMarkerPos().begin(), data().colorMarkerPos().end());
-    };
+        [&] { editor.markers().select(upTo(12) - 2), editor.repaint(); },
+        [&] { step(anyValue(), upTo(300) / 2.0); }, // may unsort, as may the next
+        [&] { type(anyValue(), texts[upTo(7)]); }};
     editor.repaint();
-    for (unsigned i = 0; i < 10'000; ++i) {
-        if (i % 2'000 == 0) {
-            random.seed(i);
-        }
-        const bool wasSorted = isSorted();
-        const std::size_t opacities = data().colorMarkerOpacity().size();
-        const auto action = static_cast<std::size_t>(upTo(std::size(actions) - 1));
+    for (int i = 0; i < 10'000; ++i) {
+        const Positions opacities = data().colorMarkerOpacity();
+        const bool wasSorted = std::ranges::is_sorted(data().colorMarkerPos());
+        const int action = upTo(static_cast<int>(std::size(actions)) - 1);
         actions[action]();
-        ASSERT_TRUE(isSorted() || !wasSorted || action >= firstUnsorting) << i;
-        ASSERT_TRUE(action != deletion || data().colorMarkerOpacity().size() == opacities) << i;
+        ASSERT_TRUE(!wasSorted || action >= 8 || std::ranges::is_sorted(data().colorMarkerPos())) << i;
+        ASSERT_TRUE(action != 0 || data().colorMarkerOpacity() == opacities) << i;
         ASSERT_EQ(data().colorMarkerPos().size(), data().colorMarkerColor().size()) << i;
-        ASSERT_GE(data().colorMarkerOpacity().size(), data().stopCount()) << i;
-        ASSERT_EQ(surface.markers.size(), data().stopCount()) << i;
+        const CanvasScene scene{editor.geometry(), data(), editor.markers().selectedColorMarkerIndex()};
+        ASSERT_TRUE(surface.scene == scene) << "every change is painted, " << i;
+        ASSERT_EQ(data().stopCount(), data().colorMarkerPos().size()) << "each with an opacity, " << i;
         ASSERT_TRUE(editor.controls().formReady()) << i;
-        for (const double opacity : data().colorMarkerOpacity()) {
-            ASSERT_TRUE(opacity >= 0 && opacity <= 1) << i;
-        }
+        ASSERT_TRUE(std::ranges::all_of(data().colorMarkerOpacity(), isFraction)) << i;
     }
 }
 

@@ -7,42 +7,34 @@
 namespace tessaly {
 namespace {
 
-constexpr double largest = std::numeric_limits<double>::max();
-
 TEST(NumberFormatter, judgesWhatIsTypedOrPasted) {
+    constexpr double most = std::numeric_limits<double>::max();
+    constexpr auto none = std::nullopt;
     const OnlyIntegerValueFormatter integer;
     const OnlyDecimalValueFormatter decimal;
-    const auto isValid = [](const NumberFormatter& formatter, std::string_view text) {
-        return formatter.isPartialStringValid(text);
-    };
-    const std::pair<std::string_view, double> integers[] = {{"128", 128},
-                                                            {"  7", 7},
-                                                            {"-5", -5},
-                                                            {"+5", 5},
-                                                            {"99999999999", 2147483647},
-                                                            {"-99999999999", -2147483648.0}};
-    for (const auto& [text, value] : integers) {
-        EXPECT_TRUE(isValid(integer, text) && isValid(decimal, text)) << text;
-        EXPECT_EQ(integer.value(text), value);
-    }
-    const std::pair<std::string_view, double> decimals[] = {
-        {"12.5", 12.5}, {"0.25", 0.25}, {"0.", 0},          {".5", 0.5},
-        {"1e2", 100},   {"1E-2", 0.01}, {"1e999", largest}, {"1e-999", 0}};
-    for (const auto& [text, value] : decimals) {
-        EXPECT_TRUE(!isValid(integer, text) && isValid(decimal, text)) << text;
-        EXPECT_EQ(decimal.value(text), value) << text;
-        EXPECT_EQ(integer.value(text), 0) << text;
+    const struct {
+        std::string_view text;
+        std::optional<double> whole, number; ///< whole: none where an integer field refuses it
+    } rows[] = {{"", 0, 0},         {"128", 128, 128},    {"  7", 7, 7},         {"-5", -5, -5},
+                {"+5", 5, 5},       {"12.5", none, 12.5}, {"0.", none, 0},       {".5", none, 0.5},
+                {"1e2", none, 100}, {"1E-2", none, 0.01}, {"1e999", none, most}, {"1e-999", none, 0}};
+    for (const auto& [text, whole, number] : rows) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(integer.isPartialStringValid(text), whole.has_value());
+        EXPECT_EQ(integer.value(text), whole.value_or(0));
+        EXPECT_TRUE(decimal.isPartialStringValid(text));
+        EXPECT_EQ(decimal.value(text), number);
     }
     for (const std::string_view text : {"7 ", " ", "-", "+", "+-1", ".", "0,5", "1a", "abc", "0.2x", "1e",
                                         "inf", "nan", "0x10", "\xC3\xA9"}) {
-        EXPECT_FALSE(isValid(integer, text) || isValid(decimal, text)) << text;
+        EXPECT_FALSE(integer.isPartialStringValid(text) || decimal.isPartialStringValid(text)) << text;
     }
+    EXPECT_EQ(integer.value("-99999999999"), -2147483648.0);
+    EXPECT_EQ(integer.value(std::string(400, '9')), 2147483647);
+    EXPECT_EQ(decimal.value(std::string(400, '9')), most);
     EXPECT_EQ(decimal.value("0." + std::string(400, '0') + "1"), 0);
-    EXPECT_EQ(decimal.value(std::string(400, '9')), largest);
-    EXPECT_TRUE(integer.isPartialStringValid("") && decimal.isPartialStringValid(""));
     EXPECT_EQ(integer.text(-1), "-1");
-    EXPECT_EQ(decimal.text(0.25), "0.3");
-    EXPECT_EQ(decimal.text(1.0), "1");
+    EXPECT_EQ(decimal.text(0.25) + ' ' + decimal.text(1.0), "0.3 1") << "tenths, halves up";
 }
 
 } // namespace

@@ -1,68 +1,42 @@
 #include "codegen/WebCode.h"
 
-#include "codegen/WebView.h"
+#include "sourceview/TextEdit.h"
 #include "support/FakeCodeText.h"
+#include "support/FakeWebView.h"
 #include "support/Gradients.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
-#include <utility>
+#include <regex>
 
 namespace tessaly {
 namespace {
 
-// The expected texts stand in files, byte by byte.
-std::string expectedText(const char* name) {
-    return contentsOf(std::filesystem::path{TESSALY_TEST_DATA} / name);
-}
-
-class FakeWebView : public WebView {
-  public:
-    void loadFile(const std::filesystem::path& page) override { loaded = page; }
-    void reload() override { ++reloads; }
-    void redisplay() override {}
-
-    std::filesystem::path loaded;
-    int reloads = 0;
-};
+const std::filesystem::path data{TESSALY_TEST_DATA}; // the expected texts, byte by byte
+const std::string radialCss = contentsOf(data / "radial.css");
 
 class WebCodeTest : public testing::Test {
   protected:
     WebCodeTest() {
         resetToDefaultGradient();
-        code.insertHTML5Code();
-        code.insertCSS3Code();
+        code->insertHTML5Code();
+        code->insertCSS3Code();
     }
 
-    void update() { code.updateBackgroundColorDataUpdatedNotification({}); }
+    void update(std::int64_t orientation = GlobalData::sharedData().orientationType()) {
+        GlobalData::sharedData().setOrientationType(orientation);
+        code->updateBackgroundColorDataUpdatedNotification({});
+    }
 
-    // What the user does in the stylesheet view, and what the view reports of it: one edit without the
-    // beginning and the end that both texts have.
+    // What the user does in the stylesheet view, and what the view reports of it.
     void become(const std::u16string& text) {
-        const std::u16string before = std::exchange(css.contents, text);
-        const std::size_t shorter = std::min(before.size(), text.size());
-        std::size_t start = 0;
-        while (start < shorter && before[start] == text[start]) {
-            ++start;
-        }
-        std::size_t end = 0;
-        while (end < shorter - start && before[before.size() - 1 - end] == text[text.size() - 1 - end]) {
-            ++end;
-        }
-        code.stylesheetEdited(start, before.size() - start - end, text.size() - start - end);
+        const TextEdit edit = TextEdit::between(css.contents, text);
+        css.contents = text;
+        code->stylesheetEdited(edit.position, edit.removed, edit.added);
     }
-    void edit(std::size_t position, std::size_t removed, const std::u16string& added) {
-        become(std::u16string{css.contents}.replace(position, removed, added));
-    }
-
-    static std::string freshStylesheet() {
-        FakeCodeText html;
-        FakeCodeText fresh;
-        FakeWebView web;
-        WebCode writer{html, fresh, web, {}};
-        writer.insertCSS3Code();
-        return fresh.utf8();
+    void edit(TextRange range, const std::u16string& added) {
+        become(std::u16string{css.contents}.replace(range.location, range.length, added));
     }
 
     const LogCapture log;
@@ -70,132 +44,107 @@ class WebCodeTest : public testing::Test {
     FakeCodeText html;
     FakeCodeText css;
     FakeWebView web;
-    WebCode code{html, css, web, temporary.path};
+    std::optional<WebCode> code{std::in_place, html, css, web, temporary.path};
 };
 
-TEST_F(WebCodeTest, writesTheDefaultTexts) {
-    EXPECT_EQ(css.utf8(), expectedText("default.css"));
-    EXPECT_EQ(css.length(), 678U);
-    const DeclarationRanges& ranges = code.ranges();
-    EXPECT_EQ((std::array{ranges.backgroundColorOldIndex(), ranges.backgroundColorIndex(),
-                          ranges.backgroundColorMozIndex(), ranges.backgroundColorOldWebKitIndex(),
-                          ranges.backgroundColorNewWebKitIndex(), ranges.backgroundColorOperaIndex(),
-                          ranges.backgroundColorIEIndex(), ranges.backgroundColorMSFilterIndex()}),
-              (std::array<std::size_t, 8>{28, 50, 126, 203, 323, 403, 478, 554}));
-    EXPECT_EQ(html.utf8(), expectedText("default.html"));
-    EXPECT_TRUE(css.editable && html.editable);
-    EXPECT_EQ(css.caret, 0U);
-    EXPECT_FALSE(code.shouldChangeTextInRange());
-    EXPECT_TRUE(log.has("backgroundColorOldText: \tbackground: #000000;\n"));
-}
-
-TEST_F(WebCodeTest, anyChangeLeavesTheTextThatIsWrittenFromScratch) {
-    std::mt19937 random{1};
-    for (int i = 0; i < 500; ++i) {
-        setRandomGradient(random);
-        update();
-        ASSERT_EQ(css.utf8(), freshStylesheet()) << "change " << i;
+TEST_F(WebCodeTest, writesThePageAndTheStylesheetOfEveryOrientation) {
+    EXPECT_EQ(html.utf8(), contentsOf(data / "default.html"));
+    EXPECT_TRUE(css.editable && html.editable && css.caret == 0);
+    const std::array<const char*, 3> rows[] = {
+        {"linear-gradient((null)", "linear-gradient((null)", "(null)"},
+        {"linear-gradient(to top", "linear-gradient(bottom", "linear, left bottom, left top"},
+        {"linear-gradient(to right", "linear-gradient(left", "linear, left top, right top"},
+        {"linear-gradient(45deg", "linear-gradient(45deg", "linear, left bottom, right top"},
+        {"linear-gradient(-45deg", "linear-gradient(135deg", "linear, right bottom, left top"},
+        {"radial-gradient(ellipse at center", "radial-gradient(center, ellipse cover",
+         "radial, center center, 0px, center center, 100%"},
+        {"linear-gradient((null)", "linear-gradient((null)", "(null)"}};
+    std::int64_t orientation = -1; // the first row's
+    for (const auto& [standard, prefixed, legacy] : rows) {
+        std::string expected = contentsOf(data / "default.css");
+        expected = std::regex_replace(expected, std::regex{"linear-gradient\\(to right"}, standard);
+        expected = std::regex_replace(expected, std::regex{"linear-gradient\\(left"}, prefixed);
+        expected = std::regex_replace(expected, std::regex{"linear, left top, right top"}, legacy);
+        update(orientation++);
+        EXPECT_EQ(css.utf8(), expected);
     }
-    EXPECT_TRUE(css.rangesInBounds);
 }
 
-TEST_F(WebCodeTest, keepsWhatTheUserAddsAroundTheDeclarations) {
-    edit(0, 0, u"/* mine \U0001F308 */\n");
-    edit(code.ranges().backgroundColorMozIndex(), 0, u"\tcolor: red;\n");
-    edit(css.length() - 2, 0, u"\tmargin: 0;\n");
-    GlobalData::sharedData().setColorFormatType(colorFormat::rgba);
-    update();
-    std::string expected = freshStylesheet();
+TEST_F(WebCodeTest, rewritesChangedDeclarationsAndKeepsWhatTheUserAddsAroundThem) {
+    edit({0, 0},
+         u"/* \U0001F308 */ p {\n\tbackground: #000000;\n}\n"); // with a copy of the first declaration
+    edit({code->ranges().backgroundColorOldIndex(), 0}, u"\tcolor: red;\n");
+    edit({css.length() - 2, 0}, u"\tmargin: 0;\n");
+    edit({code->ranges().backgroundColorIndex() + 5, 3}, u"oops");     // inside the standard one
+    edit(code->ranges()[Declaration::OldWebKit], u"");                 // a whole one
+    edit({code->ranges().backgroundColorOperaIndex() - 10, 20}, u"x"); // across an edge: the x is the user's
+    GlobalData::sharedData().colorMarkerColor()[0] = Color::white();
+    update(orientation::radial);
+    const std::string fresh = std::regex_replace(radialCss, std::regex{"#000000"}, "#ffffff");
+    std::string expected = fresh;
     expected.insert(expected.size() - 2, "\tmargin: 0;\n");
-    expected.insert(expected.find("\tbackground: -moz-"), "\tcolor: red;\n");
-    EXPECT_EQ(css.utf8(), "/* mine \xF0\x9F\x8C\x88 */\n" + expected);
-}
-
-TEST_F(WebCodeTest, rewritesAChangedDeclarationAndBringsBackADeletedOne) {
-    const DeclarationRanges& ranges = code.ranges();
-    edit(ranges.backgroundColorIndex() + 5, 3, u"oops");                           // inside the standard one
-    edit(ranges[Declaration::Moz].location, ranges[Declaration::Moz].length, u""); // a whole one
-    edit(ranges.backgroundColorOperaIndex() - 10, 20, u"x"); // across an edge: the x is the user's
-    update();
-    std::string expected = freshStylesheet();
     expected.insert(expected.find("\tbackground: -o-"), "x");
-    EXPECT_EQ(css.utf8(), expected);
-    edit(0, css.length(), u"");
+    expected.insert(expected.find("\tbackground"), "\tcolor: red;\n");
+    EXPECT_EQ(css.utf8(), "/* \xF0\x9F\x8C\x88 */ p {\n\tbackground: #000000;\n}\n" + expected);
+    edit({0, css.length()}, u"");
     update();
-    EXPECT_EQ(css.utf8(), [&] {
-        const std::string fresh = freshStylesheet();
-        return fresh.substr(28, fresh.size() - 30); // all eight are back, the frame around them is not
-    }());
+    EXPECT_EQ(css.utf8(), fresh.substr(28, fresh.size() - 30)) << "all eight, without the frame";
 }
 
-TEST_F(WebCodeTest, anUndoneDeletionLeavesNothingBehind) {
-    const std::u16string whole = css.text();
-    const DeclarationRanges ranges = code.ranges();
-    const TextRange rows[] = {
-        ranges[Declaration::Old],
-        {0, whole.size()},
-        {ranges.backgroundColorIndex() + 50, 40},    // from one declaration into the next
-        {ranges.backgroundColorIndex() - 1, 1},      // the line break between two
-        {ranges.backgroundColorIndex(), 10},         // the start of one
-        {ranges.backgroundColorMozIndex() + 10, 20}, // within one
-    };
-    std::int64_t orientation = 0;
-    for (const TextRange& row : rows) {
-        const std::u16string before = css.text();
-        edit(row.location, row.length, u"");
-        become(before);
-        GlobalData::sharedData().setOrientationType(orientation++ % 2); // both texts are as long as the first
-        update();
-        ASSERT_EQ(css.utf8(), freshStylesheet()) << row.location;
-        GlobalData::sharedData().setOrientationType(orientation::leftToRight);
-        update();
-    }
-}
-
-TEST_F(WebCodeTest, findsDeclarationsPastWhichTextWasDragged) {
+TEST_F(WebCodeTest, findsDeclarationsAfterAnUndoAndPastDraggedText) {
     const std::u16string line = u"\tcolor: red;\n";
     const std::u16string plain = css.text();
-    const DeclarationRanges ranges = code.ranges();
-    const std::size_t places[] = {0, ranges.backgroundColorOldIndex(), ranges.backgroundColorMozIndex(),
-                                  plain.size() - 2, plain.size()};
-    const auto with = [&](const std::u16string& text, std::size_t place) {
-        return std::u16string{text}.insert(place, line);
+    const auto survive = [&](const std::u16string& first, const std::u16string& second) {
+        become(first);
+        become(second);
+        update(orientation::radial);
+        std::string declarations = css.utf8();
+        declarations.erase(declarations.find("\tcolor: red;\n"), line.size());
+        EXPECT_EQ(declarations, radialCss) << "after " << toUtf8(first);
+        update(orientation::leftToRight);
     };
-    edit(0, 0, line);
+    edit({0, 0}, line);
+    for (const std::u16string& text : {plain, std::u16string{plain}.replace(60, 3, u"oops")}) {
+        for (std::size_t start = 0; start < plain.size(); start += 2) {
+            for (const std::size_t length : {1U, 10U, 80U, 1000U}) {
+                become(line + text);
+                survive(line + std::u16string{text}.erase(start, length), line + text);
+            }
+        }
+    }
+    const std::size_t places[] = {0, 28, 126, plain.size() - 2, plain.size()}; // at edges of declarations
     for (const std::size_t from : places) {
         for (const std::size_t to : places) {
-            become(with(plain, from));
-            become(with(plain, to));
-            GlobalData::sharedData().setOrientationType(orientation::radial);
-            update();
-            std::string others = css.utf8();
-            others.erase(others.find("\tcolor: red;\n"), line.size());
-            ASSERT_EQ(others, freshStylesheet()) << from << " to " << to;
-            GlobalData::sharedData().setOrientationType(orientation::leftToRight);
-            update();
+            survive(std::u16string{plain}.insert(from, line), std::u16string{plain}.insert(to, line));
         }
     }
 }
 
-TEST_F(WebCodeTest, noRandomEditMakesARangeRunPastTheEnd) {
+TEST_F(WebCodeTest, anyChangeAmongRandomEditsWritesEveryDeclaration) {
     std::mt19937 random{2};
-    for (int i = 0; i < 2000; ++i) {
-        const auto upTo = [&](std::size_t most) {
-            return std::uniform_int_distribution<std::size_t>{0, most}(random);
-        };
-        const std::size_t position = upTo(css.length());
-        const std::size_t removed = upTo(std::min<std::size_t>(css.length() - position, upTo(1) * 400));
-        edit(position, removed, std::u16string(upTo(40), u'u'));
-        if (i % 3 == 0) {
-            setRandomGradient(random, 4);
-            update();
+    const auto upTo = [&](std::size_t most) {
+        return std::uniform_int_distribution<std::size_t>{0, most}(random);
+    };
+    for (int i = 0; i < 1000; ++i) {
+        for (std::size_t edits = upTo(3); edits > 0; --edits) {
+            const std::u16string dragged = css.contents.substr(upTo(css.length()), upTo(1) * upTo(200));
+            std::u16string text = css.contents;
+            text.erase(text.find(dragged), dragged.size());
+            become(text.insert(upTo(text.size()), dragged));
+            const std::size_t place = upTo(css.length());
+            edit({place, upTo(std::min(css.length() - place, upTo(1) * 400))},
+                 std::u16string(upTo(40), u'u'));
         }
+        setRandomGradient(random);
+        update();
         std::size_t end = 0;
         for (const Declaration declaration : allDeclarations) {
-            ASSERT_GE(code.ranges()[declaration].location, end);
-            end = code.ranges()[declaration].end();
+            const TextRange range = code->ranges()[declaration];
+            ASSERT_LE(end, range.location) << "change " << i;
+            ASSERT_EQ(toUtf8(css.contents.substr(range.location, range.length)),
+                      declarationText(declaration, GlobalData::sharedData()));
+            end = range.end();
         }
-        ASSERT_LE(end, css.length());
     }
     css.contents.resize(10); // shortened without a word
     update();
@@ -206,52 +155,36 @@ TEST_F(WebCodeTest, writesThePreviewIntoTheFirstFreeFolderAndTakesItAwayAtTheEnd
     std::filesystem::create_directory(temporary.path / "WebFolder0");
     std::filesystem::create_symlink("nowhere", temporary.path / "WebFolder1");
     const auto folder = temporary.path / "WebFolder2";
-    {
-        WebCode owner{html, css, web, temporary.path};
-        css.contents.clear();
-        owner.insertCSS3Code();
-        owner.createHTMLIndexFile();
-        EXPECT_EQ(owner.folderPath(), folder);
-        EXPECT_EQ(GlobalData::sharedData().tempFolderPath(), folder.native());
-        EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
-        EXPECT_EQ(contentsOf(folder / "styles.css"), expectedText("default.css"));
-        EXPECT_EQ(contentsOf(folder / "index.html"), html.utf8());
-        EXPECT_EQ(web.loaded, folder / "index.html");
-        EXPECT_TRUE(log.has("htmlPath: " + (folder / "index.html").native()));
-        EXPECT_FALSE(owner.needToWriteCSSFile());
-        owner.writeFile();
-        EXPECT_EQ(web.reloads, 0) << "nothing changed yet";
-
-        html.contents = u"edited by hand";
-        for (const std::int64_t orientation : {orientation::radial, orientation::bottomToTop}) {
-            GlobalData::sharedData().setOrientationType(orientation);
-            owner.updateBackgroundColorDataUpdatedNotification({});
-            EXPECT_EQ(contentsOf(folder / "styles.css"), css.utf8());
-        }
-        EXPECT_EQ(web.reloads, 2);
-        EXPECT_TRUE(owner.needToWriteCSSFile());
-        EXPECT_FALSE(owner.needToWriteHTMLFile());
-        EXPECT_NE(contentsOf(folder / "index.html"), html.utf8()) << "the page file is never rewritten";
+    code->createHTMLIndexFile();
+    EXPECT_EQ(GlobalData::sharedData().tempFolderPath(), folder.native());
+    EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(contentsOf(folder / "styles.css"), contentsOf(data / "default.css"));
+    EXPECT_EQ(web.loaded, folder / "index.html");
+    html.contents = u"edited by hand";
+    for (const std::int64_t orientation : {orientation::radial, orientation::bottomToTop}) {
+        update(orientation);
+        EXPECT_EQ(contentsOf(folder / "styles.css"), css.utf8());
     }
-    EXPECT_FALSE(std::filesystem::exists(folder));
+    EXPECT_EQ(web.reloads, 2);
+    EXPECT_EQ(contentsOf(folder / "index.html"), contentsOf(data / "default.html")) << "never rewritten";
+    code.reset();
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator{temporary.path}, {}), 2)
+        << "its folder goes, others stay";
 }
 
 TEST_F(WebCodeTest, goesOnWithoutAPreviewWhenTheDiskRefuses) {
-    const auto file = temporary.path / "file";
-    std::ofstream{file} << "x";
-    for (const auto& refused : {temporary.path / "missing", file}) {
-        WebCode owner{html, css, web, refused};
-        owner.createHTMLIndexFile();
-        EXPECT_EQ(owner.folderPath(), "");
-        EXPECT_EQ(log.messages.back().rfind("No preview folder: " + refused.native(), 0), 0U);
-    }
+    WebCode{html, css, web, temporary.path / "missing"}.createHTMLIndexFile();
+    EXPECT_EQ(log.messages.back().rfind("No preview folder: ", 0), 0U);
     EXPECT_EQ(web.loaded, "");
-
-    code.createHTMLIndexFile();
-    std::filesystem::remove_all(code.folderPath()); // someone tidied up
+    code->createHTMLIndexFile();
+    std::filesystem::remove_all(code->folderPath()); // and someone takes its place
+    const auto theirs = code->folderPath() / "styles.css" / "theirs";
+    std::filesystem::create_directories(theirs);
     update();
     EXPECT_EQ(log.messages.back().rfind("Preview file not written: ", 0), 0U);
-    EXPECT_EQ(css.utf8(), expectedText("default.css"));
+    EXPECT_EQ(css.utf8(), contentsOf(data / "default.css"));
+    code.reset();
+    EXPECT_TRUE(std::filesystem::exists(theirs));
 }
 
 } // namespace

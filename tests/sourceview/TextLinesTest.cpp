@@ -1,10 +1,11 @@
-#include "sourceview/LineIndices.h"
-#include "sourceview/LongLineWatch.h"
-#include "sourceview/TextMirror.h"
+// The lines of a text and their numbers in the gutter.
+
+#include "sourceview/GutterLayout.h"
+#include "sourceview/TextEdit.h"
+#include "sourceview/TextLayout.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <random>
 
 namespace tessaly {
 namespace {
@@ -24,65 +25,76 @@ TEST(LineIndices, knowsSixTerminatorsAndTheEmptyLastLine) {
             EXPECT_EQ(lines.lineNumberForCharacterIndex(index), next - starts.begin() - 1);
         }
     }
-    EXPECT_EQ(LineIndices{}.lineNumberForCharacterIndex(7) + LineIndices{}.count(), 0U);
 }
 
-TEST(TextEdit, isWhatReallyDiffers) {
-    const std::u16string rainbow = u"x\U0001F308y";
-    const std::u16string umbrella = u"x\U0001F302y"; // the same high surrogate
-    const std::u16string clef = u"x\U0001D308y";     // the same low surrogate
-    const std::vector<std::tuple<std::u16string, std::u16string, TextEdit>> rows{
-        {u"same", u"same", {}},   {u"#000 0%", u"#00ff00 0%", {3, 0, 3}}, {u"aaa", u"a", {1, 2, 0}},
-        {u"", u"new", {0, 0, 3}}, {rainbow, umbrella, {1, 2, 2}},         {rainbow, clef, {1, 2, 2}}};
-    for (const auto& [before, after, edit] : rows) {
-        EXPECT_EQ(TextEdit::between(before, after), edit);
+/// Every character in a row of its own, 20 points high, shown ten at a time from `top` on.
+struct FakeTextLayout : TextLayout {
+    std::vector<Rect> rectanglesOfEmptyRange(std::size_t offset) const override {
+        ++asked;
+        return offset == 100 ? std::vector<Rect>{} : std::vector<Rect>{{0, 20.0 * double(offset), 1, 20}};
     }
-    const std::vector<std::pair<std::size_t, std::size_t>> places{{9, 9},   {10, 10}, {11, 11}, {13, 12},
-                                                                  {14, 12}, {15, 12}, {20, 17}};
-    for (const auto& [before, after] : places) {
-        EXPECT_EQ((TextEdit{10, 5, 2}.mapped(before)), after);
+    TextRange charactersIn(const Rect& rectangle) const override {
+        return {std::size_t(rectangle.y / 20), 10};
     }
-    const TextEdit withSeparator{0, 11, 6};
-    EXPECT_EQ(TextEdit::reported(withSeparator, 10, 5), (TextEdit{0, 10, 5}));
-    const TextEdit contradictory{3, 1, 1};
-    EXPECT_EQ(TextEdit::reported(contradictory, 10, 12), (TextEdit{0, 10, 12}));
+    Rect visibleRect() const override { return {0, top, 300, 200}; }
+    double insetHeight() const override { return 3; }
+    Size sizeOf(std::string_view label) const override { return {7.25 * double(label.size()), 12}; }
+
+    double top = 0;
+    mutable int asked = 0;
+};
+
+class GutterLayoutTest : public testing::Test {
+  protected:
+    void setLines(std::size_t count) { lines = LineIndices{std::u16string(count - 1, u'\n')}; }
+    std::vector<GutterLabel> labels() const {
+        return gutter.labels(40, [](std::size_t line) { return line == 99; });
+    }
+
+    FakeTextLayout text;
+    LineIndices lines;
+    const GutterLayout gutter{text, lines};
+};
+
+TEST_F(GutterLayoutTest, isWideEnoughForTheLastNumber) {
+    using Row = std::pair<std::size_t, double>;
+    for (const auto& [count, thickness] : {Row{9, 22}, {10, 25}, {99, 25}, {100, 32}, {1000, 39}}) {
+        setLines(count);
+        EXPECT_EQ(gutter.requiredThickness(), thickness) << count;
+    }
 }
 
-TEST(LongLineWatch, looksFarEnoughBackAndAhead) {
-    const std::u16string text = u"\n" + std::u16string(10'001, u'x') + u"\n";
-    for (const std::size_t position : {0U, 5'000U, 10'000U}) {
-        LongLineWatch watch;
-        watch.textEdited(std::u16string_view{text}.substr(1, 10'000), {position, 0, 0});
-        EXPECT_FALSE(watch.hasLongLine());
-        watch.textEdited(text, {position + 1, 0, 1});
-        EXPECT_TRUE(watch.hasLongLine()) << position;
-    }
+TEST_F(GutterLayoutTest, placesNumbersAndMarkersBesideTheFirstRows) {
+    setLines(103);
+    text.top = 1970;
+    const auto shown = labels();
+    // Line 98 is half scrolled out and line 100 has no layout; the text ends with line 102.
+    ASSERT_EQ(shown.size(), 4U);
+    EXPECT_EQ(shown[0], (GutterLabel{98, "99", {40 - 14.5 - 5, -7 + 4, 30, 20}, -7, 20, false}));
+    EXPECT_EQ(shown[1], (GutterLabel{99, "100", {40 - 21.75 - 5, 13 + 4, 30, 20}, 13, 20, true}));
+    EXPECT_EQ(shown[2].text + shown[3].text, "102103");
+    EXPECT_EQ(GutterLayout::markerPosition(shown[1], 40, {38, 13}, 6.5), (Point{1, 13 + 10 - 6.5}));
+    EXPECT_EQ(gutter.lineNumberForLocation(9), 99U) << "without the inset";
+    EXPECT_EQ(gutter.lineNumberForLocation(10), 100U);
+    EXPECT_EQ(gutter.lineNumberForLocation(30), GutterLayout::notFound);
 }
 
-TEST(LongLineWatch, knowsAfterEveryEditWhetherALineIsTooLong) {
-    std::mt19937 random{5};
-    TextMirror text;
-    LongLineWatch watch;
-    int changes = 0;
-    for (int i = 0; i < 1500; ++i) {
-        const std::size_t position = random() % (text.text().size() + 1);
-        const std::size_t behind = text.text().size() - position;
-        std::u16string added(random() % 6000, u'x');
-        if (i % 2 != 0) {
-            added.insert(random() % (added.size() + 1), 1, u'\n');
-        }
-        const bool before = watch.hasLongLine();
-        const TextEdit edit = text.replace(position, i % 3 == 0 ? random() % (behind + 1) / 2 : 0, added);
-        watch.textEdited(text.text(), edit);
-        bool expected = false;
-        for (std::size_t start = 0, end = 0; start <= text.text().size(); start = end + 1) {
-            end = std::min(text.text().find(u'\n', start), text.text().size());
-            expected = expected || end - start > 10'000;
-        }
-        ASSERT_EQ(watch.hasLongLine(), expected) << "edit " << i;
-        changes += before != expected ? 1 : 0;
+TEST_F(GutterLayoutTest, labelsVisibleLinesOnlyAndTheOneRightBehind) {
+    setLines(100'000);
+    for (text.top = 2400; text.top < 100'000 * 20.0 - 200; text.top += 1240) {
+        text.asked = 0;
+        ASSERT_EQ(labels().size(), 11U) << "ten rows fit";
+        ASSERT_EQ(text.asked, 11);
     }
-    EXPECT_GT(changes, 20);
+    text.top = 20;
+    lines = LineIndices{std::u16string(9, u'x') + u"\ny"};
+    EXPECT_EQ(labels().size(), 1U) << "the first row is scrolled out";
+}
+
+TEST(TextEdit, isNoMoreThanDiffersAndNeverCutsASurrogatePair) {
+    EXPECT_EQ(TextEdit::between(u"aaa", u"a"), (TextEdit{1, 2, 0}));
+    EXPECT_EQ(TextEdit::between(u"x\U0001F308y", u"x\U0001F302y"), (TextEdit{1, 2, 2}));
+    EXPECT_EQ(TextEdit::between(u"x\U0001F308y", u"x\U0001D308y"), (TextEdit{1, 2, 2}));
 }
 
 } // namespace

@@ -2,65 +2,60 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <unistd.h>
 
 namespace tessaly {
 
-/// Strikes at one of the system calls by which SQLite changes files: ends the process there, or makes that
-/// one call fail, or lets no file grow from then on.
+/// Makes the disk fail this process, by the calls with which SQLite changes files and by every rename.
 class FailingDisk {
   public:
-    enum class Failure { Crash, OneError, NoSpace };
+    /// At a call: the process ends there, or it fails. From a call on: no file grows, or none can be renamed.
+    enum Failure { Crash, OneError, NoSpace, NoRename };
 
-    /// `call` counts from 1.
-    FailingDisk(int call, Failure failure) {
+    /// For the rest of the process. `call` counts from 1, and from here.
+    static void failAt(int call, Failure failure) {
         failure_ = failure;
         callsLeft_ = call;
-        install(true);
+        const auto hook = [vfs = sqlite3_vfs_find(nullptr)](const char* name, auto* function) {
+            vfs->xSetSystemCall(vfs, name, reinterpret_cast<sqlite3_syscall_ptr>(function));
+        };
+        hook("pwrite", pwrite);
+        hook("pwrite64", pwrite); // which of the two there is depends on how SQLite was built
+        hook("ftruncate", ftruncate);
+        hook("unlink", unlink);
     }
-    FailingDisk(const FailingDisk&) = delete;
-    FailingDisk& operator=(const FailingDisk&) = delete;
-    ~FailingDisk() { install(false); }
 
-    bool hasStruck() const { return callsLeft_ <= 0; }
+    static bool hasStruck() { return callsLeft_ <= 0; }
 
-  private:
-    static bool strikes(bool needsSpace) {
+    /// Counts a call. `lasting` is the failure that makes all of its kind fail.
+    static bool strikes(Failure lasting) {
         --callsLeft_;
-        if (callsLeft_ > 0 || (callsLeft_ < 0 && failure_ == Failure::OneError)) {
-            return false;
-        }
-        if (failure_ == Failure::Crash) {
+        if (callsLeft_ == 0 && failure_ == Crash) {
             std::raise(SIGKILL);
         }
-        errno = failure_ == Failure::NoSpace ? ENOSPC : EIO;
-        return needsSpace || failure_ != Failure::NoSpace;
+        errno = failure_ == NoSpace ? ENOSPC : EIO;
+        return failure_ == OneError ? callsLeft_ == 0 : failure_ == lasting && callsLeft_ <= 0;
     }
-    static ssize_t write(int file, const void* data, std::size_t size) {
-        return strikes(true) ? -1 : ::write(file, data, size);
-    }
+
+  private:
     static ssize_t pwrite(int file, const void* data, std::size_t size, off_t at) {
         const bool growsFile = ::lseek(file, 0, SEEK_END) < at + static_cast<off_t>(size);
-        return strikes(growsFile) ? -1 : ::pwrite(file, data, size, at);
+        return strikes(growsFile ? NoSpace : OneError) ? -1 : ::pwrite(file, data, size, at);
     }
-    static int ftruncate(int file, off_t size) { return strikes(false) ? -1 : ::ftruncate(file, size); }
-    static int unlink(const char* path) { return strikes(false) ? -1 : ::unlink(path); }
+    static int ftruncate(int file, off_t size) { return strikes(OneError) ? -1 : ::ftruncate(file, size); }
+    static int unlink(const char* path) { return strikes(OneError) ? -1 : ::unlink(path); }
 
-    static void install(bool hooked) {
-        const auto set = [hooked](const char* name, auto* call) {
-            sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr);
-            vfs->xSetSystemCall(vfs, name, hooked ? reinterpret_cast<sqlite3_syscall_ptr>(call) : nullptr);
-        };
-        set("write", write);
-        set("pwrite", pwrite);
-        set("pwrite64", pwrite);
-        set("ftruncate", ftruncate);
-        set("unlink", unlink);
-    }
-
-    static inline Failure failure_ = Failure::Crash;
-    static inline int callsLeft_ = 0;
+    static inline Failure failure_ = OneError;
+    static inline int callsLeft_ = 1'000'000;
 };
+
+/// Stands in for the system's own under its name, for the standard library too.
+inline int failingRename(const char* from, const char* to) noexcept asm("rename");
+[[gnu::used]] inline int failingRename(const char* from, const char* to) noexcept {
+    return FailingDisk::strikes(FailingDisk::NoRename) ? -1 : ::renameat(AT_FDCWD, from, AT_FDCWD, to);
+}
 
 } // namespace tessaly

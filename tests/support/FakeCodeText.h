@@ -25,7 +25,7 @@ class FakeCodeText : public CodeText {
         rangesInBounds = rangesInBounds && range.end() <= contents.size();
         contents.replace(range.location, range.length, std::u16string(text.begin(), text.end()));
     }
-    void redisplay() override { ++redisplays; }
+    void redisplay() override {}
 
     std::string utf8() const { return toUtf8(contents); }
 
@@ -33,7 +33,6 @@ class FakeCodeText : public CodeText {
     std::size_t caret = 0;
     bool editable = false;
     bool rangesInBounds = true;
-    int redisplays = 0;
 };
 
 } // namespace tessaly

@@ -1,28 +1,19 @@
 #pragma once
 
 #include <csignal>
+#include <memory>
 #include <sys/resource.h>
 
 namespace tessaly {
 
-/// Lets no file grow beyond a number of bytes, as a full disk does.
-class FileSizeLimit {
-  public:
-    explicit FileSizeLimit(rlim_t bytes) : handler_{std::signal(SIGXFSZ, SIG_IGN)} {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-  private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
+/// Lets no file grow beyond a number of bytes, as a full disk does, until the answer is dropped.
+inline std::shared_ptr<void> limitFileSize(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
+    rlimit before{};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit limit{bytes, before.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    return {nullptr, [before](void*) { ::setrlimit(RLIMIT_FSIZE, &before); }};
+}
 
 } // namespace tessaly

@@ -18,9 +18,8 @@ class LogCapture {
     LogCapture& operator=(const LogCapture&) = delete;
     ~LogCapture() { DiagnosticLog::exchangeSink(std::move(previous_)); }
 
-    bool has(const std::string& message) const {
-        return std::find(messages.begin(), messages.end(), message) != messages.end();
-    }
+    auto count(const std::string& text) const { return std::count(messages.begin(), messages.end(), text); }
+    bool has(const std::string& text) const { return count(text) > 0; }
 
     std::vector<std::string> messages;
 

@@ -6,9 +6,8 @@ namespace tessaly {
 
 /// The palette of a dark desktop.
 inline QPalette darkPalette() {
-    QPalette palette{QColor{0x35, 0x35, 0x35}, QColor{0x2d, 0x2d, 0x2d}};
+    QPalette palette{QColor{0x35, 0x35, 0x35}, QColor{0x2d, 0x2d, 0x2d}}; // and light text, by the toolkit
     palette.setColor(QPalette::Base, QColor{0x1e, 0x1e, 0x1e});
-    palette.setColor(QPalette::Text, QColor{0xe6, 0xe6, 0xe6});
     return palette;
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "model/GlobalData.h"
 #include "presets/PresetGallery.h"
+#include "presets/PresetGalleryView.h"
 #include "presets/PresetStore.h"
-#include "support/FakeGalleryView.h"
 
 #include <filesystem>
 
@@ -21,33 +20,29 @@ inline void start(PresetStore& store) {
     store.readData();
 }
 
+/// A container of thumbnails without a toolkit.
+class FakeGalleryView : public PresetGalleryView {
+  public:
+    double scrollViewHeight() const override { return scrollHeight; }
+    void setContainerSize(Size size) override { containerSize = size; }
+    void thumbnailInserted(std::size_t /*position*/) override { ++thumbnails; }
+    void thumbnailRemoved(std::size_t /*position*/) override { --thumbnails; }
+    void thumbnailsMoved() override {}
+
+    double scrollHeight = 250.0;
+    Size containerSize;
+    int thumbnails = 0;
+};
+
 /// The gallery and its store, wired and started as the program does it.
 struct PresetProgram {
-    explicit PresetProgram(const std::filesystem::path& applicationSupport)
-        : store{gallery, applicationSupport} {
-        start(store);
-    }
+    explicit PresetProgram(const std::filesystem::path& support) : store{gallery, support} { start(store); }
 
     const std::vector<Preset>& presets() const { return gallery.presetGradient(); }
 
     FakeGalleryView view;
-    PresetGallery gallery{view, {[this] { ++applied; }, [this] { store.insertData(); }}};
+    PresetGallery gallery{view, {[] {}, [this] { store.insertData(); }}};
     PresetStore store;
-    int applied = 0;
 };
-
-/// Makes a gradient with that many stops the one being edited; all its numbers follow from `number`.
-inline void editGradient(std::int64_t number, int stops) {
-    GlobalData& data = GlobalData::sharedData();
-    data = GlobalData{};
-    data.setOrientationType(number % 5);
-    for (int i = 0; i < stops; ++i) {
-        const double fraction = 1.0 / static_cast<double>(number + i + 2);
-        data.colorMarkerPos().push_back(fraction);
-        data.colorMarkerColor().push_back(
-            Color::calibratedRGB(fraction, 1.0 - fraction, fraction * fraction));
-        data.colorMarkerOpacity().push_back(1.0 - fraction * 0.5);
-    }
-}
 
 } // namespace tessaly

@@ -6,125 +6,65 @@
 #include "support/Eventually.h"
 #include "support/Gradients.h"
 
-#include <QEventLoop>
 #include <QImage>
 #include <QSignalSpy>
-#include <QTest>
-#include <QWebEnginePage>
 #include <QWebEngineView>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <numeric>
 
 namespace tessaly {
 namespace {
 
-constexpr QSize box{400, 236};
+constexpr int width = 400;
+constexpr int height = 236;
 
-int difference(const QImage& picture, const std::vector<std::uint32_t>& pixels) {
-    int worst = picture.size() == box ? 0 : 255;
-    for (int y = 0; worst < 255 && y < box.height(); ++y) {
-        for (int x = 0; x < box.width(); ++x) {
-            const QRgb ours = pixels[static_cast<std::size_t>(y * box.width() + x)];
-            const QRgb theirs = picture.pixel(x, y);
-            worst =
-                std::max({worst, std::abs(qRed(ours) - qRed(theirs)), std::abs(qGreen(ours) - qGreen(theirs)),
-                          std::abs(qBlue(ours) - qBlue(theirs))});
+// Linear as the canvas paints it; radial as the code has it, an ellipse that ends in the corners.
+std::vector<std::uint32_t> expectedPixels(const GlobalData& gradient) {
+    std::vector<std::uint32_t> pixels(width * height);
+    const GradientRamp ramp{CanvasScene::drawnStops(gradient), {1, 1, 1, 1}};
+    if (gradient.orientationType() == orientation::radial) {
+        for (int i = 0; i < width * height; ++i) {
+            const double x = (i % width + 0.5) / width - 0.5;
+            const double y = (i / width + 0.5) / height - 0.5;
+            pixels[static_cast<std::size_t>(i)] = ramp.pixelAt(std::hypot(x, y) * std::sqrt(2.0));
         }
+    } else {
+        fillLinear({pixels, width, height, 1.0, height}, {0, 0, width, height},
+                   gradientDirection(gradient.orientationType()), ramp);
     }
-    return worst;
+    return pixels;
 }
 
-class BrowserTest : public testing::Test {
-  protected:
-    BrowserTest() {
-        resetToDefaultGradient();
-        view.resize(box);
-        view.show();
-    }
-
-    // Shows a page that consists of one box with the given declaration.
-    void show(const std::string& declaration) {
+TEST(Browser, paintsEveryOrientationAndNotationAsTheCanvasDoes) {
+    QWebEngineView view;
+    view.resize(width, height);
+    view.show();
+    GlobalData gradient;
+    gradient.setColorMarkerPos({0.1, 0.25, 0.6, 0.999});
+    gradient.setColorMarkerColor({Color::calibratedRGB(1.0, 0.2, 0.0), Color::white(), Color::black(),
+                                  Color::calibratedRGB(0.0, 0.4, 0.8)});
+    gradient.setColorMarkerOpacity({1.0, 0.5, 0.2, 0.8});
+    const std::int64_t notations = std::ssize(colorFormat::notations);
+    for (std::int64_t i = 0; i < 5 * notations; ++i) {
+        gradient.setColorFormatType(i % notations);
+        gradient.setOrientationType(i / notations);
+        const std::string declaration = declarationText(Declaration::Standard, gradient);
         QSignalSpy loaded{&view, &QWebEngineView::loadFinished};
         view.setHtml(QStringLiteral("<style>html{overflow:hidden}body{margin:0;background:white}"
                                     "div{height:236px;%1}</style><div></div>")
                          .arg(QString::fromStdString(declaration)));
         ASSERT_TRUE(loaded.wait(20'000));
-    }
-
-    QString computedBackground() {
-        QString result;
-        QEventLoop loop;
-        view.page()->runJavaScript(
-            QStringLiteral("getComputedStyle(document.querySelector('div')).backgroundImage"),
-            [&](const QVariant& value) {
-                result = value.toString();
-                loop.quit();
-            });
-        loop.exec();
-        return result;
-    }
-
-    // How far the box as the engine paints it is from our pixels. It paints when it likes, so this waits for
-    // it.
-    int worstDifference(const std::vector<std::uint32_t>& pixels) {
-        int worst = 255;
-        eventually([&] {
+        const std::vector<std::uint32_t> expected = expectedPixels(gradient);
+        const auto levelsOff = [&] {
             const QImage picture = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
-            worst = difference(picture, pixels);
-            return worst <= 2;
-        });
-        return worst;
-    }
-
-    QWebEngineView view;
-};
-
-std::vector<std::uint32_t> rasterized() {
-    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(box.width() * box.height()));
-    const PixelBuffer buffer{pixels, box.width(), box.height(), 1.0, static_cast<double>(box.height())};
-    const GradientRamp ramp{CanvasScene::drawnStops(GlobalData::sharedData()), {1, 1, 1, 1}};
-    fillLinear(buffer, {0, 0, static_cast<double>(box.width()), static_cast<double>(box.height())},
-               gradientDirection(GlobalData::sharedData().orientationType()), ramp);
-    return pixels;
-}
-
-void setStops(int count, double opacity) {
-    GlobalData& data = GlobalData::sharedData();
-    data = GlobalData{};
-    data.setColorFormatType(colorFormat::rgba);
-    for (int i = 0; i < count; ++i) {
-        data.colorMarkerPos().push_back(std::round(1000.0 * i / (count - 1)) / 1000);
-        data.colorMarkerColor().push_back(Color::calibratedRGB(
-            (i * 97 % 256) / 255.0, (i * 151 % 256) / 255.0, (255 - i * 59 % 256) / 255.0));
-        data.colorMarkerOpacity().push_back(opacity);
-    }
-}
-
-TEST_F(BrowserTest, acceptsTheStandardDeclarationOfEveryOrientation) {
-    const std::pair<std::int64_t, const char*> rows[] = {{0, "linear-gradient(to top, "},
-                                                         {1, "linear-gradient(to right, "},
-                                                         {2, "linear-gradient(45deg, "},
-                                                         {3, "linear-gradient(-45deg, "},
-                                                         {4, "radial-gradient("}};
-    for (const auto& [orientation, start] : rows) {
-        GlobalData::sharedData().setOrientationType(orientation);
-        show(declarationText(Declaration::Standard, GlobalData::sharedData()));
-        const std::string computed = computedBackground().toStdString();
-        EXPECT_EQ(computed.rfind(start, 0), 0U) << computed;
-        EXPECT_NE(computed.find("rgb(255, 255, 255) 100%)"), std::string::npos) << computed;
-    }
-}
-
-TEST_F(BrowserTest, paintsLinearGradientsAsTheCanvasDoes) {
-    for (const int stops : {2, 3, 20}) {
-        for (const double opacity : {1.0, 0.5}) {
-            for (const std::int64_t orientation : {0, 1, 2, 3}) {
-                setStops(stops, opacity);
-                GlobalData::sharedData().setOrientationType(orientation);
-                show(declarationText(Declaration::Standard, GlobalData::sharedData()));
-                EXPECT_LE(worstDifference(rasterized()), 2)
-                    << stops << " stops, opacity " << opacity << ", orientation " << orientation;
-            }
-        }
+            const auto* const bytes = reinterpret_cast<const uchar*>(expected.data());
+            return std::inner_product(
+                bytes, bytes + picture.sizeInBytes(), picture.constBits(), 0,
+                [](int one, int other) { return std::max(one, other); },
+                [](int ours, int theirs) { return std::abs(ours - theirs); });
+        };
+        ASSERT_TRUE(eventually([&] { return levelsOff() <= 2; })) << levelsOff() << declaration;
     }
 }
 

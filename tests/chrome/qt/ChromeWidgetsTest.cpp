@@ -1,0 +1,178 @@
+// The tab strip, the blue labels, and the sheets whose links and buttons open pages.
+
+#include "chrome/RelatedTools.h"
+#include "chrome/qt/About.h"
+#include "chrome/qt/MainTabView.h"
+#include "chrome/qt/RelatedApps.h"
+#include "chrome/qt/WebAddressOpener.h"
+#include "chrome/qt/WebLabel.h"
+#include "support/LogCapture.h"
+#include "support/Palettes.h"
+
+#include <QEnterEvent>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTest>
+#include <any>
+#include <gtest/gtest.h>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class LinksTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        WebAddressOpener::exchangeOpener([this](const QUrl& url) { opened += url.toString(); });
+    }
+    void TearDown() override { WebAddressOpener::exchangeOpener({}); }
+
+    const LogCapture log;
+    QStringList opened;
+    WebLabel label{u"example.org"_s};
+};
+
+TEST_F(LinksTest, aLabelIsUnderlinedUnderThePointerAndStaysBlue) {
+    QEnterEvent enter{{1, 1}, {1, 1}, {1, 1}};
+    QCoreApplication::sendEvent(&label, &enter);
+    EXPECT_TRUE(label.font().underline());
+    EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
+    QEvent leave{QEvent::Leave};
+    QCoreApplication::sendEvent(&label, &leave);
+    EXPECT_FALSE(label.font().underline());
+    EXPECT_EQ(label.palette().windowText().color(), QColor{Qt::blue});
+    label.setPalette(darkPalette());
+    EXPECT_GT(label.palette().windowText().color().lightness(), 160) << "readable on a dark desktop";
+}
+
+TEST_F(LinksTest, aLabelOpensItsAddressOnAClickOrAKey) {
+    QTest::mouseClick(&label, Qt::LeftButton);
+    QTest::mouseClick(&label, Qt::RightButton);
+    QTest::keyClicks(&label, u" a\r"_s);
+    QAccessibleInterface* const link = QAccessible::queryAccessibleInterface(&label);
+    EXPECT_EQ(link->role(), QAccessible::Link);
+    EXPECT_EQ(link->text(QAccessible::Name), u"example.org"_s);
+    link->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(opened, QStringList(4, u"http://example.org"_s));
+}
+
+TEST_F(LinksTest, anAddressNeedsOnePrefixAnywhereAndOpensOnlyIfItIsOne) {
+    const std::vector<std::array<QString, 3>> rows{
+        {u"hTTp://example.org/A"_s, u"http://example.org/A"_s, u"Found hTTp://example.org/A"_s},
+        {u"https://\u00E4.org"_s, u"http://https//\u00E4.org"_s, u"Not Found https://\u00E4.org"_s},
+        {u"[::1"_s, {}, u"Not Found [::1"_s},
+        {u"see http://example.org"_s, {}, u"Found see http://example.org"_s}};
+    for (const auto& [text, page, logLine] : rows) {
+        label.setText(text);
+        label.openAddress();
+        EXPECT_EQ(opened, page.isEmpty() ? QStringList{} : QStringList{page});
+        EXPECT_EQ(log.messages.back(), logLine.toStdString());
+        opened.clear();
+    }
+}
+
+TEST_F(LinksTest, theSheetsAreKeptWhenTheyCloseAndLinkHomeAndToEveryTool) {
+    About about;
+    RelatedApps relatedApps;
+    for (QDialog* const sheet : std::array<QDialog*, 4>{&about, &relatedApps, &about, &relatedApps}) {
+        sheet->open();
+        EXPECT_TRUE(sheet->isVisible());
+        QTest::keyClick(sheet, Qt::Key_Return);
+        EXPECT_FALSE(sheet->isVisible());
+    }
+    EXPECT_EQ(about.findChild<QLabel*>()->pixmap().deviceIndependentSize(), (QSizeF{64, 64})) << "its icon";
+    auto* const home = about.findChild<WebLabel*>();
+    home->openAddress();
+    EXPECT_EQ(QUrl{opened.takeFirst()}.host(), home->text());
+
+    const QStackedWidget& pages = *relatedApps.findChild<QStackedWidget*>();
+    QStringList expected;
+    for (const RelatedToolGroup& group : relatedTools) {
+        MainTabView{{u"CSS 3"_s}}.setSelectIndex(1); // another strip
+        for (const RelatedTool& tool : group.tools) {
+            expected += QString::fromUtf8(tool.address);
+        }
+        for (auto* const button : pages.currentWidget()->findChildren<QPushButton*>()) {
+            button->click();
+        }
+        relatedApps.tabView().setSelectIndex(1);
+    }
+    EXPECT_EQ(opened, expected);
+}
+
+class MainTabViewTest : public testing::Test {
+  protected:
+    MainTabViewTest() {
+        bar.setGeometry(0, 0, 500, 32);
+        window.show();
+        QCoreApplication::processEvents();
+    }
+    QPoint centerOf(int tab) const { return bar.tabRectangle(tab).center().toPoint(); }
+
+    QWidget window;
+    MainTabView bar{{u"CSS 3"_s, u"HTML"_s, u"Web Preview"_s}, &window};
+    std::vector<std::int64_t> posts;
+    NotificationCenter::Observation observation = NotificationCenter::defaultCenter().addObserver(
+        "SelectIndexChanged", &bar, [this](const Notification& change) {
+            posts.push_back(std::any_cast<std::int64_t>(change.userInfo.at("Index")));
+        });
+};
+
+TEST_F(MainTabViewTest, announcesWhatTheUserChangesAndWhateverTheProgramSelects) {
+    for (const QPoint& place : {centerOf(0), centerOf(2), QPoint{3, 16}, centerOf(1)}) {
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, place); // the first is selected already
+    }
+    QTest::mouseClick(&bar, Qt::RightButton, {}, centerOf(0));
+    for (const auto key :
+         {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Home, Qt::Key_Left, Qt::Key_End}) {
+        QTest::keyClick(&bar, key);
+    }
+    bar.setSelectIndex(2);
+    bar.setSelectIndex(9);
+    QTest::keyClick(&bar, Qt::Key_Home);
+    // Two clicks, four keys, the same tab and one that is not there, a key.
+    EXPECT_EQ(posts, (std::vector<std::int64_t>{2, 1, 2, 1, 0, 2, 2, 9, 0}));
+}
+
+TEST_F(MainTabViewTest, assistiveToolsSeePageTabsThatCanBePressed) {
+    QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&bar);
+    QAccessibleInterface* const tab = list->child(2);
+    ASSERT_EQ(tab->role(), QAccessible::PageTab);
+    EXPECT_EQ(tab->text(QAccessible::Name), u"Web Preview"_s);
+    const QPoint center = bar.mapToGlobal(centerOf(2));
+    EXPECT_EQ(list->childAt(center.x(), center.y()), tab);
+    tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(tab->state().selected && !posts.empty());
+}
+
+TEST_F(MainTabViewTest, keepsItsHitRectanglesAtTheBottomUntilAnyWindowIsResized) {
+    const QRectF tab = bar.tabRectangle(0);
+    bar.resize(700, 64);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.tabRectangle(0), tab.translated(0, 32));
+    QWidget{}.show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.tabRectangle(0), tab.translated(100, 32));
+}
+
+TEST_F(MainTabViewTest, paintsItsOwnColoursOnEveryDesktop) {
+    const QImage light = bar.grab().toImage();
+    bar.setPalette(darkPalette());
+    EXPECT_EQ(bar.grab().toImage(), light);
+    const int box = static_cast<int>(bar.tabRectangle(0).left()) + 3;
+    const int separator = static_cast<int>(bar.tabRectangle(1).right()) + 3;
+    const std::vector<std::array<int, 3>> levels{
+        {2, 31, 179}, {2, 0, 220}, {box, 16, 169}, {separator, 16, 85}, {separator + 1, 16, 255}};
+    for (const auto& [x, y, level] : levels) {
+        EXPECT_NEAR(light.pixelColor(x, y).red(), level, 2) << x;
+    }
+    EXPECT_NE(light.copy(QRect{centerOf(1), QSize{1, 1}}.adjusted(-9, -6, 9, 6)),
+              light.copy(QRect{centerOf(2), QSize{1, 1}}.adjusted(-9, -6, 9, 6)))
+        << "the titles";
+    bar.setFocus();
+    EXPECT_LT(bar.grab().toImage().pixelColor(box, 6).red(), 80) << "the focus is visible";
+}
+
+} // namespace
+} // namespace tessaly

@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# Makes the Debian package of a built tree, validates what is in it, installs it below a folder, where dpkg checks the
+# dependencies against what this machine has, and runs it from there on the current display.
+set -euo pipefail
+build=$1
+
+work=$(mktemp -d)
+root=$work/root
+share=$root/usr/share
+pid=
+trap '[ -z "$pid" ] || { kill "$pid"; wait "$pid"; } 2>/dev/null || true; rm -rf "$work"' EXIT
+export PATH=$PATH:/usr/sbin:/sbin # dpkg insists on finding the programs there, for users too
+
+fail() {
+    echo "FAILED: $1"
+    tail -n 20 "$work/log" || true
+    exit 1
+}
+# Runs a command whose output matters only when it fails.
+must() {
+    "$@" >"$work/log" 2>&1 || fail "$*"
+}
+
+must cpack --config "$build/CPackConfig.cmake" -B "$work/package"
+deb=$(ls "$work"/package/*.deb)
+
+mkdir -p "$root"/var/lib/dpkg/{info,triggers,updates}
+cp /var/lib/dpkg/status "$root/var/lib/dpkg"
+must dpkg --root="$root" --log="$work/dpkg.log" --force-not-root -i "$deb"
+
+id=example.tessaly.Tessaly
+must desktop-file-validate "$share/applications/$id.desktop"
+must appstreamcli validate-tree --no-net "$root"
+must grep -q "<launchable type=\"desktop-id\">$id.desktop<" "$share/metainfo/$id.metainfo.xml"
+must mandoc -T lint -W warning "$share/man/man1/tessaly.1.gz"
+must grep -qx "Icon=$id" "$share/applications/$id.desktop"
+must test -s "$share/icons/hicolor/scalable/apps/$id.svg"
+for size in 16 22 24 32 48 64 128 256 512; do
+    file "$share/icons/hicolor/${size}x$size/apps/$id.png" >"$work/log"
+    grep -q "PNG image data, $size x $size," "$work/log" || fail "no icon of $size pixels"
+done
+must lintian --allow-root --fail-on error,warning "$deb"
+
+files() {
+    (cd "$1" && find usr -type f -printf '%m %p\n' | sort)
+}
+DESTDIR=$work/staged must cmake --install "$build" --prefix /usr
+must diff <(files "$root") <(files "$work/staged")
+
+export HOME=$work/home TMPDIR=$work XDG_DATA_HOME=$work/home XDG_CONFIG_HOME=$work/home XDG_CACHE_HOME=$work/home XDG_RUNTIME_DIR=$work/home
+mkdir -m 700 "$HOME"
+program=$root/usr/bin/tessaly
+[ "$(env -u DISPLAY -u WAYLAND_DISPLAY "$program" --version)" = "Tessaly $(dpkg-deb -f "$deb" Version)" ] || fail "no version, or another"
+timeout 60 "$program" 2>"$work/log" &
+pid=$!
+window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Tessaly$') || fail "no window"
+xdotool windowfocus --sync "$window" key ctrl+q
+wait "$pid" || fail "the program ended with status $?"
+echo "ok"

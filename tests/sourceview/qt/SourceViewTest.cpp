@@ -1,0 +1,252 @@
+// A code view, the band behind its selected lines, and its gutter.
+
+#include "sourceview/qt/Css3SourceView.h"
+#include "sourceview/qt/CustomTextView.h"
+#include "sourceview/qt/MarkerLineNumberView.h"
+#include "support/Palettes.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBlock>
+#include <ctime>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::string_literals;
+
+class SourceViewTest : public testing::Test {
+  protected:
+    SourceViewTest() {
+        QObject::connect(&view, &CustomTextView::userEdited,
+                         [this](auto... edit) { edits.push_back({edit...}); });
+        gutter.setFont(QFont{u"DejaVu Sans"_s, 10});
+        page.resize(300, 200);
+        page.show();
+    }
+
+    void setLines(std::size_t count) { view.setText(std::u16string(count - 1, u'\n')); }
+    // A row of pixels through the middle of a row of the text.
+    QImage lineThrough(QWidget& widget, int row) const {
+        const QRectF first = view.highlightRectForRange({0, 0});
+        const double y = first.center().y() + row * first.height();
+        return widget.grab().toImage().copy(0, static_cast<int>(y), widget.width(), 1);
+    }
+    auto marker(float line) {
+        const auto image = gutter.markerImageWithSize({30, 13});
+        return std::make_shared<WendleLineNumberMarker>(&gutter, line, image, QPointF{0, 6.5});
+    }
+
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    Css3SourceView page;
+    CustomTextView& view = *page.textView();
+    MarkerLineNumberView& gutter = *page.lineNumberView();
+    std::vector<TextEdit> edits;
+};
+
+TEST_F(SourceViewTest, keepsEveryCharacterAndEndsLinesWithLF) {
+    const std::u16string odd = u"\uFEFFno\u00A0break\u2028nel\u0085\tb\U0001F308 e\u0301\u05D0\u202E\u0000z"s;
+    const std::u16string lone{u'x', char16_t{0xD83C}, u'y', char16_t{0xDF08}};
+    const std::vector<std::pair<std::u16string, std::u16string>> rows{
+        {odd, odd}, {lone, lone}, {u"a\rb\r\nc\u2029d\n\re\r", u"a\nb\nc\nd\n\ne\n"}};
+    for (const auto& [given, kept] : rows) {
+        view.setText(given);
+        EXPECT_EQ(view.text(), kept);
+        view.selectAll();
+        view.copy();
+        EXPECT_EQ(clipboard.mimeData()->formats(), QStringList{u"text/plain"_s});
+        EXPECT_EQ(clipboard.text().toStdU16String(), kept);
+        clipboard.setText(QStringView{given}.toString());
+        view.paste();
+        EXPECT_EQ(view.text(), kept);
+    }
+}
+
+TEST_F(SourceViewTest, writesBehindTheUsersBack) {
+    const std::u16string lines = u"xxxxxx\n"_s.repeated(300).toStdU16String();
+    view.setText(lines);
+    QTest::keyClicks(&view, u"abcdef"_s);
+    view.setSelection({1000, 5});
+    view.verticalScrollBar()->setValue(50);
+    view.setText(u"abcdef" + lines);
+    EXPECT_TRUE(view.document()->isUndoAvailable()) << "nothing changed";
+    view.setText(u"abc-def" + lines);
+    EXPECT_FALSE(view.document()->isUndoAvailable());
+    EXPECT_EQ(view.selection(), (TextRange{1001, 5})) << "beside the same text";
+    view.replaceCharacters({1001, 0}, u"at the caret");
+    EXPECT_EQ(view.selection(), (TextRange{1001, 17})) << "the caret stays before text put in at it";
+    view.replaceCharacters({2100, 9999}, u"");
+    EXPECT_EQ(view.length(), 2100U);
+    EXPECT_EQ(view.verticalScrollBar()->value(), 50);
+    view.setSelection({1, 1});
+    view.insertText(u"\r\nxy");
+    EXPECT_EQ(view.text().substr(0, 8), u"a\nxyc-de");
+    EXPECT_EQ(view.selection(), (TextRange{4, 0}));
+}
+
+TEST_F(SourceViewTest, reportsEveryEditOfTheUserAndNothingElse) {
+    std::mt19937 random{6};
+    const auto upTo = [&](std::size_t most) { return random() % (most + 1); };
+    const QStringList keys =
+        u"A Backspace Return Ctrl+X Ctrl+V Ctrl+Z Ctrl+Shift+Z composed composing"_s.split(u' ');
+    std::u16string shadow;
+    for (int i = 0; i < 1500; ++i) {
+        if (i % 10 == 0) {
+            view.replaceCharacters(view.selection(), u"generated\n");
+            shadow = view.text();
+            clipboard.setText(u"p\u2028\r\nq\U0001F308"_s);
+        }
+        view.setSelection({upTo(view.length()), upTo(i % 50 == 0 ? view.length() : 3)});
+        if (const QString& key = keys[qsizetype(upTo(8))]; key.startsWith(u"compos")) {
+            QInputMethodEvent event{u"ni"_s, {}};
+            event.setCommitString(key == u"composed"_s ? u"\u4F60"_s : QString{});
+            QCoreApplication::sendEvent(&view, &event);
+        } else {
+            QTest::keySequence(&view, QKeySequence{key});
+        }
+        for (const TextEdit& edit : std::exchange(edits, {})) {
+            ASSERT_LE(edit.position + edit.removed, shadow.size());
+            shadow.replace(edit.position, edit.removed, view.text().substr(edit.position, edit.added));
+        }
+        ASSERT_EQ(shadow, view.text()) << "step " << i;
+        ASSERT_EQ(view.document()->toRawText().replace(u'\u2029', u'\n').toStdU16String(), shadow);
+    }
+}
+
+TEST_F(SourceViewTest, takesPlainTextOnly) {
+    auto* const data = new QMimeData; // the clipboard owns it
+    data->setHtml(u"<b>bold</b>"_s);
+    data->setUrls({QUrl{u"file:///etc/passwd"_s}});
+    clipboard.setMimeData(data);
+    view.paste();
+    EXPECT_EQ(view.text(), u"");
+    data->setText(u"**plain**"_s);
+    view.paste();
+    view.setReadOnly(true);
+    view.paste();
+    EXPECT_EQ(view.text(), u"**plain**");
+}
+
+TEST_F(SourceViewTest, answersSoonAfterAPasteOfFiveMegabytes) {
+    const QString line = u"\tbackground: linear-gradient(to right, #000000 0%, #ffffff 100%);\n"_s;
+    for (const QString& text : {line.repeated(75'000), QString{5'000'000, u'x'}}) {
+        EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
+        clipboard.setText(text);
+        const std::clock_t start = std::clock();
+        view.paste();
+        page.grab();
+        QTest::keyClick(&view, Qt::Key_Left);
+        // Of processor time, so that a busy machine does not make it fail.
+        EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 2.0);
+    }
+    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::NoWrap) << "a line is too long";
+    view.undo();
+    EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
+}
+
+TEST_F(SourceViewTest, theKeyboardIsNotTrapped) {
+    QWidget window;
+    QLineEdit before{&window};
+    page.setParent(&window);
+    QLineEdit after{&window};
+    window.show();
+    using Row = std::pair<QString, QWidget*>;
+    for (const auto& [keys, focused] :
+         {Row{u"Ctrl+Tab"_s, &after}, {u"Shift+Backtab"_s, &before}, {u"Tab"_s, &view}}) {
+        view.setFocus();
+        QTest::keySequence(&view, QKeySequence{keys});
+        EXPECT_EQ(window.focusWidget(), focused);
+    }
+    EXPECT_EQ(view.text(), u"\t");
+    page.setParent(nullptr);
+}
+
+TEST_F(SourceViewTest, aBandCoversTheRowsThatTheSelectionTouches) {
+    view.setText(u"one\ntwo\nthree\n" + std::u16string(45, u'w') + u"\n");
+    const QRect row = view.highlightRectForRange({0, 0}).toAlignedRect();
+    // A range may end with the end of a line, wrap (55), be the empty last line (60) or lie behind the text.
+    const std::vector<std::tuple<TextRange, int, int>> table{
+        {{0, 0}, 0, 1},  {{3, 0}, 0, 1},  {{4, 0}, 1, 1},  {{1, 8}, 0, 3},  {{0, 4}, 0, 1},
+        {{14, 0}, 3, 1}, {{55, 0}, 4, 1}, {{60, 0}, 5, 1}, {{999, 5}, 5, 1}};
+    for (const auto& [range, first, count] : table) {
+        const QRect rows{0, row.y() + first * row.height(), view.viewport()->width(), count * row.height()};
+        EXPECT_EQ(view.highlightRectForRange(range).toAlignedRect(), rows) << range.location;
+    }
+    const auto paintedIn = [&](int i) {
+        return lineThrough(*view.viewport(), i).pixelColor(row.right() - 3, 0);
+    };
+    view.setSelection({5, 5});
+    const std::vector painted{paintedIn(0), paintedIn(1), paintedIn(2), paintedIn(3)};
+    const QColor band{237, 243, 250}; // two fifths of the fill over white
+    EXPECT_EQ(painted, (std::vector<QColor>{Qt::white, band, band, Qt::white}));
+    view.setPalette(darkPalette());
+    EXPECT_EQ(paintedIn(1), QColor(55, 57, 60)) << "still seen, and at least 7 : 1 below the light text";
+}
+
+TEST_F(SourceViewTest, theGutterTakesTheWidthOfTheLastNumberOnTheNextPass) {
+    setLines(1000);
+    EXPECT_EQ(gutter.width(), 22) << "not while it may be drawn";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return gutter.width() == gutter.requiredThickness(); }));
+    page.resize(200, 100);
+    EXPECT_EQ(gutter.geometry().bottomRight(), view.viewport()->geometry().bottomLeft() - QPoint(1, 0));
+}
+
+TEST_F(SourceViewTest, theGutterNumbersTheFirstRowOfEachLineOfItsClient) {
+    view.setText(u"a\n" + std::u16string(60, u'w') + u"\nnel\u0085is no row\u2028but this is");
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(gutter.lineIndices().starts(), (std::vector<std::uint32_t>{0, 1, 3, 64, 68, 78}));
+    const int end = 4 + view.document()->findBlock(3).layout()->lineCount();
+    for (int row = 0; row < end; ++row) { // the toolkit starts no row for the line behind NEL
+        const bool isNumbered = lineThrough(gutter, row) != lineThrough(gutter, end);
+        EXPECT_EQ(isNumbered, row < 3 || row >= end - 2) << row;
+    }
+    EXPECT_TRUE(view.rectangleOfRowAt(gutter.lineIndices()[4]).isNull());
+    gutter.setClientView(&page);
+    EXPECT_EQ(lineThrough(gutter, 0), lineThrough(gutter, end)) << "no text";
+}
+
+TEST_F(SourceViewTest, theGutterKeepsOneMarkerALineAndDrawsItUnderTheNumber) {
+    setLines(50);
+    view.verticalScrollBar()->setValue(1);
+    const auto first = marker(2.9F); // the fraction of a line is cut
+    gutter.addMarker(first);
+    gutter.addMarker(marker(2));
+    EXPECT_NE(gutter.markerAtLine(2), first);
+    gutter.removeMarker(first);
+    EXPECT_EQ(gutter.markerAtLine(2), nullptr) << "whatever marker is there";
+    const double y = view.rectangleOfRowAt(5).center().y();
+    const auto ofNoLine = std::make_shared<RulerMarker>(&gutter, y, first->image(), QPointF{-2, 6.5});
+    gutter.addMarker(marker(4));
+    gutter.setMarkers({marker(3), ofNoLine});
+    gutter.setRuleThickness(26);
+    EXPECT_EQ(first->image()->size(), QSizeF(26, 13)) << "as wide as the gutter";
+    const QColor blue{1, 143, 217};
+    EXPECT_EQ(lineThrough(gutter, 2).pixelColor(4, 0), blue);
+    EXPECT_EQ(lineThrough(gutter, 3).pixelColor(4, 0), QColor{Qt::white});
+    EXPECT_EQ(lineThrough(gutter, 5).pixelColor(4, 0), blue);
+    EXPECT_EQ(lineThrough(gutter, 5).pixelColor(1, 0), QColor{Qt::white});
+}
+
+TEST_F(SourceViewTest, theGutterSavesAndRestoresItsLooks) {
+    MarkerLineNumberView other{&view};
+    QVariantMap archive;
+    other.setAlternateTextColor(QColor{Qt::green});
+    other.setBackgroundColor(QColor{Qt::blue});
+    other.encodeWithCoder(archive);
+    gutter.addMarker(marker(1));
+    gutter.initWithCoder(archive);
+    EXPECT_EQ(gutter.markerAtLine(1), nullptr);
+    EXPECT_EQ(gutter.markerTextAttributes().color, QColor{Qt::green});
+    EXPECT_EQ(gutter.backgroundColor(), QColor{Qt::blue});
+    EXPECT_EQ(gutter.font(), other.font()) << "absent again";
+}
+
+} // namespace
+} // namespace tessaly
