@@ -1,11 +1,9 @@
+#include "Measure.h"
 #include "codegen/DeclarationText.h"
-#include "codegen/WebCode.h"
-#include "codegen/WebView.h"
-#include "foundation/DiagnosticLog.h"
-#include "support/FakeCodeText.h"
 #include "support/Gradients.h"
 
 #include <benchmark/benchmark.h>
+#include <vector>
 
 namespace tessaly {
 namespace {
@@ -22,22 +20,38 @@ void setStops(std::int64_t count) {
     data.colorMarkerOpacity().assign(static_cast<std::size_t>(count), 0.75);
 }
 
-void eightDeclarations(benchmark::State& state) {
-    setStops(state.range(0));
-    for (auto _ : state) {
-        for (const Declaration declaration : allDeclarations) {
-            benchmark::DoNotOptimize(declarationText(declaration, GlobalData::sharedData()));
-        }
+void writeEightDeclarations() {
+    for (const Declaration declaration : allDeclarations) {
+        benchmark::DoNotOptimize(declarationText(declaration, GlobalData::sharedData()));
     }
-    state.SetComplexityN(state.range(0));
 }
 
-BENCHMARK(eightDeclarations)
-    ->Arg(2)
-    ->RangeMultiplier(10)
-    ->Range(100, 100'000)
-    ->Unit(benchmark::kMicrosecond)
-    ->Complexity(benchmark::oN);
+void eightDeclarations(benchmark::State& state) {
+    setStops(state.range(0));
+    measure(state, [](std::size_t /*number*/) { writeEightDeclarations(); });
+}
+
+// One gradient of 100,000 stops against a hundred of 1,000, in turn: 1 when the time grows with the stops
+// alone.
+void declarationGrowth(benchmark::State& state) {
+    std::vector<double> growth;
+    while (state.KeepRunning()) {
+        setStops(100'000);
+        const double one = secondsOf(writeEightDeclarations);
+        setStops(1000);
+        const double hundred = secondsOf([] {
+            for (int i = 0; i < 100; ++i) {
+                writeEightDeclarations();
+            }
+        });
+        growth.push_back(one / hundred);
+        state.SetIterationTime(one + hundred);
+    }
+    state.counters["median"] = median(growth);
+}
+
+BENCHMARK(eightDeclarations)->ArgName("stops")->Arg(2)->UseManualTime();
+BENCHMARK(declarationGrowth)->Iterations(11)->UseManualTime();
 
 } // namespace
 } // namespace tessaly

@@ -1,49 +1,50 @@
 // What a user waits for: the presets at start-up, and the save after one more preset, with its safety copy
-// and its checkpoint. Each with a log that drops everything and with standard error going to a file.
+// and its checkpoint. The log goes to a file, as a desktop session keeps it.
 
-#include "foundation/DiagnosticLog.h"
+#include "Measure.h"
+#include "model/GlobalData.h"
+#include "presets/PresetNotification.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
+#include <optional>
 #include <unistd.h>
 
 namespace tessaly {
 namespace {
 
-enum LogTarget : std::int64_t { Dropped, File };
-
-/// Sends the log to one of the targets during its life.
+/// Sends standard error, and the log with it, to a file in that folder during its life.
 class LogRedirection {
   public:
-    LogRedirection(std::int64_t target, const std::filesystem::path& folder)
-        : standardError_{::dup(STDERR_FILENO)} {
+    explicit LogRedirection(const std::filesystem::path& folder) : standardError_{::dup(STDERR_FILENO)} {
         const int file = ::open((folder / "log").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
         ::dup2(file, STDERR_FILENO);
         ::close(file);
-        if (target == Dropped) {
-            before_ = DiagnosticLog::exchangeSink([](auto) {});
-        }
     }
     LogRedirection(const LogRedirection&) = delete;
     LogRedirection& operator=(const LogRedirection&) = delete;
     ~LogRedirection() {
         ::dup2(standardError_, STDERR_FILENO);
         ::close(standardError_);
-        if (before_) {
-            DiagnosticLog::exchangeSink(std::move(before_));
-        }
     }
 
   private:
-    DiagnosticLog::Sink before_;
     int standardError_;
 };
 
 void fill(PresetProgram& program, std::int64_t count) {
-    editGradient(1, 5);
+    GlobalData& data = GlobalData::sharedData();
+    data = GlobalData{};
+    for (int i = 0; i < 5; ++i) {
+        const double fraction = 1.0 / (i + 3);
+        data.colorMarkerPos().push_back(fraction);
+        data.colorMarkerColor().push_back(
+            Color::calibratedRGB(fraction, 1.0 - fraction, fraction * fraction));
+        data.colorMarkerOpacity().push_back(1.0 - fraction * 0.5);
+    }
     for (std::int64_t i = 0; i < count; ++i) {
         program.gallery.addGradientIntoPreset(nullptr);
     }
@@ -52,46 +53,40 @@ void fill(PresetProgram& program, std::int64_t count) {
 
 void addPreset(benchmark::State& state) {
     const TemporaryFolder folder;
-    const LogRedirection log{state.range(1), folder.path};
+    const LogRedirection log{folder.path};
     PresetProgram program{folder.path};
     fill(program, state.range(0));
-    for (auto _ : state) {
-        program.gallery.addGradientIntoPreset(&program);
-    }
+    const auto deleteLast = [&] {
+        program.gallery.deletePresetGradientNotification(
+            presetNotification::makeDeleteGradient(state.range(0), nullptr));
+        if (program.presets().size() != static_cast<std::size_t>(state.range(0))) {
+            state.SkipWithError("the list has another length");
+        }
+    };
+    measure(
+        state, [&](std::size_t /*number*/) { program.gallery.addGradientIntoPreset(&program); }, deleteLast);
 }
 
 void readPresets(benchmark::State& state) {
     const TemporaryFolder folder;
-    const LogRedirection log{state.range(1), folder.path};
+    const LogRedirection log{folder.path};
     {
         PresetProgram program{folder.path};
         fill(program, state.range(0));
     }
-    for (auto _ : state) {
-        const PresetProgram program{folder.path};
-        if (program.presets().size() != static_cast<std::size_t>(state.range(0))) {
+    std::optional<PresetProgram> program;
+    const auto check = [&] {
+        if (program->presets().size() != static_cast<std::size_t>(state.range(0))) {
             state.SkipWithError("presets are missing");
         }
-    }
+        program.reset();
+    };
+    measure(
+        state, [&](std::size_t /*number*/) { program.emplace(folder.path); }, check);
 }
 
-// One iteration each, so that the list has the same length every time.
-BENCHMARK(addPreset)
-    ->ArgNames({"presets", "log"})
-    ->ArgsProduct({{200, 1000}, {Dropped, File}})
-    ->Iterations(1)
-    ->Repetitions(21)
-    ->ReportAggregatesOnly()
-    ->UseRealTime()
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(readPresets)
-    ->ArgNames({"presets", "log"})
-    ->ArgsProduct({{10'000}, {Dropped, File}})
-    ->Iterations(1)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly()
-    ->UseRealTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(addPreset)->ArgName("presets")->Arg(200)->Arg(1000)->Iterations(21)->UseManualTime();
+BENCHMARK(readPresets)->ArgName("presets")->Arg(10'000)->Iterations(11)->UseManualTime();
 
 } // namespace
 } // namespace tessaly

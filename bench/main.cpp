@@ -1,7 +1,5 @@
 // Some benchmarks work on real widgets; none needs a screen.
 
-#include "foundation/DiagnosticLog.h"
-
 #include <QApplication>
 #include <benchmark/benchmark.h>
 

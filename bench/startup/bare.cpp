@@ -11,7 +11,7 @@ int main(int argc, char** argv) {
     }
     QWidget window;
     window.resize(980, 760);
-    const tessaly::Probe probe{window, argv[1]};
+    [[maybe_unused]] const tessaly::Probe probe{window, argv[1]};
     window.show();
     return QApplication::exec();
 }

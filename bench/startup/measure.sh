@@ -1,15 +1,13 @@
 #!/usr/bin/env bash
-# Medians of ten starts each, in turn: time to the painted window and resident memory, of the program and of an empty
-# window that is linked to the same libraries; then the program with 10,000 presets.
+# Medians of ten starts each, in turn: time to the painted window and resident memory, of the program, of an empty
+# window that is linked to the same libraries, and of the program with 10,000 presets. Prints benchmark, statistic and
+# figure, in seconds or as a ratio to the empty window.
 set -euo pipefail
 bin=$1
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-for _ in $(seq 11); do # the first pair only warms up
-    "$bin/tessaly_startup_bare" "$(date +%s%N)" >>"$work/bare" 2>/dev/null
-    "$bin/tessaly_startup_program" "$(date +%s%N)" "$work/data" >>"$work/program" 2>/dev/null
-done
+export TMPDIR=$work
 mkdir -p "$work/many/Tessaly"
 sqlite3 "$work/many/Tessaly/localDB.sqlite3" "
     create table MainTable (mainIndex INTEGER PRIMARY KEY, orientationType INTEGER);
@@ -20,14 +18,31 @@ sqlite3 "$work/many/Tessaly/localDB.sqlite3" "
     insert into AdditionalTable (mainIndex, position, red, green, blue, opacity)
         select mainIndex, column1, column1, 0.5, mainIndex % 256 / 255.0, 1.0
         from MainTable, (values (0.0), (0.25), (0.5), (0.75), (1.0));"
-for _ in $(seq 11); do
-    "$bin/tessaly_startup_program" "$(date +%s%N)" "$work/many" >>"$work/presets" 2>/dev/null
-done
-median() {
-    tail -n +2 "$work/$1" | cut -d' ' -f"$2" | sort -n | sed -n 5p
+
+# start NAME PROGRAM DATA-FOLDER: appends milliseconds and KiB to the file NAME.
+start() {
+    timeout 60 "$bin/tessaly_startup_$2" "$(date +%s%N)" "$work/$3" >>"$work/$1" 2>"$work/log" || {
+        tail -n 20 "$work/log" >&2
+        exit 1
+    }
 }
-awk -v bt="$(median bare 1)" -v pt="$(median program 1)" -v mt="$(median presets 1)" -v bm="$(median bare 2)" -v pm="$(median program 2)" 'BEGIN {
-    printf "painted after   %6.1f ms, empty window %6.1f ms: %.2f times (at most 1.6)\n", pt, bt, pt / bt
-    printf "10,000 presets  %6.1f ms (at most 1000)\n", mt
-    printf "resident memory %6.1f MB, empty window %6.1f MB: %.2f times (at most 1.5)\n", pm / 1024, bm / 1024, pm / bm
+for _ in $(seq 11); do # the first of each only warms up
+    start bare bare none
+    start program program none
+    start presets program many
+    if [ "$(grep -c '^mainIndex: ' "$work/log")" -ne 10000 ]; then
+        echo "The program started without its 10,000 presets." >&2
+        exit 1
+    fi
+done
+
+median() { # of a column of a file
+    tail -n +2 "$work/$1" | cut -d' ' -f"$2" | sort -n |
+        awk '{ v[NR] = $1 } END { print (v[int((NR + 1) / 2)] + v[int(NR / 2) + 1]) / 2 }'
+}
+awk -v OFS='\t' -v pt="$(median program 1)" -v bt="$(median bare 1)" -v mt="$(median presets 1)" \
+    -v pm="$(median program 2)" -v bm="$(median bare 2)" 'BEGIN {
+    print "start/presets:0", "timeRatio", pt / bt
+    print "start/presets:0", "memoryRatio", pm / bm
+    print "start/presets:10000", "median", mt / 1e3
 }'

@@ -1,22 +1,19 @@
 // The program up to its first painted window.
 
 #include "Probe.h"
-#include "app/MainWindow.h"
-#include "app/Presets.h"
-#include "app/Tessaly.h"
-#include "canvas/qt/CanvasView.h"
+#include "app/WiredWindow.h"
+#include "chrome/qt/ProgramIcon.h"
 #include "codegen/qt/WebPreviewView.h"
+
+#include <QDir>
 
 int main(int argc, char** argv) {
     using namespace tessaly;
     WebPreviewView::prepareProcess();
     QApplication application{argc, argv};
-    MainWindow mainWindow;
-    Tessaly tessaly{mainWindow, "/tmp"};
-    Presets presets{mainWindow.presetPanel(), mainWindow.canvasView().editor(), argv[2]};
-    mainWindow.canvasView().awakeFromNib(presets.steps());
-    tessaly.awakeFromNib();
-    const Probe probe{mainWindow, argv[1]};
-    mainWindow.show();
+    QApplication::setWindowIcon(programIcon());
+    WiredWindow wired{QDir::tempPath().toStdString(), argv[2]};
+    [[maybe_unused]] const Probe probe{wired.mainWindow(), argv[1]};
+    wired.mainWindow().show();
     return QApplication::exec();
 }
