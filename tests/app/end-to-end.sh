@@ -49,7 +49,11 @@ begin
 at 730 82 && xdotool click 1 # the thumbnail
 expect '#ff0000 50%);'
 rows_are_stored || fail "applying a preset changed what is stored"
-xdotool click 3 && sleep 0.3 && xdotool key Down Return # "Delete"
+menu_is_open() {
+    [ "$(xdotool search --onlyvisible --pid "$pid" | wc -l)" -gt "$windows" ]
+}
+windows=$(xdotool search --onlyvisible --pid "$pid" | wc -l)
+xdotool click 3 && eventually menu_is_open && xdotool key Down Return # "Delete"
 none_is_stored() {
     [ "$(database 'select count(*) from MainTable')" = 0 ]
 }

@@ -15,9 +15,9 @@ fail() {
     exit 1
 }
 
-# Waits up to ten seconds for a command to succeed.
+# Waits for a command to succeed, on a busy machine too.
 eventually() {
-    for _ in $(seq 100); do
+    for _ in $(seq 300); do
         "$@" >/dev/null 2>&1 && return
         sleep 0.1
     done

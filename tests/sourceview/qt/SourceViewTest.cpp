@@ -143,8 +143,9 @@ TEST_F(SourceViewTest, answersSoonAfterAPasteOfFiveMegabytes) {
         view.paste();
         page.grab();
         QTest::keyClick(&view, Qt::Key_Left);
-        // Of processor time, so that a busy machine does not make it fail.
-        EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 2.0);
+        // Far more than any machine and build takes, of processor time; wrapping such a line takes minutes. How
+        // soon it really answers is for the benchmark to say.
+        EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 20.0);
     }
     EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::NoWrap) << "a line is too long";
     view.undo();
