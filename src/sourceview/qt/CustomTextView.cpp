@@ -1,5 +1,6 @@
 #include "sourceview/qt/CustomTextView.h"
 
+#include "sourceview/qt/CodeDocumentLayout.h"
 #include "sourceview/qt/ExactText.h"
 
 #include <QFontDatabase>
@@ -19,7 +20,11 @@ constexpr int tabWidth = 4; // in characters
 } // namespace
 
 CustomTextView::CustomTextView(QWidget* parent) : QPlainTextEdit{parent} {
+    auto* const code = new QTextDocument{this};
+    code->setDocumentLayout(new CodeDocumentLayout{code});
+    setDocument(code);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    code->setDefaultFont(font());
     setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(QLatin1Char{' '}));
     setInputMethodHints(Qt::ImhMultiLine | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
     connect(document(), &QTextDocument::contentsChange, this, &CustomTextView::noteChange);

@@ -143,13 +143,28 @@ TEST_F(SourceViewTest, answersSoonAfterAPasteOfFiveMegabytes) {
         view.paste();
         page.grab();
         QTest::keyClick(&view, Qt::Key_Left);
-        // Far more than any machine and build takes, of processor time; wrapping such a line takes minutes. How
-        // soon it really answers is for the benchmark to say.
+        // Far more than any machine and build takes, of processor time; wrapping such a line takes minutes.
+        // How soon it really answers is for the benchmark to say.
         EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 20.0);
     }
     EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::NoWrap) << "a line is too long";
     view.undo();
     EXPECT_EQ(view.lineWrapMode(), QPlainTextEdit::WidgetWidth);
+}
+
+TEST_F(SourceViewTest, aLongLineIsShownAsItIsAfterEachEdit) {
+    view.setText(u"a\n" + std::u16string(20'000, u'w') + u"\nb");
+    page.grab();
+    view.setSelection({4, 0});
+    for (const auto& keys :
+         {u"i"_s, u"Return"_s, u"Backspace"_s, u"Ctrl+Shift+Home"_s, u"Delete"_s, u"Ctrl+Z"_s}) {
+        QTest::keySequence(&view, QKeySequence{keys});
+        const QImage shown = page.grab().toImage();
+        const int width = view.horizontalScrollBar()->maximum();
+        view.document()->markContentsDirty(0, int(view.length()));
+        EXPECT_EQ(shown, page.grab().toImage()) << keys.toStdString();
+        EXPECT_EQ(width, view.horizontalScrollBar()->maximum()) << keys.toStdString();
+    }
 }
 
 TEST_F(SourceViewTest, theKeyboardIsNotTrapped) {

@@ -1,0 +1,34 @@
+#include "sourceview/qt/CodeDocumentLayout.h"
+
+#include "sourceview/LongLineWatch.h"
+
+#include <QTextBlock>
+#include <QTextLayout>
+#include <algorithm>
+
+namespace tessaly {
+namespace {
+
+bool isLong(const QTextBlock& line) {
+    return line.length() > static_cast<int>(LongLineWatch::longestWrapped);
+}
+
+} // namespace
+
+QRectF CodeDocumentLayout::blockBoundingRect(const QTextBlock& block) const {
+    if (block.isValid()) {
+        block.layout()->setCacheEnabled(isLong(block));
+    }
+    return QPlainTextDocumentLayout::blockBoundingRect(block);
+}
+
+// A change within one line is laid out at once, twice, to learn whether the line has grown. One that reaches
+// into the next is laid out when it is looked at.
+void CodeDocumentLayout::documentChanged(int from, int removed, int added) {
+    if (const QTextBlock line = document()->findBlock(from); line.isValid() && isLong(line)) {
+        added = std::max(added, line.position() + line.length() + 1 - from);
+    }
+    QPlainTextDocumentLayout::documentChanged(from, removed, added);
+}
+
+} // namespace tessaly
