@@ -93,7 +93,7 @@ void PresetDatabase::restore() {
 SqliteResult PresetDatabase::copyBack(const SqliteConnection& copy) {
     SqliteResult result = SqliteBackup{copy, connection_}.run();
     if (result.isDamage()) {
-        setDamagedAside();
+        setFileAside();
         result = SqliteBackup{copy, connection_}.run();
     }
     configure();
@@ -101,7 +101,7 @@ SqliteResult PresetDatabase::copyBack(const SqliteConnection& copy) {
 }
 
 // Renaming, unlike copying, needs no room and cannot stop half-way. Nobody reads a file that is no database.
-void PresetDatabase::setDamagedAside() {
+bool PresetDatabase::setFileAside() {
     connection_ = {};
     const std::filesystem::path dated = datedName(file_);
     std::error_code error;
@@ -110,6 +110,7 @@ void PresetDatabase::setDamagedAside() {
     DiagnosticLog::write(error ? "Presets not set aside: " + error.message()
                                : "Presets set aside: " + dated.native());
     connect();
+    return !error;
 }
 
 // Works on a database whatever is wrong with its pages, in one transaction that respects others' locks.
@@ -156,13 +157,12 @@ std::optional<std::string> PresetDatabase::prepareSave() {
     if (copy_.exists() && !copy_.open().isOpen() && !copy_.setAside()) {
         return "a broken safety copy is in the way";
     }
+    if (connection_.isReadOnly() && !startAnew()) {
+        return "the database cannot be written";
+    }
     if (!copy_.exists()) {
         SqliteResult made = copy_.make(connection_);
-        if (made.isDamage()) {
-            setDamagedAside();
-            hasTables_ = false;
-            allKnown_ = true;
-            knownVersion_ = version();
+        if (made.isDamage() && startAnew()) {
             made = copy_.make(connection_);
         }
         if (made.code != SQLITE_OK) {
@@ -177,6 +177,17 @@ std::optional<std::string> PresetDatabase::prepareSave() {
         }
     }
     return std::nullopt;
+}
+
+// With an empty database, once the file is out of the way; what was in it stands under its dated name.
+bool PresetDatabase::startAnew() {
+    if (!setFileAside()) {
+        return false;
+    }
+    hasTables_ = false;
+    allKnown_ = allKnown_ || !copy_.exists();
+    knownVersion_ = version();
+    return true;
 }
 
 bool PresetDatabase::beginSave() {

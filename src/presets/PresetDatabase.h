@@ -66,7 +66,8 @@ class PresetDatabase {
     void configure() const;
     void restore();
     SqliteResult copyBack(const SqliteConnection& copy);
-    void setDamagedAside();
+    bool setFileAside();
+    bool startAnew();
     bool empty();
     bool isAsKnown() const;
     std::optional<std::string> version() const;

@@ -62,6 +62,10 @@ SqliteConnection SqliteConnection::openImmutable(const std::filesystem::path& fi
     return open("file:" + escapedPath(file) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
 }
 
+bool SqliteConnection::isReadOnly() const {
+    return isOpen() && sqlite3_db_readonly(handle(), "main") == 1;
+}
+
 SqliteResult SqliteConnection::execute(const std::string& statement) const {
     if (!isOpen()) {
         return {SQLITE_CANTOPEN, errorText()};

@@ -36,6 +36,9 @@ class SqliteConnection {
     static SqliteConnection openImmutable(const std::filesystem::path& file);
 
     bool isOpen() const { return handle_ != nullptr; }
+
+    /// The file can be read and not written: it is of a later format, or belongs to somebody else.
+    bool isReadOnly() const;
     sqlite3* handle() const { return handle_.get(); }
 
     /// Runs a statement and drops its rows.

@@ -97,12 +97,13 @@ class PresetSafetyTest : public testing::Test {
 };
 
 TEST_F(PresetSafetyTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAside) {
-    const auto overwrite = [this](std::streamoff place, char with) {
-        std::fstream{file, std::ios::in | std::ios::out}.seekp(place) << std::string(100, with);
+    const auto overwrite = [this](std::streamoff place, char with, std::size_t bytes = 100) {
+        std::fstream{file, std::ios::in | std::ios::out}.seekp(place) << std::string(bytes, with);
     };
     const std::vector<std::pair<const char*, std::function<void()>>> rows{
         {"no damage", [] {}},
         {"no database", [&] { overwrite(0, 'x'); }},
+        {"a later format that can only be read", [&] { overwrite(18, '!', 1); }},
         {"cut short", [this] { fs::resize_file(file, 4096); }},
         {"a broken page of stops", [&] { overwrite(8192, '\xFF'); }},
         {"a cut page that reads as other values", [this] { fs::resize_file(file, 12'200); }},
