@@ -17,17 +17,8 @@ Presets::~Presets() {
 }
 
 PresetSteps Presets::steps() {
-    return {[this] { open(); }, [this] { store_.readData(); }, [this] { gallery_.observeNotifications(); }};
-}
-
-void Presets::open() {
-    store_.openDB();
-    if (!store_.isTableExists("MainTable")) {
-        store_.createMainTable();
-    }
-    if (!store_.isTableExists("AdditionalTable")) {
-        store_.createAdditionalTable();
-    }
+    return {[this] { store_.openWithTables(); }, [this] { store_.readData(); },
+            [this] { gallery_.observeNotifications(); }};
 }
 
 } // namespace tessaly

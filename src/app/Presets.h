@@ -25,8 +25,6 @@ class Presets {
     PresetSteps steps();
 
   private:
-    void open();
-
     PresetPanel& panel_;
     PresetGallery gallery_;
     PresetStore store_;

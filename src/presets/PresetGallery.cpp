@@ -43,17 +43,16 @@ void PresetGallery::redrawPresetGradientContainer(bool force) {
         presetGradient_[i].index = position;
     }
     gradientIndex_ = static_cast<std::int64_t>(presetGradient_.size());
-    view_.thumbnailsMoved();
+    view_.thumbnailsChanged();
 }
 
 void PresetGallery::append(Preset preset) {
-    const std::size_t position = presetGradient_.size();
-    const Point pos = getPresetGradientItemPos(static_cast<std::int64_t>(position) + 1);
+    const Point pos = getPresetGradientItemPos(static_cast<std::int64_t>(presetGradient_.size()) + 1);
     preset.index = gradientIndex_++;
     presetGradient_.push_back(std::move(preset));
-    view_.thumbnailInserted(position);
     maxPresetGradientRow_ = truncated(pos.y + 1);
     redrawPresetGradientContainer(false);
+    view_.thumbnailsChanged();
 }
 
 void PresetGallery::addGradientIntoPreset(const void* sender) {
@@ -97,7 +96,6 @@ void PresetGallery::deletePresetGradientNotification(const Notification& notific
     if (*index < 0 || *index >= static_cast<std::int64_t>(presetGradient_.size())) {
         return;
     }
-    view_.thumbnailRemoved(static_cast<std::size_t>(*index));
     presetGradient_.erase(presetGradient_.begin() + *index);
     redrawPresetGradientContainer(true);
     actions_.insertData();

@@ -2,12 +2,9 @@
 
 #include "foundation/Geometry.h"
 
-#include <cstddef>
-
 namespace tessaly {
 
 /// What the gallery asks of the toolkit: the container of the thumbnails and the scroll view around it.
-/// Positions are those in the list of presets.
 class PresetGalleryView {
   public:
     virtual ~PresetGalleryView() = default;
@@ -18,14 +15,8 @@ class PresetGalleryView {
     /// In points; the container's origin stays.
     virtual void setContainerSize(Size size) = 0;
 
-    /// One thumbnail more, in front of the others; it is in the list already.
-    virtual void thumbnailInserted(std::size_t position) = 0;
-
-    /// One thumbnail less; it is still in the list.
-    virtual void thumbnailRemoved(std::size_t position) = 0;
-
-    /// Any thumbnail may have a new place.
-    virtual void thumbnailsMoved() = 0;
+    /// The list of presets has changed, or the places of their thumbnails.
+    virtual void thumbnailsChanged() = 0;
 };
 
 } // namespace tessaly

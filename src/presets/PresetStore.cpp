@@ -42,6 +42,16 @@ void PresetStore::closeDB() {
     database_.close();
 }
 
+void PresetStore::openWithTables() {
+    openDB();
+    if (!isTableExists(mainTable)) {
+        createMainTable();
+    }
+    if (!isTableExists(additionalTable)) {
+        createAdditionalTable();
+    }
+}
+
 bool PresetStore::isTableExists(const std::string& name) {
     const std::string sql = "select name from sqlite_master where name='" + name + "'";
     logStatement(sql);

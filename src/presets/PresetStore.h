@@ -29,6 +29,9 @@ class PresetStore {
     bool openDB();
     void closeDB();
 
+    /// Opens the database and makes the tables that it lacks.
+    void openWithTables();
+
     /// Whether the schema holds a table, index, view or trigger of that name. The name is deliberately not
     /// escaped: one with a quote is never found.
     bool isTableExists(const std::string& name);

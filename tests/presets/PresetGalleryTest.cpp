@@ -49,9 +49,9 @@ TEST_F(PresetGalleryTest, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverD
     const std::vector<std::tuple<int, double, double>> rows{
         {0, 125, 52}, {1, 170, 52}, {6, 215, 52}, {10, 215, 52}, {11, 260, 49}};
     for (const auto& [presets, height, distant] : rows) {
-        while (view.thumbnails < presets) {
-            GlobalData::sharedData().setOrientationType(view.thumbnails); // tells the presets apart
-            gallery.addGradientIntoPreset(view.thumbnails < 10 ? nullptr : this);
+        for (auto number = std::ssize(gallery.presetGradient()); number < presets; ++number) {
+            GlobalData::sharedData().setOrientationType(number); // tells the presets apart
+            gallery.addGradientIntoPreset(number < 10 ? nullptr : this);
         }
         EXPECT_EQ(view.containerSize, (Size{263, height})) << presets;
         EXPECT_EQ(gallery.slots().thumbnailRect(1).x, 15 + distant) << presets;
@@ -61,6 +61,7 @@ TEST_F(PresetGalleryTest, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverD
         NotificationCenter::defaultCenter().post(presetNotification::makeDeleteGradient(index, this));
     }
     EXPECT_EQ(saves, 10);
+    EXPECT_EQ(view.changes, 11 + 1 + 9) << "presets added, columns narrowed, presets deleted";
     EXPECT_EQ(view.containerSize.height, 260);
     gallery.addGradientIntoPreset(nullptr);
     EXPECT_EQ(view.containerSize.height, 170);

@@ -10,13 +10,7 @@ namespace tessaly {
 
 /// What the program does with its store before the first event.
 inline void start(PresetStore& store) {
-    store.openDB();
-    if (!store.isTableExists("MainTable")) {
-        store.createMainTable();
-    }
-    if (!store.isTableExists("AdditionalTable")) {
-        store.createAdditionalTable();
-    }
+    store.openWithTables();
     store.readData();
 }
 
@@ -25,13 +19,11 @@ class FakeGalleryView : public PresetGalleryView {
   public:
     double scrollViewHeight() const override { return scrollHeight; }
     void setContainerSize(Size size) override { containerSize = size; }
-    void thumbnailInserted(std::size_t /*position*/) override { ++thumbnails; }
-    void thumbnailRemoved(std::size_t /*position*/) override { --thumbnails; }
-    void thumbnailsMoved() override {}
+    void thumbnailsChanged() override { ++changes; }
 
     double scrollHeight = 250.0;
     Size containerSize;
-    int thumbnails = 0;
+    int changes = 0;
 };
 
 /// The gallery and its store, wired and started as the program does it.

@@ -125,11 +125,15 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
 void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
     editor_.interaction().mouseUp(); // the menu takes the mouse, and with it the end of a drag
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        if (const auto stop = editor_.markers().selectedStop()) {
-            popupMenu_->popup(mapToGlobal(markerRect(*stop).center().toPoint()));
-        }
+        openMenuOfSelected();
     } else if (editor_.interaction().rightMouseDown(canvasPoint(event->pos()))) {
         popupMenu_->popup(event->globalPos());
+    }
+}
+
+void CanvasView::openMenuOfSelected() {
+    if (const auto stop = editor_.markers().selectedStop()) {
+        popupMenu_->popup(mapToGlobal(markerRect(*stop).center().toPoint()));
     }
 }
 
@@ -192,6 +196,11 @@ int CanvasView::currentAccessibleItem() const {
 
 void CanvasView::pressAccessibleItem(int item) {
     editor_.interaction().select(item);
+}
+
+void CanvasView::openAccessibleItemMenu(int item) {
+    editor_.interaction().select(item);
+    openMenuOfSelected();
 }
 
 } // namespace tessaly

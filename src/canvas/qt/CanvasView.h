@@ -42,6 +42,7 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     int currentAccessibleItem() const override;
     void pressAccessibleItem(int item) override;
     bool accessibleItemsHaveMenu() const override { return true; }
+    void openAccessibleItemMenu(int item) override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -57,6 +58,7 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     QRectF markerRect(const ColorStop& stop) const;
     Point canvasPoint(QPointF position) const;
     void mouseDown(const QMouseEvent& event, int clickCount);
+    void openMenuOfSelected();
     void takeMedium();
     void announceToAssistiveTools();
 

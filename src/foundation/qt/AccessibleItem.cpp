@@ -2,9 +2,6 @@
 
 #include "foundation/qt/AccessibleItems.h"
 
-#include <QContextMenuEvent>
-#include <QCoreApplication>
-
 namespace tessaly {
 
 AccessibleItem::AccessibleItem(QWidget& widget, AccessibleItems& items, int index)
@@ -78,9 +75,7 @@ void AccessibleItem::doAction(const QString& name) {
     if (name == pressAction()) {
         items_.pressAccessibleItem(index_);
     } else if (name == showMenuAction()) {
-        const QPoint center = items_.accessibleItemRect(index_).center();
-        QContextMenuEvent event{QContextMenuEvent::Other, center, widget_->mapToGlobal(center)};
-        QCoreApplication::sendEvent(widget_, &event);
+        items_.openAccessibleItemMenu(index_);
     }
 }
 

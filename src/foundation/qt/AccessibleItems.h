@@ -27,8 +27,9 @@ class AccessibleItems {
     virtual int currentAccessibleItem() const = 0;
     virtual void pressAccessibleItem(int item) = 0;
 
-    /// Whether a context menu opens on an item.
+    /// Whether items have a context menu; if so, opens that of one.
     virtual bool accessibleItemsHaveMenu() const { return false; }
+    virtual void openAccessibleItemMenu(int /*item*/) {}
 };
 
 /// Makes every widget that is an `AccessibleItems` known to assistive tools as a list of its items.

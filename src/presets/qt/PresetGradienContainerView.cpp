@@ -49,6 +49,9 @@ std::size_t PresetGradienContainerView::count() const {
 void PresetGradienContainerView::thumbnailsChanged() {
     current_ = std::min(current_, std::max<std::size_t>(count(), 1) - 1);
     update();
+    if (!isVisible()) {
+        return; // the stored presets come one by one before the window does
+    }
     QAccessibleEvent reordered{this, QAccessible::ObjectReorder};
     QAccessible::updateAccessibility(&reordered);
     announceCurrentAccessibleItem(*this, *this); // another preset is there now
@@ -90,11 +93,15 @@ void PresetGradienContainerView::mousePressEvent(QMouseEvent* event) {
 void PresetGradienContainerView::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() == QContextMenuEvent::Keyboard) {
         if (current_ < count()) {
-            popUpMenu(current_, mapToGlobal(placeOf(current_).center()));
+            popUpMenu(current_);
         }
     } else if (const auto position = positionAt(event->pos())) {
         popUpMenu(*position, event->globalPos());
     }
+}
+
+void PresetGradienContainerView::popUpMenu(std::size_t position) {
+    popUpMenu(position, mapToGlobal(placeOf(position).center()));
 }
 
 void PresetGradienContainerView::popUpMenu(std::size_t position, QPoint globalPosition) {

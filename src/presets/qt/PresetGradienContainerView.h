@@ -34,6 +34,7 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     int currentAccessibleItem() const override;
     void pressAccessibleItem(int item) override;
     bool accessibleItemsHaveMenu() const override { return true; }
+    void openAccessibleItemMenu(int item) override { popUpMenu(static_cast<std::size_t>(item)); }
 
   Q_SIGNALS:
     /// A key moved on to the thumbnail that is there, in this widget's coordinates.
@@ -54,6 +55,7 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     void moveCurrent(int by);
     void apply(std::size_t position);
     void remove(std::size_t position);
+    void popUpMenu(std::size_t position);
     void popUpMenu(std::size_t position, QPoint globalPosition);
 
     const PresetGallery* gallery_ = nullptr;

@@ -76,15 +76,7 @@ void PresetPanel::setContainerSize(Size size) {
     presetGradienContainerView_->resize(static_cast<int>(size.width), static_cast<int>(size.height));
 }
 
-void PresetPanel::thumbnailInserted(std::size_t /*position*/) {
-    presetGradienContainerView_->update();
-}
-
-void PresetPanel::thumbnailRemoved(std::size_t /*position*/) {
-    presetGradienContainerView_->update(); // the list shrinks next, and the relayout follows
-}
-
-void PresetPanel::thumbnailsMoved() {
+void PresetPanel::thumbnailsChanged() {
     presetGradienContainerView_->thumbnailsChanged();
 }
 

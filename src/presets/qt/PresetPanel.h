@@ -25,9 +25,7 @@ class PresetPanel : public QWidget, public PresetGalleryView {
 
     double scrollViewHeight() const override;
     void setContainerSize(Size size) override;
-    void thumbnailInserted(std::size_t position) override;
-    void thumbnailRemoved(std::size_t position) override;
-    void thumbnailsMoved() override;
+    void thumbnailsChanged() override;
 
   private:
     QPushButton* addButton_;

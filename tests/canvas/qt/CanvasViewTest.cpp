@@ -148,6 +148,10 @@ TEST_F(CanvasViewTest, assistiveToolsSeeTheStops) {
     EXPECT_EQ(stop->text(QAccessible::Description), QStringLiteral("Position 0.000, color #000000"));
     stop->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(stop->state().selected);
+    GlobalData::sharedData().colorMarkerPos() = {0.5, 0.5}; // the second marker lies under the first
+    view->child(1)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    canvas->findChild<QMenu*>()->actions().first()->trigger();
+    EXPECT_EQ(GlobalData::sharedData().colorMarkerColor(), std::vector{Color::black()});
     GlobalData::sharedData().colorMarkerPos().clear();
     EXPECT_TRUE(stop->state().invalid);
 }
