@@ -16,7 +16,7 @@ std::optional<std::size_t> longLineIn(std::u16string_view text, std::size_t from
     while (start <= to) {
         const std::size_t reach = std::max(start, to) + limit + 1;
         const std::size_t end = std::min(text.substr(0, reach).find(u'\n', start), text.size());
-        if (end - start > limit) {
+        if (LongLineWatch::isTooLong(end - start)) {
             return start;
         }
         start = end + 1;
@@ -38,7 +38,7 @@ void LongLineWatch::textEdited(std::u16string_view text, const TextEdit& edit) {
     }
 }
 
-bool LongLineWatch::isLongLineIn(std::u16string_view text) {
+bool LongLineWatch::hasTooLongLine(std::u16string_view text) {
     return longLineIn(text, 0, text.size()).has_value();
 }
 

@@ -18,7 +18,9 @@ class LongLineWatch {
     /// `text` is the text after `edit`.
     void textEdited(std::u16string_view text, const TextEdit& edit);
 
-    static bool isLongLineIn(std::u16string_view text);
+    /// Of the units of a line, without what ends it.
+    static constexpr bool isTooLong(std::size_t units) { return units > longestWrapped; }
+    static bool hasTooLongLine(std::u16string_view text);
 
     bool hasLongLine() const { return longLine_.has_value(); }
 

@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         text.replace(place, removed, added);
         watch.textEdited(text, mirror.replace(place, removed, added));
         require(mirror.text() == text, "the copy is exact");
-        require(watch.hasLongLine() == LongLineWatch::isLongLineIn(text), "a line too long is known");
+        require(watch.hasLongLine() == LongLineWatch::hasTooLongLine(text), "a line too long is known");
         const LineIndices lines{text};
         std::vector<std::uint32_t> starts;
         for (std::uint32_t i = 0; i <= text.size(); ++i) {

@@ -10,7 +10,7 @@ namespace tessaly {
 namespace {
 
 bool isLong(const QTextBlock& line) {
-    return line.length() > static_cast<int>(LongLineWatch::longestWrapped);
+    return LongLineWatch::isTooLong(static_cast<std::size_t>(line.length() - 1));
 }
 
 } // namespace

@@ -133,7 +133,7 @@ void CustomTextView::reportEdits() {
 
 // Switches wrapping off first where the text asks for it: afterwards the toolkit would lay it out twice.
 void CustomTextView::insertInto(QTextCursor cursor, std::u16string_view text) {
-    if (LongLineWatch::isLongLineIn(text)) {
+    if (LongLineWatch::hasTooLongLine(text)) {
         setWrapping(false);
     }
     cursor.insertText(toQString(text));
