@@ -31,8 +31,8 @@ void CodeTextAdapter::moveToBeginningOfDocument() {
     view_.moveToBeginningOfDocument();
 }
 
-std::u16string CodeTextAdapter::text() const {
-    return std::u16string{view_.text()};
+std::u16string_view CodeTextAdapter::text() const {
+    return view_.text();
 }
 
 std::size_t CodeTextAdapter::length() const {

@@ -17,7 +17,7 @@ class CodeTextAdapter : public CodeText {
     void setSelection(TextRange selection) override;
     void insertText(std::string_view text) override;
     void moveToBeginningOfDocument() override;
-    std::u16string text() const override;
+    std::u16string_view text() const override;
     std::size_t length() const override;
     void replaceCharacters(TextRange range, std::string_view text) override;
     void redisplay() override;

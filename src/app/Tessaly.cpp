@@ -71,7 +71,7 @@ void Tessaly::showSourceCodeView(std::int64_t index) {
 void Tessaly::copyCode() {
     const QWidget* const page = mainWindow_.sourceCodeContainerView().currentWidget();
     const CodeTextAdapter& shown = page == &mainWindow_.htmlSourceView() ? htmlTextView_ : css3TextView_;
-    mainWindow_.copyButton().copy(QString::fromStdU16String(shown.text()));
+    mainWindow_.copyButton().copy(QStringView{shown.text()}.toString());
 }
 
 void Tessaly::showAbout() {

@@ -2,7 +2,7 @@
 
 #include "foundation/TextRange.h"
 
-#include <string>
+#include <cstddef>
 #include <string_view>
 
 namespace tessaly {
@@ -21,7 +21,8 @@ class CodeText {
     virtual void insertText(std::string_view text) = 0;
     virtual void moveToBeginningOfDocument() = 0;
 
-    virtual std::u16string text() const = 0;
+    /// Valid until the text changes.
+    virtual std::u16string_view text() const = 0;
     virtual std::size_t length() const = 0;
 
     /// Replaces a range that lies within the text, straight in the storage: caret, selection and scroll

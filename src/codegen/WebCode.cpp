@@ -36,7 +36,7 @@ TextRange find(const std::u16string& wanted, std::u16string_view text, std::size
     return found == npos ? TextRange{} : TextRange{found, wanted.size()};
 }
 
-constexpr std::hash<std::u16string> hashOf;
+constexpr std::hash<std::u16string_view> hashOf;
 
 } // namespace
 
@@ -119,7 +119,7 @@ void WebCode::doUpdate(Declaration declaration) {
 }
 
 void WebCode::stylesheetEdited(std::size_t position, std::size_t removed, std::size_t added) {
-    const std::u16string text = css3TextView_.text();
+    const std::u16string_view text = css3TextView_.text();
     const DeclarationRanges before = ranges_;
     ranges_.followEdit(position, removed, added);
     const auto [known, isNew] = rangesOfTexts_.try_emplace(hashOf(text), ranges_);

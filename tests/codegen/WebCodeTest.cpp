@@ -93,7 +93,7 @@ TEST_F(WebCodeTest, rewritesChangedDeclarationsAndKeepsWhatTheUserAddsAroundThem
 
 TEST_F(WebCodeTest, findsDeclarationsAfterAnUndoAndPastDraggedText) {
     const std::u16string line = u"\tcolor: red;\n";
-    const std::u16string plain = css.text();
+    const std::u16string plain{css.text()};
     const auto survive = [&](const std::u16string& first, const std::u16string& second) {
         become(first);
         become(second);

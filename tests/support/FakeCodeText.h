@@ -19,7 +19,7 @@ class FakeCodeText : public CodeText {
         caret += text.size();
     }
     void moveToBeginningOfDocument() override { caret = 0; }
-    std::u16string text() const override { return contents; }
+    std::u16string_view text() const override { return contents; }
     std::size_t length() const override { return contents.size(); }
     void replaceCharacters(TextRange range, std::string_view text) override {
         rangesInBounds = rangesInBounds && range.end() <= contents.size();
