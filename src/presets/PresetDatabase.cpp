@@ -190,20 +190,19 @@ bool PresetDatabase::startAnew() {
     return true;
 }
 
-bool PresetDatabase::beginSave() {
+void PresetDatabase::beginSave() {
     if (!connection_.isOpen()) {
-        return false;
+        return;
     }
     save_.emplace(folder_);
     if (const std::optional<std::string> reason = prepareSave()) {
         DiagnosticLog::write("Presets not saved: " + *reason);
         connection_.execute("pragma query_only=on");
         save_->refused = true;
-        return false;
+        return;
     }
     save_->changesBefore = connection_.totalChanges();
     save_->emptied = !std::exchange(hasTables_, true);
-    return save_->emptied;
 }
 
 void PresetDatabase::endSave(bool complete) {

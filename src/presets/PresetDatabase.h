@@ -4,6 +4,7 @@
 #include "presets/PresetSafetyCopy.h"
 #include "presets/SqliteConnection.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -45,8 +46,11 @@ class PresetDatabase {
 
     /// Stand around the statements of a save. When the stored presets cannot be guarded (no room for the
     /// copy, another copy of the program at work, a lock), the log tells why and each of the statements will
-    /// fail and change nothing. True: the database was set aside and has no tables any more.
-    bool beginSave();
+    /// fail and change nothing.
+    void beginSave();
+
+    /// Within a save: the database had to be emptied, or is a new one, and its tables must be made first.
+    bool lacksTables() const { return save_ && save_->emptied; }
 
     /// `complete`: every statement succeeded.
     void endSave(bool complete);

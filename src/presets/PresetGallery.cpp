@@ -39,7 +39,7 @@ void PresetGallery::redrawPresetGradientContainer(bool force) {
     }
     for (std::size_t i = 0; i < presetGradient_.size(); ++i) {
         const auto position = static_cast<std::int64_t>(i);
-        getPresetGradientItemPos(position + 1);
+        getPresetGradientItemPos(position + 1); // for the log: the places follow from the position alone
         presetGradient_[i].index = position;
     }
     gradientIndex_ = static_cast<std::int64_t>(presetGradient_.size());

@@ -8,7 +8,7 @@ namespace tessaly {
 
 /// The copy of the preset database that stands beside it while a save empties and refills it. It always holds
 /// the last list that was stored completely; one that is found at start-up tells that a save did not finish.
-/// Only who holds the folder's lock makes it or takes it away.
+/// Only whoever holds the folder's lock makes it or takes it away.
 class PresetSafetyCopy {
   public:
     explicit PresetSafetyCopy(const std::filesystem::path& database);

@@ -112,24 +112,15 @@ void PresetStore::readAdditionalData(std::int64_t mainIndex, std::int64_t orient
     const std::string sql = "select position, red, green, blue, opacity from " + additionalTable +
                             " where mainIndex=" + std::to_string(mainIndex);
     logStatement(sql);
-    StopArrays stops = allStops_ ? allStops_->of(mainIndex) : readStops(sql);
+    StopArrays stops = allStops_ ? allStops_->of(mainIndex) : StoredStops{database_.reader()}.of(mainIndex);
     presets_.addGradientIntoPresetWithColorMarkerPos(std::move(stops.positions), std::move(stops.colors),
                                                      std::move(stops.opacities), orientationType);
 }
 
-StopArrays PresetStore::readStops(const std::string& query) {
-    StopArrays stops;
-    SqliteStatement statement = SqliteStatement::prepareFirstGeneration(database_.reader(), query);
-    while (statement.step() == SQLITE_ROW) {
-        stops.append(storedStop(statement, 0));
-    }
-    return stops;
-}
-
 void PresetStore::insertData() {
-    const bool tablesAreMissing = database_.beginSave();
+    database_.beginSave();
     complete_ = true;
-    if (tablesAreMissing) {
+    if (database_.lacksTables()) {
         createMainTable();
         createAdditionalTable();
     }

@@ -66,7 +66,6 @@ class PresetStore {
     void insertAllPresets();
     bool insertStop(std::int32_t mainIndex, const ColorStop& stop);
     void insertFailed();
-    StopArrays readStops(const std::string& query);
 
     PresetList& presets_;
     PresetDatabase database_;

@@ -18,7 +18,7 @@ struct SqliteResult {
     /// The file is no database or a broken one.
     bool isDamage() const;
 
-    /// The disk refused. A full one is 13 or 778, depending on what it is that is full; both are meant.
+    /// The disk refused. A full one is SQLITE_FULL or an I/O error, depending on what it is that is full.
     bool isDiskFailure() const;
 };
 

@@ -18,7 +18,7 @@ class SqliteStatement {
     static SqliteStatement prepare(const SqliteConnection& connection, const std::string& text);
 
     /// Prepares by the first-generation call, handing on the text's length in UTF-16 units instead of bytes.
-    /// That deliberately cuts the end off a text that is not plain ASCII, for who counts on it.
+    /// That deliberately cuts the end off a text that is not plain ASCII, for those who count on it.
     static SqliteStatement prepareFirstGeneration(const SqliteConnection& connection,
                                                   const std::string& text);
 
