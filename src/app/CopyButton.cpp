@@ -7,25 +7,28 @@
 
 namespace tessaly {
 
+QString CopyButton::confirmation() {
+    return tr("Copied \u2713");
+}
+
 CopyButton::CopyButton(QWidget* parent) : QPushButton{parent} {
     const QString invitation = tr("Cop&y");
-    const QString done = tr("Copied \u2713");
-    setText(done);
+    setText(confirmation());
     const int widest = sizeHint().width();
     setText(invitation);
     setFixedWidth(std::max(widest, sizeHint().width()));
     setToolTip(tr("Copy the whole text shown below"));
     constexpr int shownFor = 1'500; // milliseconds
-    confirmation_.setInterval(shownFor);
-    confirmation_.setSingleShot(true);
-    connect(&confirmation_, &QTimer::timeout, this, [this, invitation] { setText(invitation); });
+    shown_.setInterval(shownFor);
+    shown_.setSingleShot(true);
+    connect(&shown_, &QTimer::timeout, this, [this, invitation] { setText(invitation); });
 }
 
 void CopyButton::copy(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
-    setText(tr("Copied \u2713"));
+    setText(confirmation());
     setShortcut(QKeySequence{Qt::ALT | Qt::Key_Y}); // the confirmation has no letter of its own
-    confirmation_.start();
+    shown_.start();
 }
 
 } // namespace tessaly

@@ -15,7 +15,9 @@ class CopyButton : public QPushButton {
     void copy(const QString& text);
 
   private:
-    QTimer confirmation_;
+    static QString confirmation();
+
+    QTimer shown_; ///< runs while the confirmation is
 };
 
 } // namespace tessaly

@@ -3,8 +3,10 @@
 #include "app/CopyButton.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
+#include "chrome/ProductInfo.h"
 #include "chrome/qt/MainTabView.h"
 #include "codegen/qt/WebPreviewView.h"
+#include "foundation/qt/ToQString.h"
 #include "presets/qt/PresetPanel.h"
 #include "sourceview/qt/Css3SourceView.h"
 #include "sourceview/qt/HtmlSourceView.h"
@@ -41,7 +43,7 @@ MainWindow::MainWindow(QWidget* parent)
       aboutButton_{new QPushButton{tr("&About")}},
       homepageButton_{new QPushButton{tr("Ho&mepage")}},
       relatedAppsButton_{new QPushButton{tr("R&elated Applications")}} {
-    setWindowTitle(QStringLiteral("Tessaly"));
+    setWindowTitle(toQString(product::name));
     layOut();
     auto* const quit = new QAction{this};
     quit->setShortcut(QKeySequence{Qt::CTRL | Qt::Key_Q});
@@ -62,13 +64,7 @@ void MainWindow::layOut() {
     editor->addWidget(stopControlPanel_);
     editor->addStretch();
 
-    auto* const buttons = new QBoxLayout{QBoxLayout::LeftToRight};
-    buttons->setSpacing(spacing);
-    buttons->addStretch();
-    buttons->addWidget(aboutButton_);
-    buttons->addWidget(homepageButton_);
-    buttons->addWidget(relatedAppsButton_);
-
+    auto* const buttons = buttonRow();
     auto* const side = new QVBoxLayout;
     side->setSpacing(margin);
     side->addWidget(presetPanel_, 0, Qt::AlignRight);
@@ -80,28 +76,39 @@ void MainWindow::layOut() {
     top->addLayout(editor);
     top->addLayout(side, 1);
 
-    for (QWidget* const page :
-         {static_cast<QWidget*>(css3SourceView_), static_cast<QWidget*>(htmlSourceView_),
-          static_cast<QWidget*>(webPreviewView_)}) {
-        sourceCodeContainerView_->addWidget(page);
-    }
-    auto* const code = new QVBoxLayout;
-    code->setSpacing(0);
-    auto* const header = new QHBoxLayout;
-    header->setSpacing(spacing);
-    header->addWidget(mainTabView_, 1);
-    header->addWidget(copyButton_);
-    code->addLayout(header);
-    code->addWidget(sourceCodeContainerView_, 1);
-
     auto* const whole = new QVBoxLayout{this};
     whole->setContentsMargins(margin, margin, margin, margin);
     whole->setSpacing(margin);
     whole->addLayout(top);
-    whole->addLayout(code, 1);
+    whole->addLayout(codeArea(), 1);
     if (minimumSizeHint().width() > room().width()) { // a small screen and a large font
         buttons->setDirection(QBoxLayout::TopToBottom);
     }
+}
+
+QBoxLayout* MainWindow::buttonRow() const {
+    auto* const row = new QBoxLayout{QBoxLayout::LeftToRight};
+    row->setSpacing(spacing);
+    row->addStretch();
+    row->addWidget(aboutButton_);
+    row->addWidget(homepageButton_);
+    row->addWidget(relatedAppsButton_);
+    return row;
+}
+
+QLayout* MainWindow::codeArea() const {
+    sourceCodeContainerView_->addWidget(css3SourceView_);
+    sourceCodeContainerView_->addWidget(htmlSourceView_);
+    sourceCodeContainerView_->addWidget(webPreviewView_);
+    auto* const header = new QHBoxLayout;
+    header->setSpacing(spacing);
+    header->addWidget(mainTabView_, 1);
+    header->addWidget(copyButton_);
+    auto* const area = new QVBoxLayout;
+    area->setSpacing(0);
+    area->addLayout(header);
+    area->addWidget(sourceCodeContainerView_, 1);
+    return area;
 }
 
 } // namespace tessaly

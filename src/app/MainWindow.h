@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QPushButton;
 class QStackedWidget;
 
@@ -37,6 +38,8 @@ class MainWindow : public QWidget {
 
   private:
     void layOut();
+    QBoxLayout* buttonRow() const;
+    QLayout* codeArea() const;
     QSize room() const; ///< that the screen has for the window
 
     StopControlPanel* stopControlPanel_;

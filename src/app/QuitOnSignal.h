@@ -9,7 +9,7 @@ class QSocketNotifier;
 namespace tessaly {
 
 /// Ends the event loop in order when the process is asked to end by a signal (a terminal's Ctrl+C, a session
-/// that closes), so that nothing is left behind. One object a process.
+/// that closes), so that nothing is left behind. One object per process.
 class QuitOnSignal : public QObject {
     Q_OBJECT
 

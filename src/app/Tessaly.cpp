@@ -2,9 +2,10 @@
 
 #include "app/CopyButton.h"
 #include "app/MainWindow.h"
-#include "canvas/CanvasNotifications.h"
+#include "canvas/CanvasNotification.h"
 #include "canvas/qt/CanvasView.h"
 #include "chrome/ProductInfo.h"
+#include "chrome/TabNotification.h"
 #include "chrome/qt/About.h"
 #include "chrome/qt/MainTabView.h"
 #include "chrome/qt/RelatedApps.h"
@@ -40,7 +41,7 @@ void Tessaly::awakeFromNib() {
     NotificationCenter& center = NotificationCenter::defaultCenter();
     // From the main window's own strip only: that of the related applications posts the same name.
     selectIndexChanged_ = center.addObserver(
-        "SelectIndexChanged", &mainWindow_.mainTabView(),
+        tabNotification::selectIndexChanged, &mainWindow_.mainTabView(),
         [this](const Notification& notification) { selectWebIndexDidChangeNotification(notification); });
     needToUpdateWebCode_ =
         center.addObserver(canvasNotification::needToUpdateWebCode, &mainWindow_.canvasView().editor(),
@@ -54,7 +55,9 @@ void Tessaly::awakeFromNib() {
 }
 
 void Tessaly::selectWebIndexDidChangeNotification(const Notification& notification) {
-    showSourceCodeView(std::any_cast<std::int64_t>(notification.userInfo.at("Index")));
+    if (const auto index = tabNotification::indexOf(notification)) {
+        showSourceCodeView(*index);
+    }
 }
 
 void Tessaly::showSourceCodeView(std::int64_t index) {
@@ -71,7 +74,7 @@ void Tessaly::showSourceCodeView(std::int64_t index) {
 void Tessaly::copyCode() {
     const QWidget* const page = mainWindow_.sourceCodeContainerView().currentWidget();
     const CodeTextAdapter& shown = page == &mainWindow_.htmlSourceView() ? htmlTextView_ : css3TextView_;
-    mainWindow_.copyButton().copy(QStringView{shown.text()}.toString());
+    mainWindow_.copyButton().copy(toQString(shown.text()));
 }
 
 void Tessaly::showAbout() {

@@ -11,7 +11,7 @@
 namespace tessaly {
 namespace {
 
-constexpr double markerInset = 10;   // from a marker's corner to its centre
+constexpr double markerInset = 10;   // corner of the markers that stand centred on an edge of the strip
 constexpr double markerOverlap = 15; // corner of the markers that run 5 points inside an edge of the strip
 
 // Half of an extent, cut to whole points.

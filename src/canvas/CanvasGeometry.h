@@ -23,6 +23,8 @@ class CanvasGeometry {
   public:
     static constexpr double frameWidth = 20;               ///< around the strip, on every side
     static constexpr Size colorMarkerSize{20, 20};         ///< of the whole marker
+    static constexpr Rect markerRing{1, 1, 18, 18};        ///< white, within its marker
+    static constexpr Rect markerInnerRing{6, 6, 8, 8};     ///< grey, within its marker
     static constexpr Rect markerDot{7, 7, 6, 6};           ///< colour of a stop, within its marker
     static constexpr Rect selectedMarkerDot{3, 3, 14, 14}; ///< the same for the selected stop
     static constexpr std::array guideDash{10.0, 15.0};     ///< points on, points off
@@ -49,6 +51,7 @@ class CanvasGeometry {
 
     Rect strip() const;
     Rect markerRect(std::int64_t orientation, double position) const;
+    /// None for the straight orientations and for an unknown one.
     std::optional<GuideLine> guideLine(std::int64_t orientation) const;
 
     /// Middle of the radial gradient and the radius of position 1. Deliberately 10 points left of the track

@@ -1,6 +1,6 @@
 #include "canvas/GradientEditor.h"
 
-#include "canvas/CanvasNotifications.h"
+#include "canvas/CanvasNotification.h"
 #include "canvas/CanvasScene.h"
 #include "canvas/CanvasSurface.h"
 

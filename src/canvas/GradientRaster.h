@@ -9,7 +9,7 @@
 namespace tessaly {
 
 /// The way of a linear gradient: {1, 0} left to right, {0, 1} bottom to top, {1, 1} and {-1, 1} at 45 and 135
-/// degrees. Every orientation is one of these.
+/// degrees. Every linear orientation is one of these.
 struct GradientDirection {
     int x = 1;
     int y = 0;

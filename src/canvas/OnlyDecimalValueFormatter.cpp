@@ -22,7 +22,7 @@ double outOfRange(std::string_view number) {
 } // namespace
 
 std::string OnlyDecimalValueFormatter::text(double value) const {
-    std::string text = fixedText(std::round(value * 10) / 10, 1); // halves go up, away from zero
+    std::string text = fixedText(std::round(value * 10) / 10, 1); // halves go away from zero
     if (text.ends_with(".0")) {
         text.resize(text.size() - 2);
     }

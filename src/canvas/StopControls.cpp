@@ -1,6 +1,7 @@
 #include "canvas/StopControls.h"
 
 #include "canvas/OrientationItems.h"
+#include "canvas/StopFormatter.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
@@ -9,16 +10,10 @@
 #include <utility>
 
 namespace tessaly {
+
 StopControls::StopControls(const StopControlSet& controls, ColorMarkers& markers,
                            std::function<void()> repaint, std::function<void()> announce)
     : controls_{controls}, markers_{markers}, repaint_{std::move(repaint)}, announce_{std::move(announce)} {}
-
-const NumberFormatter& StopControls::formatter(StopValue value) const {
-    if (traitsOf(value).decimal) {
-        return decimalFormatter_;
-    }
-    return integerFormatter_;
-}
 
 void StopControls::handle(const std::function<void()>& change) {
     if (!formReady_) {
@@ -33,20 +28,20 @@ void StopControls::handle(const std::function<void()>& change) {
 void StopControls::updateTextFieldValue(StopValue value) {
     handle([&] {
         const auto& [field, stepper] = pair(value);
-        double number = formatter(value).value(field->text());
+        double number = formatterOf(value).value(field->text());
         if (!traitsOf(value).decimal) {
             number = static_cast<double>(static_cast<float>(number));
         }
         stepper->setValue(number);
         const bool inRange = number >= stepper->minimum() && number <= stepper->maximum();
-        field->setText(formatter(value).text(inRange ? number : stepper->value()));
+        field->setText(formatterOf(value).text(inRange ? number : stepper->value()));
         apply(value);
     });
 }
 
 void StopControls::updateStepperValue(StopValue value) {
     handle([&] {
-        pair(value).field->setText(formatter(value).text(pair(value).stepper->value()));
+        pair(value).field->setText(formatterOf(value).text(pair(value).stepper->value()));
         apply(value);
     });
 }
@@ -94,7 +89,7 @@ void StopControls::updateColorFormatComboBoxValue() {
         }
         updateEnabledState();
     });
-    announce_(); // once more than the repaint did: deliberate, who listens hears a change of notation twice
+    announce_(); // once more than the repaint did: deliberate, listeners hear a change of notation twice
 }
 
 void StopControls::colorChangedNotification(const Notification& /*notification*/) {
@@ -130,7 +125,7 @@ std::int64_t StopControls::stepperInteger(StopValue value) const {
 void StopControls::setNumber(StopValue value, double number) {
     // The field may show what its stepper cannot hold: a full channel reads 256 beside 255.
     pair(value).stepper->setValue(number);
-    pair(value).field->setText(formatter(value).text(number));
+    pair(value).field->setText(formatterOf(value).text(number));
 }
 
 void StopControls::setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue) {

@@ -2,8 +2,6 @@
 
 #include "canvas/ColorMarkers.h"
 #include "canvas/ControlInterfaces.h"
-#include "canvas/OnlyDecimalValueFormatter.h"
-#include "canvas/OnlyIntegerValueFormatter.h"
 #include "canvas/StopValue.h"
 #include "foundation/Notification.h"
 
@@ -86,7 +84,6 @@ class StopControls {
     const StopControlSet::Pair& pair(StopValue value) const {
         return controls_.pairs[static_cast<std::size_t>(value)];
     }
-    const NumberFormatter& formatter(StopValue value) const;
     void handle(const std::function<void()>& change);
     void apply(StopValue value);
     void setNumber(StopValue value, double number);
@@ -97,8 +94,6 @@ class StopControls {
     ColorMarkers& markers_;
     std::function<void()> repaint_;
     std::function<void()> announce_;
-    OnlyIntegerValueFormatter integerFormatter_;
-    OnlyDecimalValueFormatter decimalFormatter_;
     bool opacityEditable_ = true;
     bool formReady_ = false;
 };

@@ -5,9 +5,9 @@
 #include "codegen/PreviewFolder.h"
 #include "foundation/Notification.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <unordered_map>
 

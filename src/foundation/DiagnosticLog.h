@@ -5,7 +5,8 @@
 
 namespace tessaly {
 
-/// The program's one log. Messages carry no level; they go to standard error, one line each.
+/// The program's one log. Messages carry no level; they go to standard error, one line each. Many only trace
+/// what the program does ("userpath", "mouseDown"): they stay, for whoever looks for a fault from its log.
 class DiagnosticLog {
   public:
     using Sink = std::function<void(std::string_view message)>;

@@ -1,19 +1,11 @@
 #include "foundation/Utf8.h"
 
-#include <cstdint>
+#include "foundation/Utf16.h"
 
 namespace tessaly {
 namespace {
 
 constexpr char32_t replacementCharacter = 0xFFFD;
-
-bool isHighSurrogate(char16_t unit) {
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool isLowSurrogate(char16_t unit) {
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
 
 // Takes the next code point off the front of `text`.
 char32_t takeCodePoint(std::u16string_view& text) {

@@ -20,7 +20,7 @@ namespace tessaly {
 /// Element i of each array describes stop i. Adding a stop changes all three; deleting one deliberately
 /// leaves its opacity behind, so the opacities may be more than the stops, never fewer. The order is that of
 /// the editor, which is ascending unless a position was typed. There may be no stops. Setters neither check
-/// nor notify: who changes the gradient announces it. Main thread only.
+/// nor notify: whoever changes the gradient announces it. Main thread only.
 class GlobalData {
   public:
     GlobalData() = default;

@@ -1,17 +1,11 @@
 #include "sourceview/TextEdit.h"
 
+#include "foundation/Utf16.h"
+
 #include <algorithm>
 
 namespace tessaly {
 namespace {
-
-bool isHighSurrogate(char16_t unit) {
-    return (unit & 0xFC00U) == 0xD800U;
-}
-
-bool isLowSurrogate(char16_t unit) {
-    return (unit & 0xFC00U) == 0xDC00U;
-}
 
 std::size_t commonStart(std::u16string_view a, std::u16string_view b) {
     const auto [endA, endB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());

@@ -1,6 +1,8 @@
 // Keystrokes and pastes in the number fields: what they accept, and what becomes of it.
 
 #include "FuzzTarget.h"
+#include "canvas/OnlyDecimalValueFormatter.h"
+#include "canvas/OnlyIntegerValueFormatter.h"
 #include "support/FakeControls.h"
 #include "support/Gradients.h"
 

@@ -4,7 +4,6 @@
 #include "foundation/Utf8.h"
 
 #include <string>
-#include <vector>
 
 namespace tessaly {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/CanvasNotifications.h"
+#include "canvas/CanvasNotification.h"
 #include "canvas/CanvasScene.h"
 #include "canvas/CanvasSurface.h"
 #include "canvas/StopControls.h"

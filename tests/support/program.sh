@@ -5,7 +5,7 @@ work=$(mktemp -d)
 export TMPDIR=$work/tmp XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work/run XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
 mkdir -m 700 "$TMPDIR" "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR" "$XDG_CONFIG_HOME" "$XDG_CACHE_HOME"
 styles=$TMPDIR/WebFolder0/styles.css
-openbox >/dev/null 2>&1 & # a window manager, which is who asks a window to close
+openbox >/dev/null 2>&1 & # a window manager: it is what asks a window to close
 manager=$!
 trap 'kill -9 ${pid:-} $manager 2>/dev/null || true; wait 2>/dev/null || true; rm -rf "$work"' EXIT
 

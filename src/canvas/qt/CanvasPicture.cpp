@@ -1,6 +1,7 @@
 #include "canvas/qt/CanvasPicture.h"
 
 #include "canvas/GradientRaster.h"
+#include "foundation/qt/Flipped.h"
 #include "model/qt/ColorBridge.h"
 
 #include <QPainter>
@@ -55,8 +56,9 @@ void CanvasPicture::createColorMarker() {
     QImage marker = transparentImage(CanvasGeometry::colorMarkerSize, devicePixelRatio_);
     QPainter painter{&marker};
     painter.setRenderHint(QPainter::Antialiasing);
-    drawOval(painter, {1, 1, 18, 18}, Qt::white);
-    drawOval(painter, {6, 6, 8, 8}, QColor::fromRgbF(0.5F, 0.5F, 0.5F));
+    const double height = CanvasGeometry::colorMarkerSize.height;
+    drawOval(painter, flipped(CanvasGeometry::markerRing, height), Qt::white);
+    drawOval(painter, flipped(CanvasGeometry::markerInnerRing, height), QColor::fromRgbF(0.5F, 0.5F, 0.5F));
     painter.end();
     colorMarkerImage_ = QPixmap::fromImage(marker);
 }
@@ -92,27 +94,21 @@ void CanvasPicture::paintGradient() {
 }
 
 void CanvasPicture::paintGuideLine(QPainter& painter, const GuideLine& guide) const {
+    const double height = geometry_.viewSize().height;
     QPen pen{Qt::black, 1};
     pen.setCapStyle(Qt::FlatCap);
     pen.setDashPattern({CanvasGeometry::guideDash[0], CanvasGeometry::guideDash[1]});
     painter.setPen(pen);
-    painter.drawLine(turned(guide.black.from), turned(guide.black.to));
+    painter.drawLine(flipped(guide.black.from, height), flipped(guide.black.to, height));
     pen.setColor(Qt::white);
     painter.setPen(pen);
-    painter.drawLine(turned(guide.white.from), turned(guide.white.to));
+    painter.drawLine(flipped(guide.white.from, height), flipped(guide.white.to, height));
 }
 
 void CanvasPicture::drawColorMarker(QPainter& painter, const CanvasScene::Marker& marker) const {
-    painter.drawPixmap(turned(marker.frame).topLeft(), colorMarkerImage_);
-    drawOval(painter, turned(marker.dot), toQColor(marker.color));
-}
-
-QRectF CanvasPicture::turned(const Rect& rect) const {
-    return {rect.x, geometry_.viewSize().height - rect.maxY(), rect.width, rect.height};
-}
-
-QPointF CanvasPicture::turned(Point point) const {
-    return {point.x, geometry_.viewSize().height - point.y};
+    const double height = geometry_.viewSize().height;
+    painter.drawPixmap(flipped(marker.frame, height).topLeft(), colorMarkerImage_);
+    drawOval(painter, flipped(marker.dot, height), toQColor(marker.color));
 }
 
 } // namespace tessaly

@@ -12,8 +12,7 @@ class QPainter;
 
 namespace tessaly {
 
-/// The offscreen picture of the canvas, in device pixels. The scene is in points with y upwards; only here it
-/// is turned to the toolkit's way.
+/// The offscreen picture of the canvas, in device pixels. The scene is in points with y upwards.
 class CanvasPicture {
   public:
     /// The geometry must outlive the picture.
@@ -33,8 +32,6 @@ class CanvasPicture {
     void paintGradient();
     void paintGuideLine(QPainter& painter, const GuideLine& guide) const;
     void drawColorMarker(QPainter& painter, const CanvasScene::Marker& marker) const;
-    QRectF turned(const Rect& rect) const;
-    QPointF turned(Point point) const;
 
     const CanvasGeometry& geometry_;
     double devicePixelRatio_ = 0.0; ///< 0 before there is a medium

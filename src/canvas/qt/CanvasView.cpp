@@ -2,6 +2,7 @@
 
 #include "canvas/qt/StopControlPanel.h"
 #include "foundation/NumberText.h"
+#include "foundation/qt/Flipped.h"
 #include "foundation/qt/ToQString.h"
 #include "model/qt/ColorBridge.h"
 
@@ -46,12 +47,12 @@ QSize CanvasView::sizeHint() const {
     return viewSize;
 }
 
-void CanvasView::takeMedium() {
+void CanvasView::updateMedium() {
     picture_.setMedium(devicePixelRatioF(), palette().color(QPalette::Window));
 }
 
 void CanvasView::paint(const CanvasScene& scene) {
-    takeMedium();
+    updateMedium();
     picture_.paint(scene);
     if (QAccessible::isActive()) {
         announceToAssistiveTools();
@@ -77,7 +78,7 @@ void CanvasView::announceToAssistiveTools() {
 }
 
 void CanvasView::paintEvent(QPaintEvent* /*event*/) {
-    takeMedium(); // the window may have come to another screen, the desktop to another theme
+    updateMedium(); // the window may have come to another screen, the desktop to another theme
     QPainter painter{this};
     painter.drawImage(QPointF{0, 0}, picture_.image());
     if (hasFocus()) {
@@ -89,16 +90,12 @@ void CanvasView::paintEvent(QPaintEvent* /*event*/) {
 QRectF CanvasView::markerRect(const ColorStop& stop) const {
     const Rect frame =
         editor_.geometry().markerRect(GlobalData::sharedData().orientationType(), stop.position);
-    return {frame.x, height() - frame.maxY(), frame.width, frame.height};
-}
-
-Point CanvasView::canvasPoint(QPointF position) const {
-    return {position.x(), height() - position.y()};
+    return flipped(frame, height());
 }
 
 void CanvasView::mouseDown(const QMouseEvent& event, int clickCount) {
     if (event.button() == Qt::LeftButton) {
-        editor_.interaction().mouseDown(canvasPoint(event.position()), clickCount);
+        editor_.interaction().mouseDown(flipped(event.position(), height()), clickCount);
     }
 }
 
@@ -112,7 +109,7 @@ void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton)) {
-        editor_.interaction().mouseDragged(canvasPoint(event->position()));
+        editor_.interaction().mouseDragged(flipped(event->position(), height()));
     }
 }
 
@@ -126,7 +123,7 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
     editor_.interaction().mouseUp(); // the menu takes the mouse, and with it the end of a drag
     if (event->reason() == QContextMenuEvent::Keyboard) {
         openMenuOfSelected();
-    } else if (editor_.interaction().rightMouseDown(canvasPoint(event->pos()))) {
+    } else if (editor_.interaction().rightMouseDown(flipped(event->pos(), height()))) {
         popupMenu_->popup(event->globalPos());
     }
 }

@@ -56,10 +56,9 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
 
   private:
     QRectF markerRect(const ColorStop& stop) const;
-    Point canvasPoint(QPointF position) const;
     void mouseDown(const QMouseEvent& event, int clickCount);
     void openMenuOfSelected();
-    void takeMedium();
+    void updateMedium();
     void announceToAssistiveTools();
 
     StopControlPanel& panel_;

@@ -1,6 +1,6 @@
 #include "canvas/qt/ColorPickerImageView.h"
 
-#include "canvas/CanvasNotifications.h"
+#include "canvas/CanvasNotification.h"
 #include "foundation/NotificationCenter.h"
 #include "model/qt/ColorBridge.h"
 

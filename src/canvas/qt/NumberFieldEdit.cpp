@@ -1,4 +1,5 @@
 #include "canvas/qt/NumberFieldEdit.h"
+
 #include "foundation/qt/ToQString.h"
 
 #include <QFontMetrics>
@@ -42,8 +43,8 @@ int stepsFor(int key) {
 
 } // namespace
 
-NumberFieldEdit::NumberFieldEdit(const NumberFormatter& formatter, int widestText, QWidget* parent)
-    : QLineEdit{parent}, widestText_{widestText} {
+NumberFieldEdit::NumberFieldEdit(const NumberFormatter& formatter, int digits, QWidget* parent)
+    : QLineEdit{parent}, digits_{digits} {
     setValidator(new FormatterValidator{formatter, this});
     setAlignment(Qt::AlignRight);
     connect(this, &QLineEdit::editingFinished, this, &NumberFieldEdit::endEditing);
@@ -60,7 +61,7 @@ void NumberFieldEdit::setText(std::string_view text) {
 QSize NumberFieldEdit::sizeHint() const {
     QStyleOptionFrame option;
     initStyleOption(&option);
-    const int textWidth = fontMetrics().horizontalAdvance(QString(widestText_, u'8'));
+    const int textWidth = fontMetrics().horizontalAdvance(QString(digits_, u'8'));
     const int height = QLineEdit::sizeHint().height();
     constexpr int textMargins = 8;
     return style()->sizeFromContents(QStyle::CT_LineEdit, &option,

@@ -14,7 +14,7 @@ class NumberFieldEdit : public QLineEdit, public NumberField {
 
   public:
     /// The formatter must outlive the field.
-    NumberFieldEdit(const NumberFormatter& formatter, int widestText, QWidget* parent = nullptr);
+    NumberFieldEdit(const NumberFormatter& formatter, int digits, QWidget* parent = nullptr);
 
     std::string text() const override { return QLineEdit::text().toStdString(); }
     void setText(std::string_view text) override;
@@ -36,8 +36,8 @@ class NumberFieldEdit : public QLineEdit, public NumberField {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    int widestText_; ///< digits to make room for
-    QString shown_;  ///< the text at the last end of editing or setting
+    int digits_;    ///< digits to make room for
+    QString shown_; ///< the text at the last end of editing or setting
 };
 
 } // namespace tessaly

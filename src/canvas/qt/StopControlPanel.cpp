@@ -1,6 +1,7 @@
 #include "canvas/qt/StopControlPanel.h"
 
 #include "canvas/OrientationItems.h"
+#include "canvas/StopFormatter.h"
 #include "canvas/qt/ColorPickerImageView.h"
 #include "canvas/qt/NumberFieldEdit.h"
 #include "canvas/qt/TitledComboBox.h"
@@ -21,7 +22,7 @@ constexpr int columnGap = 16;
 struct Cell {
     StopValue value;
     const char* label;
-    const char* fieldName; ///< of the widgets, for who looks them up
+    const char* fieldName; ///< of the widgets, to look them up by
     const char* stepperName;
     int row;
     int block; ///< of columns: label, field, stepper, gap
@@ -78,15 +79,11 @@ StopControlPanel::StopControlPanel(QWidget* parent)
 void StopControlPanel::addPair(QGridLayout& grid, const StopValueTraits& traits, int row, int column) {
     constexpr int integerDigits = 4;
     constexpr int decimalDigits = 5;
-    const NumberFormatter* formatter = &integerFormatter_;
-    if (traits.decimal) {
-        formatter = &decimalFormatter_;
-    }
     auto& [field, stepper] = pairs_[static_cast<std::size_t>(traits.value)];
-    field = new NumberFieldEdit{*formatter, traits.decimal ? decimalDigits : integerDigits};
+    field = new NumberFieldEdit{formatterOf(traits.value), traits.decimal ? decimalDigits : integerDigits};
     field->setAccessibleName(toQString(traits.name));
     stepper = new ValueStepper{traits};
-    stepper->setAccessibleName(toQString(traits.name) + tr(" stepper"));
+    stepper->setAccessibleName(tr("%1 stepper").arg(toQString(traits.name)));
     connect(field, &NumberFieldEdit::stepped, stepper, &ValueStepper::stepBy);
     connect(stepper, &ValueStepper::aboutToStep, field, &NumberFieldEdit::endEditing);
     auto* const pairLayout = new QHBoxLayout;

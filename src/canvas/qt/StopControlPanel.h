@@ -1,7 +1,5 @@
 #pragma once
 
-#include "canvas/OnlyDecimalValueFormatter.h"
-#include "canvas/OnlyIntegerValueFormatter.h"
 #include "canvas/StopControls.h"
 
 #include <QWidget>
@@ -39,8 +37,6 @@ class StopControlPanel : public QWidget {
     void addPair(QGridLayout& grid, const StopValueTraits& traits, int row, int column);
     void addLists(QGridLayout& grid);
 
-    OnlyIntegerValueFormatter integerFormatter_;
-    OnlyDecimalValueFormatter decimalFormatter_;
     std::array<Pair, stopValues.size()> pairs_;
     ColorPickerImageView* selectedColor_;
     TitledComboBox* selectedOrientationComboBox_;

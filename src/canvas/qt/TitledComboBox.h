@@ -4,7 +4,6 @@
 #include "foundation/qt/ToQString.h"
 
 #include <QComboBox>
-#include <span>
 #include <string_view>
 
 namespace tessaly {

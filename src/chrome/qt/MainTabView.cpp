@@ -1,6 +1,8 @@
 #include "chrome/qt/MainTabView.h"
 
+#include "chrome/TabNotification.h"
 #include "foundation/NotificationCenter.h"
+#include "foundation/qt/Flipped.h"
 #include "model/qt/ColorBridge.h"
 
 #include <QApplication>
@@ -11,6 +13,7 @@
 #include <cmath>
 
 namespace tessaly {
+
 MainTabView::MainTabView(const QStringList& titles, QWidget* parent) : QWidget{parent} {
     installAccessibleItems();
     setFocusPolicy(Qt::StrongFocus);
@@ -48,7 +51,7 @@ void MainTabView::setSelectIndex(std::int64_t index) {
 }
 
 void MainTabView::sendMessage(std::int64_t index) const {
-    NotificationCenter::defaultCenter().post({"SelectIndexChanged", this, {{"Index", index}}});
+    NotificationCenter::defaultCenter().post(tabNotification::makeSelectIndexChanged(index, this));
 }
 
 void MainTabView::pressTab(std::int64_t index) {
@@ -62,11 +65,11 @@ void MainTabView::pressTab(std::int64_t index) {
 QRectF MainTabView::tabRectangle(std::int64_t index) const {
     const auto& rectangles = layout_.hitRectangles();
     const auto position = static_cast<std::size_t>(index);
-    return index >= 0 && position < rectangles.size() ? fromLayout(rectangles[position]) : QRectF{};
+    return index >= 0 && position < rectangles.size() ? flipped(rectangles[position], height()) : QRectF{};
 }
 
 std::int64_t MainTabView::tabAt(QPointF position) const {
-    return layout_.tabAt({position.x(), height() - position.y()}).value_or(-1);
+    return layout_.tabAt(flipped(position, height())).value_or(-1);
 }
 
 void MainTabView::updateTrackingAreas() {
@@ -101,7 +104,7 @@ void MainTabView::paintEvent(QPaintEvent* /*event*/) {
     for (std::size_t i = 0; i < drawn.titles.size(); ++i) {
         drawTab(painter, i, drawn);
     }
-    trackingPath_ = fromLayout(drawn.trackingPath);
+    trackingPath_ = flipped(drawn.trackingPath, height());
     updateTrackingAreas();
     if (hasFocus()) {
         drawFocusFrame(painter, drawn);
@@ -112,13 +115,13 @@ void MainTabView::drawTab(QPainter& painter, std::size_t index, const DrawnTabs&
     if (tabs.selectedBox && static_cast<std::int64_t>(index) == selectIndex_) {
         painter.setPen(QPen{toQColor(colors_.borderSelectColor), 1});
         painter.setBrush(toQColor(colors_.selectColor));
-        painter.drawRect(fromLayout(*tabs.selectedBox));
+        painter.drawRect(flipped(*tabs.selectedBox, height()));
     }
     const Point origin = tabs.titles[index];
     const Size size = layout_.textSizes()[index];
     painter.setFont(textFonts_[index]);
     painter.setPen(toQColor(colors_.title));
-    painter.drawText(fromLayout({origin.x, origin.y, size.width, size.height}),
+    painter.drawText(flipped(Rect{origin.x, origin.y, size.width, size.height}, height()),
                      Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,
                      tabs_[static_cast<qsizetype>(index)]);
     if (index < tabs.separators.size()) {
@@ -129,8 +132,7 @@ void MainTabView::drawTab(QPainter& painter, std::size_t index, const DrawnTabs&
 void MainTabView::drawSeparator(QPainter& painter, const TabSeparator& separator) const {
     const auto stroke = [&](const Line& line, const RGBAComponents& color) {
         painter.setPen(QPen{toQColor(color), 1, Qt::SolidLine, Qt::FlatCap});
-        painter.drawLine(QPointF{line.from.x, height() - line.from.y},
-                         QPointF{line.to.x, height() - line.to.y});
+        painter.drawLine(flipped(line.from, height()), flipped(line.to, height()));
     };
     stroke(separator.dark, colors_.separatorDark);
     stroke(separator.light, colors_.separatorLight);
@@ -138,7 +140,7 @@ void MainTabView::drawSeparator(QPainter& painter, const TabSeparator& separator
 
 void MainTabView::drawFocusFrame(QPainter& painter, const DrawnTabs& tabs) const {
     constexpr double outset = 1.0; // clear of the separators
-    const QRectF frame = tabs.selectedBox ? fromLayout(*tabs.selectedBox) : trackingArea_;
+    const QRectF frame = tabs.selectedBox ? flipped(*tabs.selectedBox, height()) : trackingArea_;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen{toQColor(colors_.title), 1.5});
     painter.setBrush(Qt::NoBrush);
@@ -177,10 +179,6 @@ void MainTabView::keyPressEvent(QKeyEvent* event) {
     if (const auto index = layout_.neighbour(selectIndex_, step); index && *index != selectIndex_) {
         setSelectIndex(*index);
     }
-}
-
-QRectF MainTabView::fromLayout(const Rect& rectangle) const {
-    return {rectangle.x, height() - rectangle.maxY(), rectangle.width, rectangle.height};
 }
 
 QString MainTabView::accessibleItemName(int item) const {

@@ -73,7 +73,6 @@ class MainTabView : public QWidget, public AccessibleItems {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    QRectF fromLayout(const Rect& rectangle) const;
     Size frameSize() const { return {static_cast<double>(width()), static_cast<double>(height())}; }
     void drawTab(QPainter& painter, std::size_t index, const DrawnTabs& tabs) const;
     void drawSeparator(QPainter& painter, const TabSeparator& separator) const;

@@ -1,6 +1,7 @@
 #include "chrome/qt/RelatedApps.h"
 
 #include "chrome/RelatedTools.h"
+#include "chrome/TabNotification.h"
 #include "chrome/qt/MainTabView.h"
 #include "chrome/qt/WebAddressOpener.h"
 #include "foundation/qt/ToQString.h"
@@ -11,7 +12,6 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <any>
 #include <iterator>
 
 namespace tessaly {
@@ -75,9 +75,8 @@ RelatedApps::RelatedApps(QWidget* mainWindow)
         pages_->addWidget(pageOf(group));
     }
     tabChange_ = NotificationCenter::defaultCenter().addObserver(
-        "SelectIndexChanged", tabView_, [this](const Notification& change) {
-            pages_->setCurrentIndex(
-                static_cast<int>(std::any_cast<std::int64_t>(change.userInfo.at("Index"))));
+        tabNotification::selectIndexChanged, tabView_, [this](const Notification& change) {
+            pages_->setCurrentIndex(static_cast<int>(tabNotification::indexOf(change).value_or(0)));
         });
 
     auto* const close = new QPushButton{tr("&Close")};

@@ -5,6 +5,7 @@
 #include "chrome/qt/WebLabelAccessible.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/qt/ToQString.h"
+#include "model/qt/ColorBridge.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -18,7 +19,7 @@ namespace {
 // Pure blue cannot be read on a dark desktop, which gets a light one.
 QColor blueOn(const QColor& background) {
     constexpr QColor onDark{0x7a, 0xb8, 0xff};
-    return background.lightness() < 128 ? onDark : QColor{Qt::blue};
+    return isDark(background) ? onDark : QColor{Qt::blue};
 }
 
 } // namespace
@@ -29,7 +30,7 @@ WebLabel::WebLabel(const QString& address, QWidget* parent) : QLabel{address, pa
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     setMargin(2); // the focus frame stays clear of the text
-    paintItBlue();
+    updateColor();
 }
 
 void WebLabel::openAddress() {
@@ -81,7 +82,7 @@ void WebLabel::paintEvent(QPaintEvent* event) {
 
 void WebLabel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
-        paintItBlue();
+        updateColor();
     }
     QLabel::changeEvent(event);
 }
@@ -92,7 +93,7 @@ void WebLabel::setUnderlined(bool underlined) {
     setFont(underlinedFont);
 }
 
-void WebLabel::paintItBlue() {
+void WebLabel::updateColor() {
     QPalette blue = palette();
     const QColor color = blueOn(blue.color(backgroundRole()));
     if (blue.color(foregroundRole()) != color) {

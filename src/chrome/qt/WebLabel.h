@@ -24,7 +24,7 @@ class WebLabel : public QLabel {
 
   private:
     void setUnderlined(bool underlined);
-    void paintItBlue();
+    void updateColor();
 };
 
 } // namespace tessaly

@@ -26,4 +26,10 @@ inline Color fromQColor(const QColor& color) {
                                 static_cast<double>(rgb.blueF()), static_cast<double>(rgb.alphaF()));
 }
 
+/// Whether light text belongs on it.
+inline bool isDark(const QColor& background) {
+    constexpr int middle = 128; // of 255
+    return background.lightness() < middle;
+}
+
 } // namespace tessaly

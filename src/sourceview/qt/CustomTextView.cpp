@@ -1,5 +1,6 @@
 #include "sourceview/qt/CustomTextView.h"
 
+#include "foundation/qt/ToQString.h"
 #include "sourceview/qt/CodeDocumentLayout.h"
 #include "sourceview/qt/ExactText.h"
 

@@ -31,7 +31,7 @@ void CustomTextView::drawViewBackgroundInRect(QPainter& painter, const QRectF& r
         return;
     }
     painter.save();
-    painter.setOpacity(bandColor::strength(palette().color(QPalette::Base).lightness() < 128));
+    painter.setOpacity(bandColor::strength(isDark(palette().color(QPalette::Base))));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(band, textViewSelectColor_);
     painter.setPen(QPen{textViewSelectColorBorder_, 1});

@@ -29,8 +29,4 @@ std::u16string storedText(std::u16string_view text) {
     return stored;
 }
 
-QString toQString(std::u16string_view text) {
-    return QStringView{text}.toString();
-}
-
 } // namespace tessaly

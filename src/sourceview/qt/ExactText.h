@@ -16,6 +16,4 @@ std::u16string exactText(QString raw);
 /// points that are no characters and that documents use for themselves, end lines like LF.
 std::u16string storedText(std::u16string_view text);
 
-QString toQString(std::u16string_view text);
-
 } // namespace tessaly
