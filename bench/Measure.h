@@ -14,8 +14,8 @@ double secondsOf(auto step) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// Sorts the values; there must be one at least.
-inline double median(std::vector<double>& values) {
+/// There must be one value at least.
+inline double median(std::vector<double> values) {
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];
 }
@@ -33,7 +33,7 @@ void measure(benchmark::State& state, auto step, auto restore) {
         return; // an error was reported
     }
     state.counters["median"] = median(times);
-    state.counters["worst"] = times.back();
+    state.counters["worst"] = *std::max_element(times.begin(), times.end());
 }
 
 void measure(benchmark::State& state, auto step) {
