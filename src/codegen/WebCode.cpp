@@ -25,8 +25,8 @@ TextRange startingFrom(TextRange range, std::size_t location) {
     return {start, std::max(range.end(), start) - start};
 }
 
-// Where `wanted` stands, as near to `likely` as can be and not before `from`; nowhere is an empty range. The
-// user may have written the same elsewhere.
+// Where `wanted` stands between `from` and the end of `text`, as near to `likely` as can be; nowhere is an
+// empty range. The user may have written the same elsewhere.
 TextRange find(const std::u16string& wanted, std::u16string_view text, std::size_t likely, std::size_t from) {
     constexpr std::size_t npos = std::u16string_view::npos;
     const std::size_t after = text.find(wanted, likely);
@@ -128,7 +128,10 @@ void WebCode::stylesheetEdited(std::size_t position, std::size_t removed, std::s
         return;
     }
     if (added > 0) {
-        findDeclarations(before, {position, removed}, text);
+        if (removed == 0 && text[position] == u'\n') {
+            keepLineFeedsApart(before, position);
+        }
+        findDeclarations(before, {position, removed}, added, text);
         known->second = ranges_;
     }
 }
@@ -138,9 +141,20 @@ void WebCode::forgetEdits() {
     rangesOfTexts_.emplace(hashOf(css3TextView_.text()), ranges_);
 }
 
+// A line feed typed at the end of a declaration's last line, before the one that ends it, takes its place:
+// what is typed next stands below the declaration and not in it.
+void WebCode::keepLineFeedsApart(const DeclarationRanges& before, std::size_t typedAt) {
+    for (const Declaration declaration : allDeclarations) {
+        if (before[declaration].length > 0 && before[declaration].end() == typedAt + 1) {
+            ranges_.place(declaration, before[declaration]);
+        }
+    }
+}
+
 // Text dragged elsewhere is reported as one edit of all between, and several undone steps may be: a
 // declaration that the edit touched and that stands unchanged nearby keeps its place there.
-void WebCode::findDeclarations(const DeclarationRanges& before, TextRange edited, std::u16string_view text) {
+void WebCode::findDeclarations(const DeclarationRanges& before, TextRange edited, std::size_t added,
+                               std::u16string_view text) {
     const auto touched = [&](Declaration declaration) {
         const TextRange& old = before[declaration];
         return old.location <= edited.end() && edited.location <= old.end();
@@ -153,10 +167,16 @@ void WebCode::findDeclarations(const DeclarationRanges& before, TextRange edited
     const std::size_t limit = last == allDeclarations.end() ? text.size() : ranges_[*last].location;
     std::size_t from = first == allDeclarations.begin() ? 0 : ranges_[*std::prev(first)].end();
     for (const Declaration declaration : std::span{first, last}) {
-        const std::string& own = declarations_.text(declaration);
+        const std::u16string own{declarations_.text(declaration).begin(),
+                                 declarations_.text(declaration).end()};
+        const std::size_t old = before[declaration].location;
         const TextRange followed = startingFrom(ranges_[declaration], from);
+        const bool wasInside = edited.location < old && old < edited.end();
+        // The edit can have moved only what now stands in it or reaches into it.
+        const std::size_t start = std::max(from, edited.location - std::min(edited.location, own.size()));
+        const std::size_t end = std::min(limit, edited.location + added + own.size());
         const TextRange found =
-            find({own.begin(), own.end()}, text.substr(0, limit), followed.location, from);
+            find(own, text.substr(0, end), std::max(wasInside ? old : followed.location, start), start);
         ranges_.place(declaration, found.length > 0 ? found : followed);
         from = ranges_[declaration].end();
     }

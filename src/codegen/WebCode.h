@@ -64,7 +64,9 @@ class WebCode {
 
   private:
     void doUpdate(Declaration declaration);
-    void findDeclarations(const DeclarationRanges& before, TextRange edited, std::u16string_view text);
+    void keepLineFeedsApart(const DeclarationRanges& before, std::size_t typedAt);
+    void findDeclarations(const DeclarationRanges& before, TextRange edited, std::size_t added,
+                          std::u16string_view text);
     void forgetEdits();
     void beginInsertion(CodeText& view);
     void endInsertion(CodeText& view);

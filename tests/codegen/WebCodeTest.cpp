@@ -120,6 +120,45 @@ TEST_F(WebCodeTest, findsDeclarationsAfterAnUndoAndPastDraggedText) {
     }
 }
 
+TEST_F(WebCodeTest, tellsItsDeclarationsFromTheUsersCopiesAndNewLines) {
+    const std::u16string plain{css.text()}, box = u".box {\n\tbackground: #000000;\n}\n",
+                                            line = u"\tcolor: red;\n";
+    const std::size_t first = code->ranges().backgroundColorOldIndex();
+    const TextRange last = code->ranges()[Declaration::MSFilter];
+    const std::vector<std::function<std::string()>> rows{
+        [&] { // a letter within the first declaration, below a copy of it
+            edit({0, 0}, box);
+            edit({box.size() + first + 14, 0}, u"x");
+            return toUtf8(box) + radialCss;
+        },
+        [&] { // the last one deleted, above a copy of the whole rule
+            edit({plain.size(), 0}, plain);
+            edit(last, u"");
+            edit({last.location, 0}, u"\n");
+            return std::string{radialCss}.insert(radialCss.find("\tfilter"), "\n") + toUtf8(plain);
+        },
+        [&] { // a line dragged over all of them, above a copy of one
+            edit({plain.size(), 0}, box);
+            edit({first, 0}, line);
+            become(std::u16string{plain}.insert(last.end(), line) + box);
+            return std::string{radialCss}.insert(radialCss.size() - 2, toUtf8(line)) + toUtf8(box);
+        },
+        [&] { // a line typed below a changed one
+            edit({first + 21, 0}, u" /* x */");
+            css.contents.insert(first + 29, u"\n");
+            code->stylesheetEdited(first + 29, 0, 1);
+            edit({first + 30, 0}, u"\tcolor: red;");
+            return std::string{radialCss}.insert(first + 22, toUtf8(line));
+        }};
+    for (const auto& row : rows) {
+        GlobalData::sharedData().setOrientationType(orientation::leftToRight);
+        code->insertCSS3Code();
+        const std::string expected = row();
+        update(orientation::radial);
+        EXPECT_EQ(css.utf8(), expected);
+    }
+}
+
 TEST_F(WebCodeTest, anyChangeAmongRandomEditsWritesEveryDeclaration) {
     std::mt19937 random{2};
     const auto upTo = [&](std::size_t most) {
