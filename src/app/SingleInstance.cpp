@@ -2,12 +2,18 @@
 
 #include "foundation/DiagnosticLog.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QLocalSocket>
 #include <QStandardPaths>
 
 namespace tessaly {
 namespace {
+
+// In milliseconds, with a copy that does not answer.
+constexpr int patience = 5'000;
+constexpr int pause = 100;
 
 // In the user's private folder for sockets; short, since the path of a socket has little room.
 QString pathFor(const QString& folder, const char* ending) {
@@ -25,10 +31,16 @@ SingleInstance::SingleInstance(const QString& folder, QObject* parent)
     // What stops us is another copy alone, not a lock that cannot be had for another reason.
     first_ = lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
     const QString socketPath = pathFor(folder, ".socket");
+    // One that does not answer is closing, or has started just now.
+    for (const QDeadlineTimer end{patience}; !first_ && !tellFirst(socketPath);
+         first_ = lock_.tryLock(pause)) {
+        if (end.hasExpired()) {
+            DiagnosticLog::write("Another copy runs but does not answer");
+            break;
+        }
+    }
     if (first_) {
         listen(socketPath);
-    } else {
-        tellFirst(socketPath);
     }
 }
 
@@ -42,19 +54,18 @@ void SingleInstance::listen(const QString& socketPath) {
             Q_EMIT startedAgain();
         }
     });
+    // From then on a new start waits for the lock instead of asking in vain.
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &server_, &QLocalServer::close);
     if (!server_.listen(socketPath)) {
         DiagnosticLog::write("A second start will not show this window: " +
                              server_.errorString().toStdString());
     }
 }
 
-void SingleInstance::tellFirst(const QString& socketPath) {
+bool SingleInstance::tellFirst(const QString& socketPath) {
     QLocalSocket first;
     first.connectToServer(socketPath);
-    constexpr int patience = 2'000; // milliseconds
-    if (!first.waitForConnected(patience)) {
-        DiagnosticLog::write("Another copy runs but does not answer: " + first.errorString().toStdString());
-    }
+    return first.waitForConnected(patience);
 }
 
 } // namespace tessaly

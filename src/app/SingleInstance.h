@@ -13,7 +13,8 @@ class SingleInstance : public QObject {
     Q_OBJECT
 
   public:
-    /// `folder` is what must not be worked on twice. A copy that was killed does not count.
+    /// `folder` is what must not be worked on twice. A copy that was killed does not count, and one that is
+    /// closing is waited for.
     explicit SingleInstance(const QString& folder, QObject* parent = nullptr);
 
     /// False when another copy runs; it has been told.
@@ -25,7 +26,7 @@ class SingleInstance : public QObject {
 
   private:
     void listen(const QString& socketPath);
-    static void tellFirst(const QString& socketPath);
+    static bool tellFirst(const QString& socketPath);
 
     QLockFile lock_;
     QLocalServer server_;

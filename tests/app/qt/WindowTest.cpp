@@ -25,6 +25,8 @@
 #include <QWebEngineView>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <semaphore>
+#include <thread>
 
 namespace tessaly {
 namespace {
@@ -172,7 +174,15 @@ TEST(SingleInstance, aSecondOneTellsTheFirstAndMayFollowIt) {
         EXPECT_TRUE(first.isFirst() && !second.isFirst());
         EXPECT_TRUE(again.wait());
     }
-    EXPECT_TRUE(SingleInstance{path}.isFirst());
+    std::binary_semaphore isClosing{0};
+    const std::jthread closing{[&] {
+        const SingleInstance first{path};
+        QMetaObject::invokeMethod(qApp, "aboutToQuit", Qt::DirectConnection);
+        isClosing.release();
+        std::this_thread::sleep_for(std::chrono::milliseconds{300});
+    }};
+    isClosing.acquire();
+    EXPECT_TRUE(SingleInstance{path}.isFirst()) << "once the other is gone";
 }
 
 } // namespace
