@@ -23,9 +23,12 @@ QRectF CodeDocumentLayout::blockBoundingRect(const QTextBlock& block) const {
 }
 
 // A change within one line is laid out at once, twice, to learn whether the line has grown. One that reaches
-// into the next is laid out when it is looked at.
+// into the next, or changes the number of lines, is laid out when it is looked at.
 void CodeDocumentLayout::documentChanged(int from, int removed, int added) {
-    if (const QTextBlock line = document()->findBlock(from); line.isValid() && isLong(line)) {
+    const QTextBlock line = document()->findBlock(from);
+    const bool isInOneLine = lines_ == document()->blockCount();
+    lines_ = document()->blockCount();
+    if (isInOneLine && line.isValid() && isLong(line)) {
         added = std::max(added, line.position() + line.length() + 1 - from);
     }
     QPlainTextDocumentLayout::documentChanged(from, removed, added);

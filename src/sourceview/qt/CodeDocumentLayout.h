@@ -5,7 +5,8 @@
 namespace tessaly {
 
 /// The layout of a code view, which lays out a line too long to be wrapped once after each edit and keeps the
-/// result. The toolkit alone does so several times: for the edit, for the caret and for each picture.
+/// result, some 25 bytes a character, until it changes again. The toolkit alone does so several times: for
+/// the edit, for the caret and for each picture.
 class CodeDocumentLayout : public QPlainTextDocumentLayout {
     Q_OBJECT
 
@@ -16,6 +17,9 @@ class CodeDocumentLayout : public QPlainTextDocumentLayout {
 
   protected:
     void documentChanged(int from, int removed, int added) override;
+
+  private:
+    int lines_ = 1; ///< as of the last change
 };
 
 } // namespace tessaly

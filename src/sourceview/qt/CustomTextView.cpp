@@ -133,11 +133,12 @@ void CustomTextView::reportEdits() {
 }
 
 // Switches wrapping off first where the text asks for it: afterwards the toolkit would lay it out twice.
-void CustomTextView::insertInto(QTextCursor cursor, std::u16string_view text) {
-    if (LongLineWatch::hasTooLongLine(text)) {
+void CustomTextView::insertInto(QTextCursor& cursor, std::u16string_view text) {
+    const std::u16string stored = storedText(text);
+    if (LongLineWatch::hasTooLongLine(stored)) {
         setWrapping(false);
     }
-    cursor.insertText(toQString(text));
+    cursor.insertText(toQString(stored));
 }
 
 // A line too long to be wrapped is also set without the finer points of typography (ligatures, kerning),
@@ -165,8 +166,9 @@ bool CustomTextView::canInsertFromMimeData(const QMimeData* source) const {
 
 void CustomTextView::insertFromMimeData(const QMimeData* source) {
     if (!isReadOnly() && canInsertFromMimeData(source)) {
-        insertInto(textCursor(), source->text().toStdU16String());
-        ensureCursorVisible();
+        QTextCursor cursor = textCursor();
+        insertInto(cursor, source->text().toStdU16String());
+        setTextCursor(cursor); // Up and Down go on from the column that it is in now
     }
 }
 

@@ -91,7 +91,7 @@ class CustomTextView : public QPlainTextEdit {
   private:
     void noteChange(int position, int removed, int added);
     void reportEdits();
-    void insertInto(QTextCursor cursor, std::u16string_view text);
+    void insertInto(QTextCursor& cursor, std::u16string_view text);
     void setWrapping(bool wrapping);
     void placeRuler();
     void replaceUnrecorded(const TextEdit& edit, std::u16string_view added);
