@@ -15,7 +15,7 @@ declare -A packages=(
     [package]="dpkg-dev file"
     [icons]="librsvg2-bin"
     [bench]="libbenchmark-dev sqlite3 python3"
-    [check]="clang clang-format clang-tidy cppcheck libclang-rt-14-dev llvm"
+    [check]="clang clang-format clang-tidy cppcheck libclang-rt-dev llvm"
 )
 
 missing=()

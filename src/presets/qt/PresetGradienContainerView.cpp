@@ -139,7 +139,7 @@ void PresetGradienContainerView::keyPressEvent(QKeyEvent* event) {
 bool PresetGradienContainerView::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         const auto position = positionAt(static_cast<QHelpEvent*>(event)->pos());
-        setToolTip(position ? tr("Apply preset %1; right click to delete it").arg(*position + 1) : QString{});
+        setToolTip(position ? tr("Apply preset %1; right click for its menu").arg(*position + 1) : QString{});
     }
     return QWidget::event(event);
 }
