@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const TemporaryFolder support;
     const auto file = support.path / "Tessaly" / "localDB.sqlite3";
     std::filesystem::create_directory(file.parent_path());
-    for (const auto& path : {file, support.path / "original"}) {
+    for (const auto& path : {file, support.path / "original", support.path / "tables"}) {
         std::ofstream{path, std::ios::binary} << bytes;
     }
     const std::optional<std::string> before = presetsIn(support.path / "original");
@@ -41,8 +41,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         preset.orientationType = static_cast<std::int32_t>(preset.orientationType); // as it is stored
     }
     require(PresetProgram{support.path}.presets() == saved, "a save brings the list back after a restart");
-    const auto names = [&](const char* table) { return bytes.find(table) != std::string::npos; };
-    const bool hasTables = names("le MainTable (") && names("le AdditionalTable ("); // else they are made
+    const auto tables =
+        SqliteConnection::open(support.path / "tables")
+            .value("select count(*) from sqlite_master where name in ('MainTable', 'AdditionalTable')");
+    const bool hasTables = tables.value_or("2") == "2"; // else they are made
     const auto isKept = [&](const std::filesystem::directory_entry& entry) {
         const std::string kept = contentsOf(entry.path());
         const std::size_t end = std::max(firstPage, std::min(size, kept.size()));
