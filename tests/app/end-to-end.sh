@@ -11,30 +11,30 @@ eval "$(xdotool getwindowgeometry --shell "$window")"
 [ "$HEIGHT" -le 680 ] || fail "the window is higher than the screen"
 timeout 10 "$program" 2>"$work/second" || fail "a second start did not end"
 [ ! -e "$TMPDIR/WebFolder1" ] || fail "a second copy went to work"
-at 620 188 && xdotool mousedown 1 # the white marker, at the right end of the strip
-at 400 188 && at 328 188 && xdotool mouseup 1
+at $last_marker && xdotool mousedown 1
+at 400 188 && at $middle_of_track && xdotool mouseup 1
 expect '#ffffff 50%);'
 at 182 188 && xdotool click --repeat 2 --delay 60 1 # a new stop at a quarter, selected
 expect '#000000 25%,'
-at 81 242 && xdotool click --repeat 3 --delay 60 1 && xdotool type 255 && xdotool key Return
+at $red && xdotool click --repeat 3 --delay 60 1 && xdotool type 255 && xdotool key Return
 expect '#ff0000 25%,'
 
-at 500 600 && xdotool click 1 && xdotool key ctrl+Home && xdotool type 'a' # into the stylesheet
+click_at $code && xdotool key ctrl+Home && xdotool type 'a' # into the stylesheet
 copied() {
     xclip -out -selection clipboard | grep -qF "$1"
 }
-at 425 355 && xdotool click 1 && at 923 355 && xdotool click 1 # "HTML", "Copy"
+click_at $html_tab && click_at $copy
 eventually copied '<!DOCTYPE html>'
-at 375 355 && xdotool click 1 && at 923 355 && xdotool click 1 # "CSS 3", "Copy"
+click_at $css_tab && click_at $copy
 eventually copied 'a.gradient {'
-at 496 355 && xdotool click 1 # "Web Preview"
+click_at $preview_tab
 sleep 1
 at 182 188 && xdotool mousedown 1
 at 328 100 && xdotool mouseup 1
 expect '#ff0000 50%);'
 expect 'a.gradient {'
 
-at 920 29 && xdotool click 1 # "Add Preset"
+click_at $add_preset
 stored='0|1
 1|0|0.0|0.0|0.0|0.0|1.0
 2|0|0.5|1.0|1.0|1.0|1.0
@@ -46,7 +46,7 @@ eventually rows_are_stored
 finish wmctrl -i -c "$window"
 
 begin
-at 730 82 && xdotool click 1 # the thumbnail
+click_at $first_preset
 expect '#ff0000 50%);'
 rows_are_stored || fail "applying a preset changed what is stored"
 menu_is_open() {

@@ -34,10 +34,10 @@ for ((done = 0; done < actions; done += 100)); do
 done
 
 xdotool key Escape key Escape key Escape
-at 375 355 && xdotool click 1
-at 580 242 && xdotool click 1 key Home key Return click 1 key End key Return # a change that is written in any case
+click_at $css_tab
+click_at $orientation && xdotool key Home key Return click 1 key End key Return # a change that is written in any case
 expect 'radial-gradient(center'
-at 923 355 && xdotool click 1 # "Copy"
+click_at $copy
 is_shown() {
     cmp <(xclip -out -selection clipboard) "$styles"
 }

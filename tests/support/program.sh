@@ -1,6 +1,7 @@
 # For scripts that drive the real program on the current display: folders of its own, start, waiting and a proper end.
 # Sourced with $program set; leaves $work, $styles (the preview's stylesheet), $pid and $window.
 
+. "$(dirname "${BASH_SOURCE[0]}")/places.sh"
 work=$(mktemp -d)
 export TMPDIR=$work/tmp XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work/run XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
 mkdir -m 700 "$TMPDIR" "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR" "$XDG_CONFIG_HOME" "$XDG_CACHE_HOME"
@@ -28,6 +29,9 @@ expect() {
 }
 at() {
     xdotool mousemove --window "$window" "$1" "$2"
+}
+click_at() {
+    at "$@" && xdotool click 1
 }
 begin() {
     "$program" 2>"$work/log" &
