@@ -10,22 +10,16 @@ namespace tessaly {
 struct TabBarColors {
     /// Declared for a hover look that was never given behaviour: the first is absent and neither is drawn.
     std::optional<RGBAComponents> highlightColor;
-    RGBAComponents borderHighlightColor = of(51, 152, 213, 0.4);
+    RGBAComponents borderHighlightColor = rgbOfBytes(51, 152, 213, 0.4);
 
-    RGBAComponents selectColor = of(124, 155, 173, 0.4);
-    RGBAComponents borderSelectColor = of(84, 115, 113, 0.4);
+    RGBAComponents selectColor = rgbOfBytes(124, 155, 173, 0.4);
+    RGBAComponents borderSelectColor = rgbOfBytes(84, 115, 113, 0.4);
 
-    RGBAComponents gradientBottom = of(179, 179, 179);
-    RGBAComponents gradientTop = of(220, 220, 220);
+    RGBAComponents gradientBottom = rgbOfBytes(179, 179, 179);
+    RGBAComponents gradientTop = rgbOfBytes(220, 220, 220);
     RGBAComponents separatorDark{1.0 / 3.0, 1.0 / 3.0, 1.0 / 3.0};
     RGBAComponents separatorLight{1.0, 1.0, 1.0};
     RGBAComponents title{0.0, 0.0, 0.0};
-
-  private:
-    /// From 8-bit components, divided in single precision.
-    static constexpr RGBAComponents of(float red, float green, float blue, double alpha = 1.0) {
-        return {red / 255.0F, green / 255.0F, blue / 255.0F, alpha};
-    }
 };
 
 } // namespace tessaly

@@ -10,11 +10,12 @@ constexpr char32_t replacementCharacter = 0xFFFD;
 // Takes the next code point off the front of `text`.
 char32_t takeCodePoint(std::u16string_view& text) {
     const char16_t unit = text.front();
-    text.remove_prefix(1);
-    if (isHighSurrogate(unit) && !text.empty() && isLowSurrogate(text.front())) {
+    const char16_t next = text.size() > 1 ? text[1] : u'\0';
+    const bool isPair = isHighSurrogate(unit) && isLowSurrogate(next);
+    text.remove_prefix(isPair ? 2 : 1);
+    if (isPair) {
         const char32_t high = unit - 0xD800U;
-        const char32_t low = text.front() - 0xDC00U;
-        text.remove_prefix(1);
+        const char32_t low = next - 0xDC00U;
         return 0x10000U + (high << 10U) + low;
     }
     return isHighSurrogate(unit) || isLowSurrogate(unit) ? replacementCharacter : unit;

@@ -14,6 +14,11 @@ struct RGBAComponents {
     bool operator==(const RGBAComponents&) const = default;
 };
 
+/// From components of 0 to 255, divided in single precision.
+constexpr RGBAComponents rgbOfBytes(float red, float green, float blue, double alpha = 1.0) {
+    return {red / 255.0F, green / 255.0F, blue / 255.0F, alpha};
+}
+
 /// A colour as the user picks it. Most have a form in calibrated RGB; a pattern, say, has none.
 class Color {
   public:

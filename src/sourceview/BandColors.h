@@ -5,8 +5,8 @@
 /// The band behind the selected lines of a code view.
 namespace tessaly::bandColor {
 
-inline constexpr RGBAComponents fill{209.0F / 255.0F, 226.0F / 255.0F, 242.0F / 255.0F, 0.4};
-inline constexpr RGBAComponents border{120.0F / 255.0F, 174.0F / 255.0F, 229.0F / 255.0F, 0.4};
+inline constexpr RGBAComponents fill = rgbOfBytes(209, 226, 242, 0.4);
+inline constexpr RGBAComponents border = rgbOfBytes(120, 174, 229, 0.4);
 
 /// Share of the band's opacity to draw it with: at full strength the pale fill would take the contrast from
 /// the light text of a dark desktop.
