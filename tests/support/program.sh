@@ -15,6 +15,8 @@ fail() {
     tail -n 60 "$work/log" "$styles" 2>/dev/null || true
     exit 1
 }
+set -E
+trap 'fail "line $LINENO: $BASH_COMMAND"' ERR
 
 # Waits for a command to succeed, on a busy machine too.
 eventually() {
@@ -24,6 +26,7 @@ eventually() {
     done
     fail "never came true: $*"
 }
+eventually wmctrl -m # it manages what is mapped from now on; what is mapped while it starts may stay hidden
 expect() {
     eventually grep -qF -- "$1" "$styles"
 }
@@ -36,7 +39,7 @@ click_at() {
 begin() {
     "$program" 2>"$work/log" &
     pid=$!
-    window=$(timeout 30 xdotool search --sync --onlyvisible --pid "$pid" --name '^Tessaly$' | head -n 1)
+    window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$pid" --name '^Tessaly$' | head -n 1) || fail "no window"
     expect '#ffffff 100%);'
 }
 # Ends the program by the command, and in order.
