@@ -31,13 +31,14 @@ SingleInstance::SingleInstance(const QString& folder, QObject* parent)
     // What stops us is another copy alone, not a lock that cannot be had for another reason.
     first_ = lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
     const QString socketPath = pathFor(folder, ".socket");
-    // One that does not answer is closing, or has started just now.
-    for (const QDeadlineTimer end{patience}; !first_ && !tellFirst(socketPath);
-         first_ = lock_.tryLock(pause)) {
+    // A copy that does not answer is closing, or has started just now.
+    const QDeadlineTimer end{patience};
+    while (!first_ && !tellFirst(socketPath)) {
         if (end.hasExpired()) {
             DiagnosticLog::write("Another copy runs but does not answer");
             break;
         }
+        first_ = lock_.tryLock(pause);
     }
     if (first_) {
         listen(socketPath);
@@ -45,8 +46,8 @@ SingleInstance::SingleInstance(const QString& folder, QObject* parent)
 }
 
 void SingleInstance::listen(const QString& socketPath) {
-    QLocalServer::removeServer(
-        socketPath); // a crash leaves it; nobody else can own it while we have the lock
+    // A crash leaves it; nobody else can own it while we have the lock.
+    QLocalServer::removeServer(socketPath);
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* const caller = server_.nextPendingConnection()) {
