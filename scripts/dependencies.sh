@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the project needs and the machine lacks. The one place that names Debian packages.
 #
-#   scripts/dependencies.sh GROUP...    groups: core, build, display, screenshot, test, package, icons, bench, check
+#   scripts/dependencies.sh GROUP...    groups: core, build, display, screenshot, test, package, icons, bench, systems, check
 set -euo pipefail
 
 declare -A packages=(
@@ -15,6 +15,7 @@ declare -A packages=(
     [package]="dpkg-dev file"
     [icons]="librsvg2-bin"
     [bench]="libbenchmark-dev sqlite3 python3"
+    [systems]="debootstrap util-linux git"
     [check]="clang clang-format clang-tidy cppcheck libclang-rt-dev llvm"
 )
 
