@@ -3,13 +3,11 @@
 #include "Probe.h"
 #include "app/WiredWindow.h"
 #include "chrome/qt/ProgramIcon.h"
-#include "codegen/qt/WebPreviewView.h"
 
 #include <QDir>
 
 int main(int argc, char** argv) {
     using namespace tessaly;
-    WebPreviewView::prepareProcess();
     QApplication application{argc, argv};
     QApplication::setWindowIcon(programIcon());
     WiredWindow wired{QDir::tempPath().toStdString(), argv[2]};

@@ -5,7 +5,6 @@
 #include "app/WiredWindow.h"
 #include "chrome/ProductInfo.h"
 #include "chrome/qt/ProgramIcon.h"
-#include "codegen/qt/WebPreviewView.h"
 #include "foundation/qt/ToQString.h"
 
 #include <QApplication>
@@ -43,7 +42,6 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(toQString(product::name));
     QApplication::setApplicationVersion(toQString(product::version()));
     answerCommandLine(argc, argv);
-    WebPreviewView::prepareProcess();
     QApplication application{argc, argv};
     QApplication::setDesktopFileName(toQString(product::desktopId()));
     QApplication::setWindowIcon(programIcon());

@@ -4,11 +4,19 @@
 #include "foundation/DiagnosticLog.h"
 
 #include <cerrno>
-#include <string>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 namespace tessaly {
+namespace {
+
+void logFailure(const std::string& what, const std::filesystem::path& path, std::error_code error) {
+    DiagnosticLog::write(what + ": " + path.native() + ": " + error.message());
+}
+
+} // namespace
 
 std::optional<PreviewFolder> PreviewFolder::create(const std::filesystem::path& temporaryDirectory) {
     if (temporaryDirectory.is_relative()) {
@@ -17,38 +25,51 @@ std::optional<PreviewFolder> PreviewFolder::create(const std::filesystem::path& 
     }
     // Making a folder fails where anything of that name exists, which is the test and the claim in one step.
     for (int number = 0;; ++number) {
-        std::filesystem::path folder = temporaryDirectory / ("WebFolder" + std::to_string(number));
-        if (::mkdir(folder.c_str(), S_IRWXU) == 0) {
-            return PreviewFolder{std::move(folder)};
+        std::filesystem::path path = temporaryDirectory / ("WebFolder" + std::to_string(number));
+        if (::mkdir(path.c_str(), S_IRWXU) == 0) {
+            Descriptor folder{::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
+            if (folder) {
+                return PreviewFolder{std::move(path), std::move(folder)};
+            }
+            const int error = errno;
+            ::rmdir(path.c_str());
+            errno = error;
         }
         if (errno != EEXIST) {
-            const std::error_code error{errno, std::generic_category()};
-            DiagnosticLog::write("No preview folder: " + folder.native() + ": " + error.message());
+            logFailure("No preview folder", path, {errno, std::generic_category()});
             return std::nullopt;
         }
     }
 }
 
-PreviewFolder::PreviewFolder(PreviewFolder&& other) noexcept : path_{std::exchange(other.path_, {})} {}
-
 PreviewFolder& PreviewFolder::operator=(PreviewFolder&& other) noexcept {
     std::swap(path_, other.path_); // the folder held before ends with `other`
+    std::swap(folder_, other.folder_);
     return *this;
 }
 
 PreviewFolder::~PreviewFolder() {
-    if (path_.empty()) {
+    if (!folder_) {
         return;
     }
-    std::error_code ignored; // what stays is the user's, or the system's to clear away
-    std::filesystem::remove(path_ / pageName, ignored);
-    std::filesystem::remove(path_ / stylesheetName, ignored);
-    std::filesystem::remove(path_, ignored);
+    // What cannot be removed is the user's, or the system's to clear away.
+    ::unlinkat(folder_.number(), pageName, 0);
+    ::unlinkat(folder_.number(), stylesheetName, 0);
+    if (isInPlace()) {
+        ::rmdir(path_.c_str());
+    }
 }
 
-void PreviewFolder::write(std::string_view name, std::string_view contents) const {
-    if (const std::error_code error = writeFileAtomically(path_ / name, contents)) {
-        DiagnosticLog::write("Preview file not written: " + (path_ / name).native() + ": " + error.message());
+bool PreviewFolder::isInPlace() const {
+    struct stat held {};
+    struct stat found {};
+    return ::fstat(folder_.number(), &held) == 0 && ::lstat(path_.c_str(), &found) == 0 &&
+           held.st_dev == found.st_dev && held.st_ino == found.st_ino;
+}
+
+void PreviewFolder::write(const std::string& name, std::string_view contents) const {
+    if (const std::error_code error = writeFileAtomically(folder_, name, contents)) {
+        logFailure("Preview file not written", path_ / name, error);
     }
 }
 

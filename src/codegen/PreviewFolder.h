@@ -1,23 +1,28 @@
 #pragma once
 
+#include "foundation/Descriptor.h"
+
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace tessaly {
 
-/// The folder of the preview's two files: "WebFolder" and the first free number, private to the user. Its end
-/// takes the two files and the folder with it; a folder that holds anything else stays.
+/// The folder of the preview's two files: "WebFolder" and the first free number, private to the user. It is
+/// held open, and everything is done within it: whoever puts something else under its name gets nothing
+/// written or deleted there. Its end takes the two files and the folder with it; a folder that holds anything
+/// else stays.
 class PreviewFolder {
   public:
-    static constexpr std::string_view pageName = "index.html";
-    static constexpr std::string_view stylesheetName = "styles.css";
+    static constexpr const char* pageName = "index.html";
+    static constexpr const char* stylesheetName = "styles.css";
 
     /// Makes the folder under `temporaryDirectory`; none when that cannot be done, with the reason in the
     /// log.
     static std::optional<PreviewFolder> create(const std::filesystem::path& temporaryDirectory);
 
-    PreviewFolder(PreviewFolder&& other) noexcept;
+    PreviewFolder(PreviewFolder&& other) noexcept = default;
     PreviewFolder& operator=(PreviewFolder&& other) noexcept;
     PreviewFolder(const PreviewFolder&) = delete;
     PreviewFolder& operator=(const PreviewFolder&) = delete;
@@ -25,13 +30,18 @@ class PreviewFolder {
 
     const std::filesystem::path& path() const { return path_; }
 
+    /// Whether the folder is still what is found at its path.
+    bool isInPlace() const;
+
     /// Replaces one of the two files as a whole. On failure the old file stays and the log tells.
-    void write(std::string_view name, std::string_view contents) const;
+    void write(const std::string& name, std::string_view contents) const;
 
   private:
-    explicit PreviewFolder(std::filesystem::path path) : path_{std::move(path)} {}
+    PreviewFolder(std::filesystem::path path, Descriptor folder)
+        : path_{std::move(path)}, folder_{std::move(folder)} {}
 
-    std::filesystem::path path_; ///< empty once moved from
+    std::filesystem::path path_;
+    Descriptor folder_; ///< none once moved from
 };
 
 } // namespace tessaly

@@ -88,10 +88,11 @@ void WebCode::insertCSS3Code() {
 }
 
 void WebCode::createHTMLIndexFile() {
-    folder_ = PreviewFolder::create(temporaryDirectory_);
-    if (!folder_) {
+    std::optional<PreviewFolder> folder = PreviewFolder::create(temporaryDirectory_);
+    if (!folder) {
         return;
     }
+    folder_ = std::move(folder);
     GlobalData::sharedData().setTempFolderPath(folderPath().native());
     folder_->write(PreviewFolder::pageName, toUtf8(htmlTextView_.text()));
     folder_->write(PreviewFolder::stylesheetName, toUtf8(css3TextView_.text()));
@@ -192,7 +193,9 @@ void WebCode::writeFile() {
 }
 
 void WebCode::writeCSSFile() {
-    if (folder_) {
+    if (folder_ && !folder_->isInPlace()) {
+        createHTMLIndexFile(); // somebody took it away; tried at each change until it can be done
+    } else if (folder_) {
         folder_->write(PreviewFolder::stylesheetName, toUtf8(css3TextView_.text()));
     }
     css3TextView_.redisplay();

@@ -216,14 +216,49 @@ TEST_F(WebCodeTest, goesOnWithoutAPreviewWhenTheDiskRefuses) {
     EXPECT_EQ(log.messages.back().rfind("No preview folder: ", 0), 0U);
     EXPECT_EQ(web.loaded, "");
     code->createHTMLIndexFile();
-    std::filesystem::remove_all(code->folderPath()); // and someone takes its place
     const auto theirs = code->folderPath() / "styles.css" / "theirs";
+    std::filesystem::remove(code->folderPath() / "styles.css");
     std::filesystem::create_directories(theirs);
     update();
     EXPECT_EQ(log.messages.back().rfind("Preview file not written: ", 0), 0U);
     EXPECT_EQ(css.utf8(), contentsOf(data / "default.css"));
     code.reset();
     EXPECT_TRUE(std::filesystem::exists(theirs));
+}
+
+TEST_F(WebCodeTest, makesAFolderThatWasTakenAwayAnewAndTouchesNothingThatStandsInItsPlace) {
+    code->createHTMLIndexFile();
+    const auto first = code->folderPath(), elsewhere = temporary.path / "elsewhere";
+    std::filesystem::create_directory(elsewhere);
+    const auto theirs = {elsewhere / "styles.css", elsewhere / "index.html"};
+    for (const auto& file : theirs) {
+        std::ofstream{file} << "theirs";
+    }
+    std::filesystem::rename(first, temporary.path / "moved");
+    std::filesystem::create_symlink(elsewhere, first);
+    const std::filesystem::path away{temporary.path.native() + "-away"};
+    std::filesystem::rename(temporary.path, away);
+    update();
+    EXPECT_EQ(log.messages.back().rfind("No preview folder: ", 0), 0U)
+        << "and tried again at the next change";
+    std::filesystem::rename(away, temporary.path);
+    for (const std::int64_t orientation : {orientation::radial, orientation::bottomToTop}) {
+        update(orientation);
+        EXPECT_EQ(contentsOf(temporary.path / "WebFolder1" / "styles.css"), css.utf8());
+    }
+    EXPECT_EQ(contentsOf(temporary.path / "WebFolder1" / "index.html"), contentsOf(data / "default.html"));
+    EXPECT_EQ(web.loaded, temporary.path / "WebFolder1" / "index.html");
+    EXPECT_EQ(GlobalData::sharedData().tempFolderPath(), code->folderPath().native());
+    std::filesystem::remove_all(code->folderPath());
+    update();
+    EXPECT_EQ(web.loaded, temporary.path / "WebFolder1" / "index.html") << "the first free one again";
+    std::filesystem::rename(code->folderPath(), temporary.path / "moved again");
+    std::filesystem::create_directory(temporary.path / "WebFolder1");
+    code.reset();
+    for (const auto& file : theirs) {
+        EXPECT_EQ(contentsOf(file), "theirs");
+    }
+    EXPECT_TRUE(std::filesystem::exists(temporary.path / "WebFolder1")) << "that of another";
 }
 
 } // namespace

@@ -1,131 +1,136 @@
 #include "codegen/qt/WebPreviewView.h"
 
-#include "codegen/qt/PreviewPage.h"
-#include "codegen/qt/PreviewRequestFilter.h"
 #include "foundation/DiagnosticLog.h"
 
-#include <QEvent>
-#include <QLoggingCategory>
-#include <QVBoxLayout>
-#include <QWebEngineProfile>
-#include <QWebEngineView>
-#include <unistd.h>
+#include <QAccessible>
+#include <QGridLayout>
+#include <QLabel>
+#include <algorithm>
+#include <utility>
 
 namespace tessaly {
 
-void WebPreviewView::prepareProcess() {
-    // The engine reports its whole configuration otherwise, in the middle of our log.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
-    if (::geteuid() == 0 && !qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX")) {
-        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-        DiagnosticLog::write(
-            "Running as root: the browser engine's sandbox is off, it cannot start otherwise");
-    }
-}
+using Clock = std::chrono::steady_clock;
 
-WebPreviewView::WebPreviewView(QWidget* parent) : QWidget{parent} {
-    auto* const layout = new QVBoxLayout{this};
-    layout->setContentsMargins(0, 0, 0, 0);
+WebPreviewView::WebPreviewView(const QString& module, QWidget* parent)
+    : QWidget{parent}, moduleFile_{module}, layers_{new QGridLayout{this}}, cover_{new QLabel} {
     setAccessibleName(tr("Web preview"));
-    constexpr int pause = 200; // milliseconds
-    makeAgain_.setInterval(pause);
-    makeAgain_.setSingleShot(true);
-    connect(&makeAgain_, &QTimer::timeout, this, &WebPreviewView::makeView);
+    cover_->setAutoFillBackground(true);
+    cover_->setBackgroundRole(QPalette::Base);
+    cover_->setForegroundRole(QPalette::Text);
+    cover_->setAlignment(Qt::AlignCenter);
+    cover_->setWordWrap(true);
+    cover_->setTextFormat(Qt::PlainText);
+    cover_->installEventFilter(this);
+    layers_->setContentsMargins(0, 0, 0, 0);
+    layers_->addWidget(cover_, 0, 0);
+    startAgain_.setSingleShot(true);
+    connect(&startAgain_, &QTimer::timeout, this, &WebPreviewView::proceed);
 }
 
 WebPreviewView::~WebPreviewView() = default;
 
 void WebPreviewView::loadFile(const std::filesystem::path& page) {
     url_ = QUrl::fromLocalFile(QString::fromStdString(page.native()));
-    if (view_) {
-        loadPage();
-    }
-}
-
-void WebPreviewView::loadPage() {
-    loading_ = true;
-    filter_->setPage(url_);
-    page_->show(url_);
+    ask(Order::LoadPage);
 }
 
 void WebPreviewView::reload() {
-    if (!view_ || !url_.isValid()) {
-        return;
-    }
-    if (loading_) {
-        reloadAgain_ = true;
-    } else {
-        loading_ = true;
-        page_->triggerAction(QWebEnginePage::Reload);
+    if (url_.isValid()) {
+        ask(pageIsSound_ ? Order::RenewStylesheet : Order::LoadPage);
     }
 }
 
 void WebPreviewView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (!view_) {
-        startEngine();
+    if (engineRuns_ && asked_ != Order::None) {
+        cover(); // what the engine painted last is no longer true
     }
+    proceed();
 }
 
-void WebPreviewView::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && page_) {
-        takeBackground();
+bool WebPreviewView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Paint) {
+        cover_->removeEventFilter(this);
+        // Loading takes some pictures' time, so the switched tab is to reach the screen first.
+        QTimer::singleShot(0, this, &WebPreviewView::loadModule);
     }
+    return QWidget::eventFilter(watched, event);
+}
+
+void WebPreviewView::loadModule() {
+    module_ = moduleFile_.load();
+    if (module_ == nullptr) {
+        DiagnosticLog::write("No web preview: " + moduleFile_.failure().toStdString());
+        cover(tr("There is no preview: %1.").arg(moduleFile_.failure()));
+    }
+    proceed();
 }
 
 void WebPreviewView::startEngine() {
-    filter_ = std::make_unique<PreviewRequestFilter>();
-    profile_ = std::make_unique<QWebEngineProfile>(); // off the record: nothing is kept
-    profile_->setUrlRequestInterceptor(filter_.get());
-    makeView();
+    engine_.reset();
+    engine_ = module_->makeEngine(
+        *this,
+        {[this](bool sound) { orderFinished(sound); }, [this] { cover_->hide(); }, [this] { engineEnded(); }},
+        DiagnosticLog::write);
+    layers_->addWidget(&engine_->widget(), 0, 0);
+    cover();
+    engineRuns_ = true;
+    restarts_.started(Clock::now());
 }
 
-void WebPreviewView::makeView() {
-    view_.reset();
-    delete container_;
-    page_ = std::make_unique<PreviewPage>(*profile_);
-    takeBackground();
-    connect(page_.get(), &QWebEnginePage::loadFinished, this, &WebPreviewView::loadFinished);
-    connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, &WebPreviewView::renderProcessEnded);
-    view_ = std::make_unique<QWebEngineView>();
-    view_->setAttribute(Qt::WA_QuitOnClose, false);
-    view_->setPage(page_.get());
-    view_->setContextMenuPolicy(Qt::NoContextMenu);
-    loading_ = false;
-    reloadAgain_ = false;
-    if (url_.isValid()) {
-        loadPage();
+void WebPreviewView::ask(Order order) {
+    asked_ = std::max(asked_, order);
+    if (restarts_.hasGivenUp() && !engineRuns_ && !startAgain_.isActive()) {
+        startAgain_.start(restarts_.untilWorthATry(Clock::now()));
     }
-    embedView();
+    proceed();
 }
 
-void WebPreviewView::embedView() {
-    // As a child widget the view would make the toolkit build the main window anew, visibly, and draw all of
-    // it through the graphics card from then on. As a native window of its own it concerns nobody else.
-    view_->resize(size());
-    view_->winId();
-    container_ = QWidget::createWindowContainer(view_->windowHandle());
-    layout()->addWidget(container_);
+void WebPreviewView::proceed() {
+    if (module_ == nullptr || !isVisible() || busy_ || asked_ == Order::None || startAgain_.isActive()) {
+        return;
+    }
+    if (!engineRuns_) {
+        startEngine();
+    }
+    busy_ = true;
+    if (std::exchange(asked_, Order::None) == Order::LoadPage) {
+        engine_->load(url_);
+    } else {
+        engine_->renewStylesheet();
+    }
 }
 
-void WebPreviewView::renderProcessEnded() {
+void WebPreviewView::orderFinished(bool sound) {
+    busy_ = false;
+    pageIsSound_ = sound;
+    proceed();
+}
+
+void WebPreviewView::engineEnded() {
     DiagnosticLog::write("The preview's render process ended; making the preview anew");
-    // Not at once: a page that ends its process each time must not keep the machine busy. The old view may go
-    // on showing nothing even when its page loads again, so it is replaced.
-    makeAgain_.start();
+    engineRuns_ = false; // but not gone: it is what calls
+    busy_ = false;
+    pageIsSound_ = false;
+    if (const auto pause = restarts_.ended(Clock::now())) {
+        asked_ = Order::LoadPage;
+        cover();
+        startAgain_.start(*pause);
+    } else {
+        asked_ = Order::None;
+        DiagnosticLog::write("It ended too often; the next change tries again");
+        cover(tr("The browser engine cannot run. The next change of the gradient tries again."));
+    }
 }
 
-void WebPreviewView::takeBackground() {
-    // What is seen until the first page has loaded, and behind a page that sets no background of its own.
-    page_->setBackgroundColor(palette().color(QPalette::Base));
-}
-
-void WebPreviewView::loadFinished() {
-    loading_ = false;
-    if (reloadAgain_) {
-        reloadAgain_ = false;
-        reload();
+void WebPreviewView::cover(const QString& why) {
+    cover_->setText(why);
+    cover_->raise();
+    cover_->show();
+    if (!why.isEmpty()) {
+        QAccessibleEvent alert{cover_, QAccessible::Alert};
+        QAccessible::updateAccessibility(&alert);
     }
 }
 

@@ -1,31 +1,30 @@
 #pragma once
 
+#include "codegen/EngineRestarts.h"
 #include "codegen/WebView.h"
+#include "codegen/qt/PreviewModuleFile.h"
 
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
 #include <memory>
 
-class QWebEngineProfile;
-class QWebEngineView;
+class QGridLayout;
+class QLabel;
 
 namespace tessaly {
 
-class PreviewPage;
-class PreviewRequestFilter;
-
-/// The live preview in a real browser engine. The engine is started when the view is first shown: nobody pays
-/// for it before looking at it. Reloads asked for while one is running are joined into one more.
+/// The live preview in a real browser engine, which is loaded when the view is first seen: nobody pays for it
+/// before looking at it. Changes that arrive while one is on its way are joined into one more, those that
+/// arrive while the view is hidden wait for it to be shown. Whatever the engine has not painted yet is
+/// covered by the palette's base colour; where there is no engine, one line there tells why.
 class WebPreviewView : public QWidget, public WebView {
     Q_OBJECT
 
   public:
-    /// To be called before the application object is made: prepares the process for an engine that starts
-    /// late.
-    static void prepareProcess();
-
-    explicit WebPreviewView(QWidget* parent = nullptr);
+    /// `module` is the file of the engine's module.
+    explicit WebPreviewView(const QString& module = PreviewModuleFile::installedPath(),
+                            QWidget* parent = nullptr);
     WebPreviewView(const WebPreviewView&) = delete;
     WebPreviewView& operator=(const WebPreviewView&) = delete;
     ~WebPreviewView() override;
@@ -34,32 +33,33 @@ class WebPreviewView : public QWidget, public WebView {
     void reload() override;
     void redisplay() override { update(); }
 
-    /// The engine's view; null before the first showing.
-    QWebEngineView* engineView() const { return view_.get(); }
-
   protected:
     void showEvent(QShowEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override; ///< sees the cover being painted
 
   private:
-    void startEngine();
-    void makeView();
-    void embedView();
-    void renderProcessEnded();
-    void loadPage();
-    void loadFinished();
-    void takeBackground();
+    enum class Order { None, RenewStylesheet, LoadPage }; ///< each includes those before it
 
+    void loadModule();
+    void startEngine();
+    void ask(Order order);
+    void proceed();
+    void orderFinished(bool sound);
+    void engineEnded();
+    void cover(const QString& why = {});
+
+    PreviewModuleFile moduleFile_;
+    PreviewModule* module_ = nullptr;
     QUrl url_;
-    bool loading_ = false;
-    bool reloadAgain_ = false;
-    QTimer makeAgain_;
-    QWidget* container_ = nullptr; ///< what the view's window is embedded in
-    // In the order in which the engine wants them to end: the view first, the profile last.
-    std::unique_ptr<PreviewRequestFilter> filter_;
-    std::unique_ptr<QWebEngineProfile> profile_;
-    std::unique_ptr<PreviewPage> page_;
-    std::unique_ptr<QWebEngineView> view_;
+    Order asked_ = Order::None; ///< what the engine is still to do
+    bool engineRuns_ = false;
+    bool busy_ = false;        ///< it does something
+    bool pageIsSound_ = false; ///< it has loaded the page
+    EngineRestarts restarts_;
+    QTimer startAgain_;
+    QGridLayout* layers_; ///< of one cell, the cover above the engine's widget
+    QLabel* cover_;
+    std::unique_ptr<PreviewEngine> engine_;
 };
 
 } // namespace tessaly

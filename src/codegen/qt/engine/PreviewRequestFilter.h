@@ -12,7 +12,8 @@ class PreviewRequestFilter : public QWebEngineUrlRequestInterceptor {
   public:
     void setPage(const QUrl& page) { page_ = page; }
 
-    /// Whether the preview may read `url`.
+    /// Whether the preview may read `url`: the page, or the stylesheet under any query, which makes it read
+    /// anew.
     bool isOwnFile(const QUrl& url) const;
 
     void interceptRequest(QWebEngineUrlRequestInfo& request) override;

@@ -1,13 +1,12 @@
-#include "codegen/qt/PreviewRequestFilter.h"
+#include "codegen/qt/engine/PreviewRequestFilter.h"
 
 #include "codegen/PreviewFolder.h"
-#include "foundation/qt/ToQString.h"
 
 namespace tessaly {
 
 bool PreviewRequestFilter::isOwnFile(const QUrl& url) const {
-    const QString name = toQString(PreviewFolder::stylesheetName);
-    return page_.isValid() && (url == page_ || url == page_.resolved(QUrl{name}));
+    const QUrl stylesheet = page_.resolved(QUrl{QString::fromLatin1(PreviewFolder::stylesheetName)});
+    return page_.isValid() && (url == page_ || url.adjusted(QUrl::RemoveQuery) == stylesheet);
 }
 
 void PreviewRequestFilter::interceptRequest(QWebEngineUrlRequestInfo& request) {

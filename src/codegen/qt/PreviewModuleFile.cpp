@@ -1,0 +1,56 @@
+#include "codegen/qt/PreviewModuleFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonObject>
+#include <QOpenGLContext>
+#include <QPluginLoader>
+
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT void
+qt_gl_set_global_share_context(QOpenGLContext* context); // the toolkit's own, for its modules
+Q_GUI_EXPORT QOpenGLContext* qt_gl_global_share_context();
+QT_END_NAMESPACE
+
+namespace tessaly {
+namespace {
+
+// The engine ends the process when it is loaded after the application object was made and there is no such
+// context. It only has to exist: nothing here draws by it, and no graphics driver is loaded for it.
+void provideShareContext() {
+    if (qt_gl_global_share_context() == nullptr) {
+        qt_gl_set_global_share_context(new QOpenGLContext{QCoreApplication::instance()});
+    }
+}
+
+} // namespace
+
+QString PreviewModuleFile::installedPath() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../" TESSALY_MODULES "/preview.so");
+}
+
+PreviewModule* PreviewModuleFile::load() {
+    if (!QFile::exists(path_)) {
+        failure_ = QCoreApplication::translate("Preview", "%1 is missing").arg(path_);
+        return nullptr;
+    }
+    QPluginLoader loader{path_};
+    loader.setLoadHints(QLibrary::PreventUnloadHint);
+    const QString version = loader.metaData()
+                                .value(QStringLiteral("MetaData"))
+                                .toObject()
+                                .value(QStringLiteral("version"))
+                                .toString();
+    if (version != QStringLiteral(TESSALY_VERSION)) {
+        failure_ = QCoreApplication::translate("Preview", "%1 is not of this program's version").arg(path_);
+        return nullptr;
+    }
+    provideShareContext();
+    auto* const module = qobject_cast<PreviewModule*>(loader.instance());
+    if (module == nullptr) {
+        failure_ = loader.errorString();
+    }
+    return module;
+}
+
+} // namespace tessaly

@@ -1,0 +1,138 @@
+// The preview with an engine that does as the test says.
+
+#include "codegen/qt/WebPreviewView.h"
+
+#include "support/Eventually.h"
+#include "support/LogCapture.h"
+#include "support/Palettes.h"
+#include "support/TemporaryFolder.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <gtest/gtest.h>
+
+namespace tessaly {
+namespace {
+
+class WebPreviewViewTest : public testing::Test {
+  protected:
+    WebPreviewViewTest() {
+        view.setPalette(darkPalette());
+        view.resize(400, 300);
+        view.loadFile("/folder/index.html");
+    }
+
+    QWidget* engine() const {
+        for (QWidget* const child : view.findChildren<QWidget*>()) {
+            if (child->inherits("tessaly::FakeEngine")) {
+                return child;
+            }
+        }
+        return nullptr;
+    }
+    QStringList orders() const {
+        return engine() == nullptr ? QStringList{} : engine()->property("orders").toStringList();
+    }
+    void engineDoes(const char* what) { QMetaObject::invokeMethod(engine(), what); }
+    void engineFinishes(bool sound) { QMetaObject::invokeMethod(engine(), "finish", Q_ARG(bool, sound)); }
+    void showPage() {
+        view.show();
+        ASSERT_TRUE(eventually([&] { return !orders().isEmpty(); }));
+        engineFinishes(true);
+        engineDoes("paint");
+    }
+    const QLabel& cover() const { return *view.findChild<QLabel*>(); }
+    bool isBlank() {
+        return cover().isVisible() && cover().text().isEmpty() &&
+               view.grab().toImage().pixelColor(200, 150) == darkPalette().color(QPalette::Base);
+    }
+
+    const LogCapture log;
+    WebPreviewView view{QStringLiteral(TESSALY_FAKE_MODULES "/fake.so")};
+};
+
+TEST_F(WebPreviewViewTest, startsWhenSeenAndStaysBlankUntilThePageIsPainted) {
+    QApplication::processEvents();
+    EXPECT_EQ(orders(), QStringList{}) << "nobody has looked yet";
+    view.show();
+    EXPECT_TRUE(isBlank());
+    ASSERT_TRUE(eventually([&] { return !orders().isEmpty(); }));
+    EXPECT_EQ(orders(), QStringList{QStringLiteral("load index.html")});
+    engineFinishes(true);
+    EXPECT_TRUE(isBlank());
+    engineDoes("paint");
+    EXPECT_FALSE(cover().isVisible());
+}
+
+TEST_F(WebPreviewViewTest, joinsChangesOnTheirWayAndKeepsThoseOfAHiddenViewForLater) {
+    showPage();
+    const QStringList once{QStringLiteral("load index.html"), QStringLiteral("renew")};
+    for (int i = 0; i < 3; ++i) {
+        view.reload();
+    }
+    EXPECT_EQ(orders(), once);
+    engineFinishes(true);
+    EXPECT_EQ(orders(), once + QStringList{QStringLiteral("renew")});
+    engineFinishes(true);
+    EXPECT_EQ(orders().size(), 3);
+
+    view.hide();
+    view.reload();
+    EXPECT_EQ(orders().size(), 3);
+    view.show();
+    EXPECT_EQ(orders().size(), 4);
+    EXPECT_TRUE(isBlank()) << "instead of the gradient from before";
+    engineFinishes(false);
+    EXPECT_EQ(orders().size(), 4);
+    view.reload();
+    EXPECT_EQ(orders().last(), QStringLiteral("load index.html")) << "whatever could not be read";
+    view.loadFile("/other/page.html");
+    engineFinishes(true);
+    EXPECT_EQ(orders().last(), QStringLiteral("load page.html"));
+    engineDoes("paint");
+    EXPECT_FALSE(cover().isVisible());
+}
+
+TEST_F(WebPreviewViewTest, startsAnEndedEngineAgainSomeTimesAndThenAtTheNextChange) {
+    showPage();
+    for (int i = 0; i < EngineRestarts::mostInARow; ++i) {
+        engineDoes("end");
+        EXPECT_TRUE(isBlank());
+        EXPECT_TRUE(eventually([&] { return orders() == QStringList{QStringLiteral("load index.html")}; }));
+        view.hide();
+        view.show();
+        EXPECT_EQ(orders().size(), 1);
+    }
+    engineDoes("end");
+    EXPECT_FALSE(cover().text().isEmpty());
+    view.hide();
+    view.show();
+    EXPECT_FALSE(cover().text().isEmpty()) << "to look again is no change";
+    view.reload();
+    EXPECT_TRUE(eventually([&] { return isBlank() && !orders().isEmpty(); }));
+    engineFinishes(true);
+    engineDoes("paint");
+    EXPECT_FALSE(cover().isVisible());
+}
+
+TEST(PreviewModule, saysWhatIsWrongWithItsFile) {
+    const LogCapture log;
+    const TemporaryFolder folder;
+    std::ofstream{folder.path / "text.so"} << "no module";
+    std::filesystem::create_symlink(TESSALY_FAKE_MODULES "/other-version.so", folder.path / "other.so");
+    for (const auto& [file, failure] : {std::pair{"none.so", "none.so is missing"},
+                                        {"text.so", "text.so is not of this program's version"},
+                                        {"other.so", "other.so is not of this program's version"}}) {
+        WebPreviewView view{QString::fromStdString((folder.path / file).native())};
+        view.loadFile("/folder/index.html");
+        view.show();
+        const QLabel& notice = *view.findChild<QLabel*>();
+        EXPECT_TRUE(eventually([&] { return notice.text().contains(QLatin1String{failure}); }));
+        EXPECT_TRUE(notice.isVisible());
+        EXPECT_TRUE(log.messages.back().ends_with(failure)) << log.messages.back();
+        view.reload();
+    }
+}
+
+} // namespace
+} // namespace tessaly
