@@ -43,9 +43,10 @@ def google_benchmarks(program):
     return machine, figures, errors
 
 
-def startup(programs):
+def whole_programs(*command):
+    """What a command prints that times whole programs: benchmark, statistic and figure."""
     figures = {}
-    for line in run(BENCH / "startup/measure.sh", programs).splitlines():
+    for line in run(*command, log=subprocess.DEVNULL).splitlines():
         name, statistic, figure = line.split("\t")
         figures.setdefault(name, {})[statistic] = float(figure)
     return figures
@@ -92,7 +93,9 @@ def report(options):
     with open(BENCH / "limits.tsv", encoding="utf-8", newline="") as file:
         limits = list(csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE))
     machine, figures, failed = google_benchmarks(options.programs / "tessaly_bench")
-    rows, mismatches = joined(limits, figures | startup(options.programs))
+    figures |= whole_programs(BENCH / "startup/measure.sh", options.programs)
+    figures |= whole_programs(options.programs / "tessaly_preview_bench")
+    rows, mismatches = joined(limits, figures)
     print_table(rows)
     if options.json:
         write_json(options.json, machine, rows)

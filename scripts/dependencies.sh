@@ -7,7 +7,7 @@ set -euo pipefail
 declare -A packages=(
     [core]="cmake ninja-build g++ libsqlite3-dev ccache"
     [build]="cmake ninja-build g++ libsqlite3-dev ccache qt6-base-dev qt6-webengine-dev libgl-dev
-             fonts-dejavu-core"
+             libfontconfig-dev fonts-dejavu-core"
     [display]="xvfb xauth"
     [screenshot]="xdotool imagemagick"
     [test]="libgtest-dev libgmock-dev locales xvfb xauth xdotool sqlite3

@@ -1,42 +1,33 @@
 #pragma once
 
 #include <QApplication>
-#include <QTimer>
-#include <QWidget>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
-#include <unistd.h>
+#include <string>
 
 namespace tessaly {
 
-/// Runs the event loop until the window has been painted, prints the milliseconds since `startedAt`
-/// (nanoseconds of the system clock, as text) and the resident memory in KiB, and ends.
-class Probe : public QObject {
-  public:
-    Probe(QWidget& window, const char* startedAt) : startedAt_{startedAt} { window.installEventFilter(this); }
-
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            QTimer::singleShot(0, this, &Probe::report); // by then the picture is with the display
+/// In KiB: what the process has for itself and its part of what it shares with others; 0 when the system does
+/// not tell.
+inline long proportionalSet() {
+    std::ifstream rollup{"/proc/self/smaps_rollup"};
+    for (std::string word; rollup >> word;) {
+        if (word == "Pss:") {
+            rollup >> word;
+            return std::stol(word);
         }
-        return false;
     }
+    return 0;
+}
 
-  private:
-    void report() {
-        const auto now = std::chrono::system_clock::now().time_since_epoch();
-        const double nanoseconds =
-            std::chrono::duration<double, std::nano>{now}.count() - std::stod(startedAt_);
-        std::ifstream memory{"/proc/self/statm"};
-        long all = 0;
-        long resident = 0;
-        memory >> all >> resident;
-        std::printf("%.1f %ld\n", nanoseconds / 1e6, resident * (::sysconf(_SC_PAGESIZE) / 1024));
-        QApplication::quit();
-    }
-
-    std::string startedAt_;
-};
+/// Prints the milliseconds since `startedAt` (nanoseconds of the system clock, as text) and the proportional
+/// set, and ends the program.
+inline void report(const char* startedAt) {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    const double nanoseconds = std::chrono::duration<double, std::nano>{now}.count() - std::stod(startedAt);
+    std::printf("%.1f %ld\n", nanoseconds / 1e6, proportionalSet());
+    QApplication::quit();
+}
 
 } // namespace tessaly

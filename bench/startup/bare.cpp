@@ -1,17 +1,15 @@
-// The yardstick of the start-up: an empty window that is linked to all that the program is linked to.
+// The yardstick of the start-up: an empty window of the toolkit, linked to nothing of the program's.
 
 #include "Probe.h"
+#include "foundation/qt/AfterFirstPaint.h"
 
-#include <QWebEngineView>
+#include <QWidget>
 
 int main(int argc, char** argv) {
-    QApplication application{argc, argv};
-    if (argc > 100) {
-        const QWebEngineView neverMade; // what keeps the engine among the linked libraries
-    }
+    const QApplication application{argc, argv};
     QWidget window;
     window.resize(980, 760);
-    [[maybe_unused]] const tessaly::Probe probe{window, argv[1]};
+    tessaly::afterFirstPaint(window, [&] { tessaly::report(argv[1]); });
     window.show();
     return QApplication::exec();
 }

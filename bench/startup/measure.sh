@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Medians of ten starts each, in turn: time to the painted window and resident memory, of the program, of an empty
-# window that is linked to the same libraries, and of the program with 10,000 presets. Prints benchmark, statistic and
+# Medians of ten starts each, in turn: time to the painted window and memory (proportional set), of the program, of an empty
+# window, and of the program with 10,000 presets. Prints benchmark, statistic and
 # figure, in seconds or as a ratio to the empty window.
 set -euo pipefail
 bin=$1

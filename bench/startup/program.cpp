@@ -1,17 +1,18 @@
 // The program up to its first painted window.
 
 #include "Probe.h"
+#include "app/FontConfiguration.h"
 #include "app/WiredWindow.h"
-#include "chrome/qt/ProgramIcon.h"
+#include "foundation/qt/AfterFirstPaint.h"
 
 #include <QDir>
 
 int main(int argc, char** argv) {
     using namespace tessaly;
-    QApplication application{argc, argv};
-    QApplication::setWindowIcon(programIcon());
+    const std::jthread fonts = loadFontConfiguration();
+    const QApplication application{argc, argv};
     WiredWindow wired{QDir::tempPath().toStdString(), argv[2]};
-    [[maybe_unused]] const Probe probe{wired.mainWindow(), argv[1]};
+    afterFirstPaint(wired.mainWindow(), [&] { report(argv[1]); });
     wired.mainWindow().show();
     return QApplication::exec();
 }

@@ -1,10 +1,12 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
+#include "app/FontConfiguration.h"
 #include "app/QuitOnSignal.h"
 #include "app/SingleInstance.h"
 #include "app/WiredWindow.h"
 #include "chrome/ProductInfo.h"
 #include "chrome/qt/ProgramIcon.h"
+#include "foundation/qt/AfterFirstPaint.h"
 #include "foundation/qt/ToQString.h"
 
 #include <QApplication>
@@ -42,9 +44,9 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(toQString(product::name));
     QApplication::setApplicationVersion(toQString(product::version()));
     answerCommandLine(argc, argv);
+    const std::jthread fonts = loadFontConfiguration();
     QApplication application{argc, argv};
     QApplication::setDesktopFileName(toQString(product::desktopId()));
-    QApplication::setWindowIcon(programIcon());
     const SingleInstance instance{applicationSupport()};
     if (!instance.isFirst()) {
         return 0;
@@ -56,6 +58,7 @@ int main(int argc, char** argv) {
     MainWindow& mainWindow = wired.mainWindow();
     QObject::connect(&instance, &SingleInstance::startedAgain, &mainWindow, [&] { showAgain(mainWindow); });
     delegate.setWindow(&mainWindow);
+    afterFirstPaint(mainWindow, [] { QApplication::setWindowIcon(programIcon()); });
     mainWindow.show();
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();

@@ -1,6 +1,7 @@
 #include "codegen/qt/WebPreviewView.h"
 
 #include "foundation/DiagnosticLog.h"
+#include "foundation/qt/AfterFirstPaint.h"
 
 #include <QAccessible>
 #include <QGridLayout>
@@ -21,7 +22,7 @@ WebPreviewView::WebPreviewView(const QString& module, QWidget* parent)
     cover_->setAlignment(Qt::AlignCenter);
     cover_->setWordWrap(true);
     cover_->setTextFormat(Qt::PlainText);
-    cover_->installEventFilter(this);
+    afterFirstPaint(*cover_, [this] { loadModule(); }); // the switched tab reaches the screen first
     layers_->setContentsMargins(0, 0, 0, 0);
     layers_->addWidget(cover_, 0, 0);
     startAgain_.setSingleShot(true);
@@ -47,15 +48,6 @@ void WebPreviewView::showEvent(QShowEvent* event) {
         cover(); // what the engine painted last is no longer true
     }
     proceed();
-}
-
-bool WebPreviewView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Paint) {
-        cover_->removeEventFilter(this);
-        // Loading takes some pictures' time, so the switched tab is to reach the screen first.
-        QTimer::singleShot(0, this, &WebPreviewView::loadModule);
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void WebPreviewView::loadModule() {

@@ -35,7 +35,6 @@ class WebPreviewView : public QWidget, public WebView {
 
   protected:
     void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override; ///< sees the cover being painted
 
   private:
     enum class Order { None, RenewStylesheet, LoadPage }; ///< each includes those before it
