@@ -43,10 +43,10 @@ def google_benchmarks(program):
     return machine, figures, errors
 
 
-def whole_programs(*command):
+def whole_programs(*command, log=None):
     """What a command prints that times whole programs: benchmark, statistic and figure."""
     figures = {}
-    for line in run(*command, log=subprocess.DEVNULL).splitlines():
+    for line in run(*command, log=log).splitlines():
         name, statistic, figure = line.split("\t")
         figures.setdefault(name, {})[statistic] = float(figure)
     return figures
@@ -94,7 +94,7 @@ def report(options):
         limits = list(csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE))
     machine, figures, failed = google_benchmarks(options.programs / "tessaly_bench")
     figures |= whole_programs(BENCH / "startup/measure.sh", options.programs)
-    figures |= whole_programs(options.programs / "tessaly_preview_bench")
+    figures |= whole_programs(options.programs / "tessaly_preview_bench", log=subprocess.DEVNULL)
     rows, mismatches = joined(limits, figures)
     print_table(rows)
     if options.json:

@@ -14,8 +14,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${TESSALY_HOMEPAGE_URL})
 # The libraries bring everything else along: the window system's plugin, fonts, and the engine's process and data.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# For the links, which are opened by the desktop, and for the icon to be found.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, xdg-utils")
+# For the links, which are opened by the desktop, for the icon to be found, and for desktops without X.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, qt6-wayland, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "editor for CSS3 background gradients
 Shape a gradient on a canvas - drag its colour stops, double click to add one,
 pick colour, position and opacity, choose orientation and notation - and take

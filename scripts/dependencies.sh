@@ -11,7 +11,8 @@ declare -A packages=(
     [display]="xvfb xauth"
     [screenshot]="xdotool imagemagick"
     [test]="libgtest-dev libgmock-dev locales xvfb xauth xdotool sqlite3
-            openbox wmctrl xclip lintian desktop-file-utils appstream mandoc"
+            openbox wmctrl xclip lintian desktop-file-utils appstream mandoc
+            weston qt6-wayland dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0 gir1.2-gdkpixbuf-2.0"
     [package]="dpkg-dev file"
     [icons]="librsvg2-bin"
     [bench]="libbenchmark-dev sqlite3 python3"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Medians of ten starts each, in turn: time to the painted window and memory (proportional set), of the program, of an empty
-# window, and of the program with 10,000 presets. Prints benchmark, statistic and
-# figure, in seconds or as a ratio to the empty window.
+# Medians of ten starts each, in turn: time to the painted window and memory (proportional set), of the program, of an
+# empty window, and of the program with 10,000 presets. Prints benchmark, statistic and figure, in seconds or as a ratio
+# to the empty window.
 set -euo pipefail
 bin=$1
 

@@ -4,18 +4,13 @@
 set -euo pipefail
 build=$1
 
-work=$(mktemp -d)
+build=$(realpath "$build")
+. "$(dirname "$0")/../support/private.sh"
+. "$(dirname "$0")/../support/places.sh"
 root=$work/root
 share=$root/usr/share
-pid=
-trap '[ -z "$pid" ] || { kill "$pid"; wait "$pid"; } 2>/dev/null || true; rm -rf "$work"' EXIT
 export PATH=$PATH:/usr/sbin:/sbin # dpkg insists on finding the programs there, for users too
 
-fail() {
-    echo "FAILED: $1"
-    tail -n 20 "$work/log" || true
-    exit 1
-}
 # Runs a command whose output matters only when it fails.
 must() {
     "$@" >"$work/log" 2>&1 || fail "$*"
@@ -47,13 +42,28 @@ files() {
 DESTDIR=$work/staged must cmake --install "$build" --prefix /usr
 must diff <(files "$root") <(files "$work/staged")
 
-export HOME=$work/home TMPDIR=$work XDG_DATA_HOME=$work/home XDG_CONFIG_HOME=$work/home XDG_CACHE_HOME=$work/home XDG_RUNTIME_DIR=$work/home
-mkdir -m 700 "$HOME"
 program=$root/usr/bin/tessaly
+module=$root/usr/lib/tessaly/modules/preview.so
 [ "$(env -u DISPLAY -u WAYLAND_DISPLAY "$program" --version)" = "Tessaly $(dpkg-deb -f "$deb" Version)" ] || fail "no version, or another"
-timeout 60 "$program" 2>"$work/log" &
-pid=$!
-window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Tessaly$') || fail "no window"
-xdotool windowfocus --sync "$window" key ctrl+q
-wait "$pid" || fail "the program ended with status $?"
+links_engine() {
+    ldd "$1" >"$work/log" && grep -q Qt6WebEngine "$work/log"
+}
+! links_engine "$program" || fail "the program links the browser engine"
+links_engine "$module" || fail "the module does not link the browser engine"
+
+# It shows its preview from there, whatever folder it is started from; and without the module all but that.
+preview_says() {
+    grep -qF "$1" "$work/log"
+}
+for expected in "Running as root" "No web preview: $module is missing"; do
+    [ "$(id -u)" -eq 0 ] || [ ! -e "$module" ] || expected=htmlPath # only root is told that the engine runs
+    (cd / && exec timeout 60 "$program") 2>"$work/log" &
+    pid=$!
+    window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Tessaly$') || fail "no window"
+    xdotool mousemove --window "$window" $preview_tab click 1
+    eventually preview_says "$expected"
+    xdotool windowfocus --sync "$window" key ctrl+q
+    wait "$pid" || fail "the program ended with status $?"
+    rm -f "$module"
+done
 echo "ok"

@@ -1,6 +1,7 @@
 #include "codegen/qt/PreviewModuleFile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QJsonObject>
 #include <QOpenGLContext>
@@ -26,7 +27,8 @@ void provideShareContext() {
 } // namespace
 
 QString PreviewModuleFile::installedPath() {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/../" TESSALY_MODULES "/preview.so");
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/../" TESSALY_MODULES "/preview.so"));
 }
 
 PreviewModule* PreviewModuleFile::load() {

@@ -1,0 +1,87 @@
+#!/usr/bin/python3
+"""Presses the tab of the preview by the assistive bus, and waits for the display to show the gradient there."""
+import glob
+import os
+import subprocess
+import sys
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+gi.require_version("GdkPixbuf", "2.0")
+from gi.repository import Atspi, GdkPixbuf, GLib
+
+BODY_MARGIN = 8  # of the page
+DESKTOP = bytes([255, 0, 255])
+
+
+def descendants(item):
+    for i in range(item.get_child_count()):
+        child = item.get_child_at_index(i)
+        if child is not None:
+            yield child
+            yield from descendants(child)
+
+
+def find(name):
+    """The item of that name in the one program on the bus; None while there is none."""
+    try:
+        return next((item for item in descendants(Atspi.get_desktop(0)) if item.get_name() == name), None)
+    except GLib.Error:  # it is still being made
+        return None
+
+
+def screen():
+    subprocess.run(["weston-screenshooter"], check=True, stdout=subprocess.DEVNULL)
+    (file,) = glob.glob("*.png")
+    os.system("cp *.png /tmp/wlshot.png")
+    picture = GdkPixbuf.Pixbuf.new_from_file(file)
+    os.remove(file)
+    return picture
+
+
+def shows_gradient(box):
+    picture = screen()
+    pixels, row, size = picture.get_pixels(), picture.get_rowstride(), picture.get_n_channels()
+
+    def at(x, y):
+        return pixels[y * row + x * size :][:3]
+
+    width, height = picture.get_width(), picture.get_height()
+    left = next((x for x in range(width) if at(x, height // 2) != DESKTOP), width)
+    top = next((y for y in range(height) if at(width // 2, y) != DESKTOP), height)
+    if left + box.x + box.width > width or top + box.y + box.height > height:
+        return False  # no window
+    for share in (0.1, 0.25, 0.5, 0.75, 0.9):
+        x = int(left + box.x + BODY_MARGIN + share * (box.width - 2 * BODY_MARGIN))
+        if any(abs(level - 255 * share) > 4 for level in at(x, top + box.y + 100)):
+            return False
+    return True
+
+
+def eventually(condition):
+    end = time.monotonic() + 30
+    while time.monotonic() < end:
+        if result := condition():
+            return result
+        time.sleep(0.1)
+    sys.exit(f"never came true: {condition.__name__}")
+
+
+def window_is_up():
+    return find("Web Preview")
+
+
+def preview_is_placed():
+    view = find("Web preview")
+    box = view and view.get_extents(Atspi.CoordType.WINDOW)
+    return box if box and box.width > 0 else None
+
+
+def preview_shows_gradient():
+    return shows_gradient(preview_is_placed())
+
+
+eventually(window_is_up).do_action(0)
+eventually(preview_shows_gradient)
