@@ -101,6 +101,9 @@ void WebPreviewView::orderFinished(bool sound) {
 }
 
 void WebPreviewView::engineEnded() {
+    if (!engineRuns_) {
+        return; // told twice
+    }
     DiagnosticLog::write("The preview's render process ended; making the preview anew");
     engineRuns_ = false; // but not gone: it is what calls
     busy_ = false;

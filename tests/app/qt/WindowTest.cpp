@@ -55,12 +55,12 @@ class WindowTest : public testing::Test {
 
     QWidget* shownPage() const { return window.sourceCodeContainerView().currentWidget(); }
 
-    // The level of grey that the screen shows at that share of the width of the preview's box.
-    int previewLevel(double share) const {
+    // The level of grey that the screen shows at that share of the width of the preview's box, or below it.
+    int previewLevel(double share, int y = 100) const {
         const WebPreviewView& preview = window.webPreviewView();
         constexpr int bodyMargin = 8;
         const int x = bodyMargin + static_cast<int>((preview.width() - 2 * bodyMargin) * share);
-        const QPoint place = preview.mapTo(&window, QPoint{x, 100});
+        const QPoint place = preview.mapTo(&window, QPoint{x, y});
         return window.screen()->grabWindow(window.winId()).toImage().pixelColor(place).green();
     }
 
@@ -85,6 +85,7 @@ TEST_F(WindowTest, aDraggedMarkerReachesTextFileAndPreview) {
     window.mainTabView().setSelectIndex(2);
     EXPECT_EQ(shownPage(), &window.webPreviewView());
     EXPECT_TRUE(previewComesToShow(0.25, 127));
+    EXPECT_EQ(previewLevel(0.5, 270), 255) << "a page's white, on a dark desktop too";
     for (const int pause : {0, 5, 10, 15, 20, 25, 30, 40}) { // mostly shorter than the page takes to load
         dragWhiteMarker(-146);
         QTest::qWait(pause);

@@ -4,6 +4,8 @@
 #include "codegen/qt/engine/EngineProcess.h"
 
 #include <QObject>
+#include <optional>
+#include <utility>
 
 namespace tessaly {
 
@@ -16,9 +18,15 @@ class BrowserModule : public QObject, public PreviewModule {
   public:
     std::unique_ptr<PreviewEngine> makeEngine(QWidget& parent, PreviewEngine::Events events,
                                               const Log& log) override {
-        const EngineProcess process{log};
+        std::optional<EngineProcess> process;
+        if (!std::exchange(isPrepared_, true)) {
+            process.emplace(log);
+        }
         return std::make_unique<BrowserEngine>(parent, std::move(events));
     }
+
+  private:
+    bool isPrepared_ = false;
 };
 
 } // namespace tessaly

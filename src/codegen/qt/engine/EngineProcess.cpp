@@ -5,34 +5,46 @@
 #include <unistd.h>
 
 namespace tessaly {
+namespace {
+
+constexpr const char* sandbox = "QTWEBENGINE_DISABLE_SANDBOX";
+constexpr const char* flags = "QTWEBENGINE_CHROMIUM_FLAGS";
+constexpr const char* glIntegration = "QT_XCB_GL_INTEGRATION";
+
+} // namespace
 
 EngineProcess::EngineProcess(const PreviewModule::Log& log) {
     // The engine reports its whole configuration otherwise, in the middle of our log.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
     // Gradients are painted faster without a graphics card in between, no driver has to be loaded, and the
     // main window stays what it is: for a card the toolkit would make it anew, visibly.
-    if (QQuickWindow::graphicsApi() != QSGRendererInterface::Software) {
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    if (!qEnvironmentVariableIsSet(glIntegration)) {
+        setForNow(glIntegration, "none"); // else the engine asks the driver for its name
     }
-    setForNow("QT_XCB_GL_INTEGRATION", "none"); // else the engine asks the driver for its name
-    if (::geteuid() == 0 && setForNow("QTWEBENGINE_DISABLE_SANDBOX", "1")) {
+    if (::geteuid() == 0 && !qEnvironmentVariableIsSet(sandbox)) {
         log("Running as root: the browser engine's sandbox is off, it cannot start otherwise");
+        setForNow(sandbox, "1");
+    }
+    if (::access("/dev/shm", W_OK | X_OK) != 0) { // the engine would end the program
+        log("The browser engine shares memory through the temporary folder, since it cannot in /dev/shm");
+        setForNow(flags, qgetenv(flags) + " --disable-dev-shm-usage");
     }
 }
 
 EngineProcess::~EngineProcess() {
-    for (const QByteArray& variable : added_) {
-        qunsetenv(variable.constData());
+    for (const auto& [variable, value] : before_) {
+        if (value.isNull()) {
+            qunsetenv(variable.constData());
+        } else {
+            qputenv(variable.constData(), value);
+        }
     }
 }
 
-// False when whoever started the program has set it.
-bool EngineProcess::setForNow(const char* variable, const char* value) {
-    if (qEnvironmentVariableIsSet(variable)) {
-        return false;
-    }
-    added_.emplace_back(variable);
-    return qputenv(variable, value);
+void EngineProcess::setForNow(const char* variable, const QByteArray& value) {
+    before_.emplace(variable, qgetenv(variable));
+    qputenv(variable, value);
 }
 
 } // namespace tessaly

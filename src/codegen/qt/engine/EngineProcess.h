@@ -3,12 +3,12 @@
 #include "codegen/qt/PreviewEngine.h"
 
 #include <QByteArray>
-#include <vector>
+#include <map>
 
 namespace tessaly {
 
-/// The surroundings that the engine finds when it is started, which is when the first view is made. They last
-/// as long as the object: what they add to the environment must not reach the programs that a link opens.
+/// The surroundings that the engine finds when it is started, which is when the first view is made. What they
+/// change in the environment lasts as long as the object: it must not reach the programs that a link opens.
 class EngineProcess {
   public:
     explicit EngineProcess(const PreviewModule::Log& log);
@@ -17,9 +17,9 @@ class EngineProcess {
     ~EngineProcess();
 
   private:
-    bool setForNow(const char* variable, const char* value);
+    void setForNow(const char* variable, const QByteArray& value);
 
-    std::vector<QByteArray> added_;
+    std::map<QByteArray, QByteArray> before_; ///< null where a variable was not set
 };
 
 } // namespace tessaly

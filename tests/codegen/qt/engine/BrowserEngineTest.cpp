@@ -68,8 +68,13 @@ class BrowserEngineTest : public testing::Test {
         return QUrl::fromLocalFile(QString::fromStdString((temporary.path / "index.html").native()));
     }
 
+    static const EngineProcess& surroundings() { // once, as in the program
+        static const EngineProcess process{[](std::string_view) {}};
+        return process;
+    }
+
+    const EngineProcess& process = surroundings();
     const TemporaryFolder temporary;
-    const EngineProcess process{[](std::string_view) {}};
     QWidget parent;
     std::optional<bool> result;
     bool isPainted = false;
