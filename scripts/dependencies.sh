@@ -7,12 +7,12 @@ set -euo pipefail
 declare -A packages=(
     [core]="cmake ninja-build g++ libsqlite3-dev ccache"
     [build]="cmake ninja-build g++ libsqlite3-dev ccache qt6-base-dev qt6-webengine-dev libgl-dev
-             libfontconfig-dev fonts-dejavu-core"
+             libfontconfig-dev qt6-wayland fonts-dejavu-core"
     [display]="xvfb xauth"
     [screenshot]="xdotool imagemagick"
     [test]="libgtest-dev libgmock-dev locales xvfb xauth xdotool sqlite3
             openbox wmctrl xclip lintian desktop-file-utils appstream mandoc
-            weston qt6-wayland dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0 gir1.2-gdkpixbuf-2.0"
+            weston dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0 gir1.2-gdkpixbuf-2.0"
     [package]="dpkg-dev file"
     [icons]="librsvg2-bin"
     [bench]="libbenchmark-dev sqlite3 python3"

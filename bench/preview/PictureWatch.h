@@ -5,7 +5,6 @@
 #include <QTimer>
 #include <QWidget>
 #include <chrono>
-#include <cstring>
 #include <vector>
 
 namespace tessaly {
@@ -28,10 +27,16 @@ class PictureWatch {
         timer_.start();
     }
 
+    /// Whether there is a picture that is black at its left edge, as the first gradient is.
+    bool startsBlack() const {
+        const std::vector<uchar> now = row();
+        return !now.empty() && now[0] < 16;
+    }
+
     const std::vector<Clock::time_point>& pictures() const { return pictures_; }
 
   private:
-    // A row of pixels through the upper half of the part; none before there is a picture.
+    // A row of pixels through the upper half of the part, four bytes each; none before there is a picture.
     std::vector<uchar> row() const {
         auto* const image = dynamic_cast<QImage*>(window_.backingStore()->paintDevice());
         if (image == nullptr || image->isNull()) {

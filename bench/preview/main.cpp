@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <functional>
 
 namespace tessaly {
 namespace {
@@ -36,29 +37,32 @@ void mouse(CanvasView& canvas, QEvent::Type type, QPointF at) {
     QApplication::sendEvent(&canvas, &event);
 }
 
-// Turns the event loop for that long, or until the picture is another one.
-void wait(PictureWatch& watch, Clock::duration most, bool forPicture = false) {
+// Turns the event loop for that long, or until the condition holds; whether it does.
+bool wait(
+    Clock::duration most, const std::function<bool()>& condition = [] { return false; }) {
     const Clock::time_point end = Clock::now() + most;
-    const std::size_t before = watch.pictures().size();
-    while (Clock::now() < end && !(forPicture && watch.pictures().size() > before)) {
+    while (Clock::now() < end) {
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (condition()) {
+            return true;
+        }
     }
+    return false;
 }
 
-void measureFirstPicture(MainWindow& window, PictureWatch& watch) {
-    wait(watch, 500ms);
+bool measureFirstPicture(MainWindow& window, PictureWatch& watch) {
+    wait(500ms);
     const Clock::time_point click = Clock::now();
     window.mainTabView().setSelectIndex(2);
-    watch.start();
-    wait(watch, 20s, true); // the blank area
-    wait(watch, 20s, true);
-    print("firstPicture", seconds(watch.pictures().back() - click));
+    const bool isShown = wait(20s, [&] { return watch.startsBlack(); });
+    print("firstPicture", seconds(Clock::now() - click));
+    return isShown;
 }
 
 void measureDrag(CanvasView& canvas, PictureWatch& watch) {
     constexpr auto interval = std::chrono::duration_cast<Clock::duration>(1s) / 120;
     constexpr int moves = 600;
-    wait(watch, 1s);
+    wait(1s);
     const QPointF marker = canvas.accessibleItemRect(canvas.currentAccessibleItem()).center();
     std::vector<double> steps;
     mouse(canvas, QEvent::MouseButtonPress, marker);
@@ -66,19 +70,22 @@ void measureDrag(CanvasView& canvas, PictureWatch& watch) {
     const Clock::time_point start = Clock::now();
     for (int i = 1; i <= moves; ++i) {
         const Clock::time_point due = start + i * interval;
-        wait(watch, due - Clock::now());
+        wait(due - Clock::now());
         mouse(canvas, QEvent::MouseMove, marker - QPointF{std::abs(i * 3 % 1000 - 500.0), 0});
         canvas.repaint();
         steps.push_back(seconds(Clock::now() - due)); // what the engine held up included
     }
-    const std::vector<Clock::time_point>& pictures = watch.pictures();
     mouse(canvas, QEvent::MouseButtonRelease, marker);
+    std::vector<Clock::time_point> pictures = watch.pictures();
+    const auto count = static_cast<double>(pictures.size());
+    pictures.insert(pictures.begin(), start);
+    pictures.push_back(Clock::now());
     Clock::duration longest{};
     for (std::size_t i = 1; i < pictures.size(); ++i) {
         longest = std::max(longest, pictures[i] - pictures[i - 1]);
     }
     std::sort(steps.begin(), steps.end());
-    print("betweenPictures", seconds(interval * moves) / static_cast<double>(pictures.size()));
+    print("betweenPictures", seconds(interval * moves) / std::max(count, 1.0));
     print("longestGap", seconds(longest));
     print("dragStep95", steps[steps.size() * 95 / 100]);
 }
@@ -94,7 +101,9 @@ int main(int argc, char** argv) {
     MainWindow& window = wired.mainWindow();
     window.show();
     PictureWatch watch{window, window.webPreviewView()};
-    measureFirstPicture(window, watch);
+    if (!measureFirstPicture(window, watch)) {
+        return 1;
+    }
     measureDrag(window.canvasView(), watch);
     return 0;
 }

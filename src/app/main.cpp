@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QStandardPaths>
+#include <clocale>
 #include <csignal>
 
 namespace {
@@ -44,6 +45,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(toQString(product::name));
     QApplication::setApplicationVersion(toQString(product::version()));
     answerCommandLine(argc, argv);
+    std::setlocale(LC_ALL, ""); // the toolkit would do so, and beside it would be too late
     const std::jthread fonts = loadFontConfiguration();
     QApplication application{argc, argv};
     QApplication::setDesktopFileName(toQString(product::desktopId()));

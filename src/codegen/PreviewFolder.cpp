@@ -49,18 +49,19 @@ PreviewFolder& PreviewFolder::operator=(PreviewFolder&& other) noexcept {
 }
 
 PreviewFolder::~PreviewFolder() {
-    if (!folder_) {
-        return;
-    }
-    // What cannot be removed is the user's, or the system's to clear away.
-    ::unlinkat(folder_.number(), pageName, 0);
-    ::unlinkat(folder_.number(), stylesheetName, 0);
-    if (isInPlace()) {
+    if (folder_ && isAtItsPath()) {
+        // What cannot be removed is the user's, or the system's to clear away.
+        ::unlinkat(folder_.number(), pageName, 0);
+        ::unlinkat(folder_.number(), stylesheetName, 0);
         ::rmdir(path_.c_str());
     }
 }
 
-bool PreviewFolder::isInPlace() const {
+bool PreviewFolder::hasPage() const {
+    return ::faccessat(folder_.number(), pageName, F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+bool PreviewFolder::isAtItsPath() const {
     struct stat held {};
     struct stat found {};
     return ::fstat(folder_.number(), &held) == 0 && ::lstat(path_.c_str(), &found) == 0 &&

@@ -12,7 +12,7 @@ namespace tessaly {
 /// The folder of the preview's two files: "WebFolder" and the first free number, private to the user. It is
 /// held open, and everything is done within it: whoever puts something else under its name gets nothing
 /// written or deleted there. Its end takes the two files and the folder with it; a folder that holds anything
-/// else stays.
+/// else, or that somebody has moved away, stays.
 class PreviewFolder {
   public:
     static constexpr const char* pageName = "index.html";
@@ -30,8 +30,8 @@ class PreviewFolder {
 
     const std::filesystem::path& path() const { return path_; }
 
-    /// Whether the folder is still what is found at its path.
-    bool isInPlace() const;
+    /// Whether the folder is still what is found at its path, with the page in it.
+    bool isInPlace() const { return isAtItsPath() && hasPage(); }
 
     /// Replaces one of the two files as a whole. On failure the old file stays and the log tells.
     void write(const std::string& name, std::string_view contents) const;
@@ -39,6 +39,9 @@ class PreviewFolder {
   private:
     PreviewFolder(std::filesystem::path path, Descriptor folder)
         : path_{std::move(path)}, folder_{std::move(folder)} {}
+
+    bool isAtItsPath() const;
+    bool hasPage() const;
 
     std::filesystem::path path_;
     Descriptor folder_; ///< none once moved from

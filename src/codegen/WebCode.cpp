@@ -195,11 +195,13 @@ void WebCode::writeFile() {
 void WebCode::writeCSSFile() {
     if (folder_ && !folder_->isInPlace()) {
         createHTMLIndexFile(); // somebody took it away; tried at each change until it can be done
-    } else if (folder_) {
-        folder_->write(PreviewFolder::stylesheetName, toUtf8(css3TextView_.text()));
+    } else {
+        if (folder_) {
+            folder_->write(PreviewFolder::stylesheetName, toUtf8(css3TextView_.text()));
+        }
+        webView_.reload();
     }
     css3TextView_.redisplay();
-    webView_.reload();
     webView_.redisplay();
 }
 

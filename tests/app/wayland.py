@@ -26,16 +26,12 @@ def descendants(item):
 
 def find(name):
     """The item of that name in the one program on the bus; None while there is none."""
-    try:
-        return next((item for item in descendants(Atspi.get_desktop(0)) if item.get_name() == name), None)
-    except GLib.Error:  # it is still being made
-        return None
+    return next((item for item in descendants(Atspi.get_desktop(0)) if item.get_name() == name), None)
 
 
 def screen():
     subprocess.run(["weston-screenshooter"], check=True, stdout=subprocess.DEVNULL)
     (file,) = glob.glob("*.png")
-    os.system("cp *.png /tmp/wlshot.png")
     picture = GdkPixbuf.Pixbuf.new_from_file(file)
     os.remove(file)
     return picture
@@ -63,25 +59,24 @@ def shows_gradient(box):
 def eventually(condition):
     end = time.monotonic() + 30
     while time.monotonic() < end:
-        if result := condition():
-            return result
+        try:
+            if result := condition():
+                return result
+        except GLib.Error:  # the program is still making what was asked for
+            pass
         time.sleep(0.1)
     sys.exit(f"never came true: {condition.__name__}")
 
 
-def window_is_up():
-    return find("Web Preview")
-
-
-def preview_is_placed():
-    view = find("Web preview")
-    box = view and view.get_extents(Atspi.CoordType.WINDOW)
-    return box if box and box.width > 0 else None
+def tab_can_be_pressed():
+    tab = find("Web Preview")
+    return tab and tab.do_action(0)
 
 
 def preview_shows_gradient():
-    return shows_gradient(preview_is_placed())
+    view = find("Web preview")
+    return view and shows_gradient(view.get_extents(Atspi.CoordType.WINDOW))
 
 
-eventually(window_is_up).do_action(0)
+eventually(tab_can_be_pressed)
 eventually(preview_shows_gradient)

@@ -15,18 +15,17 @@ class PreviewEngine {
   public:
     /// What the engine tells its owner, from the event loop; it must live on until the call has returned.
     struct Events {
-        std::function<void(bool sound)> finished; ///< the last order, and whether it could be carried out
-        std::function<void()> painted;            ///< what was loaded or renewed is on its way to the screen
+        std::function<void(int order, bool sound)> finished; ///< and whether it could be carried out
+        std::function<void(int order)> painted;              ///< what it brought is on its way to the screen
         std::function<void()> ended; ///< the process that paints; the engine is of no use any more
     };
 
     virtual ~PreviewEngine() = default;
 
-    /// One order at a time: the next one after `finished`.
-    virtual void load(const QUrl& page) = 0;
+    virtual void load(const QUrl& page, int order) = 0;
 
     /// Shows the page that is loaded with what its stylesheet's file says now.
-    virtual void renewStylesheet() = 0;
+    virtual void renewStylesheet(int order) = 0;
 
     virtual QWidget& widget() = 0;
 };

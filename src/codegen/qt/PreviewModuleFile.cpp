@@ -48,11 +48,11 @@ PreviewModule* PreviewModuleFile::load() {
         return nullptr;
     }
     provideShareContext();
-    auto* const module = qobject_cast<PreviewModule*>(loader.instance());
-    if (module == nullptr) {
+    QObject* const instance = loader.instance();
+    if (instance == nullptr) {
         failure_ = loader.errorString();
     }
-    return module;
+    return qobject_cast<PreviewModule*>(instance);
 }
 
 } // namespace tessaly

@@ -6,8 +6,6 @@
 #include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
-#include <algorithm>
-#include <utility>
 
 namespace tessaly {
 
@@ -33,18 +31,27 @@ WebPreviewView::~WebPreviewView() = default;
 
 void WebPreviewView::loadFile(const std::filesystem::path& page) {
     url_ = QUrl::fromLocalFile(QString::fromStdString(page.native()));
-    ask(Order::LoadPage);
+    orders_.pageChanged();
+    changed();
 }
 
 void WebPreviewView::reload() {
     if (url_.isValid()) {
-        ask(pageIsSound_ ? Order::RenewStylesheet : Order::LoadPage);
+        orders_.stylesheetChanged();
+        changed();
     }
+}
+
+void WebPreviewView::changed() {
+    if (restarts_.hasGivenUp() && !engineRuns_ && !startAgain_.isActive()) {
+        startAgain_.start(restarts_.untilWorthATry(Clock::now()));
+    }
+    proceed();
 }
 
 void WebPreviewView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (engineRuns_ && asked_ != Order::None) {
+    if (engineRuns_ && orders_.isAnyWanted()) {
         cover(); // what the engine painted last is no longer true
     }
     proceed();
@@ -61,43 +68,48 @@ void WebPreviewView::loadModule() {
 
 void WebPreviewView::startEngine() {
     engine_.reset();
-    engine_ = module_->makeEngine(
-        *this,
-        {[this](bool sound) { orderFinished(sound); }, [this] { cover_->hide(); }, [this] { engineEnded(); }},
-        DiagnosticLog::write);
+    engine_ = module_->makeEngine(*this,
+                                  {[this](int order, bool sound) { orderFinished(order, sound); },
+                                   [this](int order) { painted(order); }, [this] { engineEnded(); }},
+                                  DiagnosticLog::write);
     layers_->addWidget(&engine_->widget(), 0, 0);
     cover();
     engineRuns_ = true;
     restarts_.started(Clock::now());
 }
 
-void WebPreviewView::ask(Order order) {
-    asked_ = std::max(asked_, order);
-    if (restarts_.hasGivenUp() && !engineRuns_ && !startAgain_.isActive()) {
-        startAgain_.start(restarts_.untilWorthATry(Clock::now()));
-    }
-    proceed();
-}
-
 void WebPreviewView::proceed() {
-    if (module_ == nullptr || !isVisible() || busy_ || asked_ == Order::None || startAgain_.isActive()) {
+    if (module_ == nullptr || !isVisible() || startAgain_.isActive() || !orders_.isAnyWanted()) {
         return;
     }
     if (!engineRuns_) {
         startEngine();
     }
-    busy_ = true;
-    if (std::exchange(asked_, Order::None) == Order::LoadPage) {
-        engine_->load(url_);
+    const auto order = orders_.take();
+    if (!order) {
+        return;
+    }
+    if (order->kind == PreviewOrders::Kind::LoadPage) {
+        engine_->load(url_, order->number);
     } else {
-        engine_->renewStylesheet();
+        engine_->renewStylesheet(order->number);
     }
 }
 
-void WebPreviewView::orderFinished(bool sound) {
-    busy_ = false;
-    pageIsSound_ = sound;
+void WebPreviewView::orderFinished(int order, bool sound) {
+    if (!orders_.finished(order, sound)) {
+        return;
+    }
+    if (!sound && !orders_.isAnyWanted()) {
+        cover(tr("The preview cannot read its files. The next change of the gradient tries again."));
+    }
     proceed();
+}
+
+void WebPreviewView::painted(int order) {
+    if (orders_.isTrue(order)) {
+        cover_->hide();
+    }
 }
 
 void WebPreviewView::engineEnded() {
@@ -106,20 +118,19 @@ void WebPreviewView::engineEnded() {
     }
     DiagnosticLog::write("The preview's render process ended; making the preview anew");
     engineRuns_ = false; // but not gone: it is what calls
-    busy_ = false;
-    pageIsSound_ = false;
+    orders_.engineEnded();
     if (const auto pause = restarts_.ended(Clock::now())) {
-        asked_ = Order::LoadPage;
         cover();
         startAgain_.start(*pause);
     } else {
-        asked_ = Order::None;
+        orders_.forget();
         DiagnosticLog::write("It ended too often; the next change tries again");
         cover(tr("The browser engine cannot run. The next change of the gradient tries again."));
     }
 }
 
 void WebPreviewView::cover(const QString& why) {
+    orders_.outdate();
     cover_->setText(why);
     cover_->raise();
     cover_->show();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "codegen/EngineRestarts.h"
+#include "codegen/PreviewOrders.h"
 #include "codegen/WebView.h"
 #include "codegen/qt/PreviewModuleFile.h"
 
@@ -37,23 +38,20 @@ class WebPreviewView : public QWidget, public WebView {
     void showEvent(QShowEvent* event) override;
 
   private:
-    enum class Order { None, RenewStylesheet, LoadPage }; ///< each includes those before it
-
     void loadModule();
     void startEngine();
-    void ask(Order order);
+    void changed();
     void proceed();
-    void orderFinished(bool sound);
+    void orderFinished(int order, bool sound);
+    void painted(int order);
     void engineEnded();
     void cover(const QString& why = {});
 
     PreviewModuleFile moduleFile_;
     PreviewModule* module_ = nullptr;
     QUrl url_;
-    Order asked_ = Order::None; ///< what the engine is still to do
-    bool engineRuns_ = false;
-    bool busy_ = false;        ///< it does something
-    bool pageIsSound_ = false; ///< it has loaded the page
+    PreviewOrders orders_;
+    bool engineRuns_ = false; ///< it may have ended and still be there
     EngineRestarts restarts_;
     QTimer startAgain_;
     QGridLayout* layers_; ///< of one cell, the cover above the engine's widget

@@ -97,6 +97,7 @@ TEST_F(WindowTest, aDraggedMarkerReachesTextFileAndPreview) {
     const pid_t painter = renderProcess();
     ASSERT_GT(painter, 1);
     ::kill(painter, SIGKILL);
+    EXPECT_TRUE(eventually([&] { return renderProcess() > 1 && renderProcess() != painter; }));
     dragWhiteMarker(-146);
     EXPECT_TRUE(previewComesToShow(0.25, 85)) << "back after its render process was killed";
 }

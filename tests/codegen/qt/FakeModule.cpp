@@ -14,19 +14,28 @@ class FakeEngine : public QWidget, public PreviewEngine {
   public:
     FakeEngine(QWidget& parent, Events events) : QWidget{&parent}, events_{std::move(events)} {}
 
-    void load(const QUrl& page) override { add(QStringLiteral("load ") + page.fileName()); }
-    void renewStylesheet() override { add(QStringLiteral("renew")); }
+    void load(const QUrl& page, int order) override { add(QStringLiteral("load ") + page.fileName(), order); }
+    void renewStylesheet(int order) override { add(QStringLiteral("renew"), order); }
     QWidget& widget() override { return *this; }
 
-    Q_INVOKABLE void finish(bool sound) { events_.finished(sound); }
-    Q_INVOKABLE void paint() { events_.painted(); }
+    /// Of the last order, or so many before it.
+    Q_INVOKABLE void finish(bool sound) { events_.finished(order_, sound); }
+    Q_INVOKABLE void paint(int before) { events_.painted(order_ - before); }
     Q_INVOKABLE void end() { events_.ended(); }
 
   private:
-    void add(const QString& order) { setProperty("orders", property("orders").toStringList() << order); }
+    void add(const QString& text, int order) {
+        setProperty("orders", property("orders").toStringList() << text);
+        order_ = order;
+    }
 
     Events events_;
+    int order_ = 0;
 };
+
+#ifdef TESSALY_BROKEN_MODULE
+void isNowhere();
+#endif
 
 class FakeModule : public QObject, public PreviewModule {
     Q_OBJECT
@@ -36,6 +45,9 @@ class FakeModule : public QObject, public PreviewModule {
   public:
     std::unique_ptr<PreviewEngine> makeEngine(QWidget& parent, PreviewEngine::Events events,
                                               const Log& /*log*/) override {
+#ifdef TESSALY_BROKEN_MODULE
+        isNowhere();
+#endif
         return std::make_unique<FakeEngine>(parent, std::move(events));
     }
 };

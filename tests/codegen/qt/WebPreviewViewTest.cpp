@@ -34,6 +34,7 @@ class WebPreviewViewTest : public testing::Test {
         return engine() == nullptr ? QStringList{} : engine()->property("orders").toStringList();
     }
     void engineDoes(const char* what) { QMetaObject::invokeMethod(engine(), what); }
+    void enginePaints(int before = 0) { QMetaObject::invokeMethod(engine(), "paint", Q_ARG(int, before)); }
     void engineFinishes(bool sound) { QMetaObject::invokeMethod(engine(), "finish", Q_ARG(bool, sound)); }
     void engineEnds() {
         engine()->setProperty("orders", {});
@@ -44,7 +45,7 @@ class WebPreviewViewTest : public testing::Test {
         view.show();
         ASSERT_TRUE(eventually([&] { return !orders().isEmpty(); }));
         engineFinishes(true);
-        engineDoes("paint");
+        enginePaints();
     }
     const QLabel& cover() const { return *view.findChild<QLabel*>(); }
     bool isBlank() {
@@ -58,14 +59,14 @@ class WebPreviewViewTest : public testing::Test {
 
 TEST_F(WebPreviewViewTest, startsWhenSeenAndStaysBlankUntilThePageIsPainted) {
     QApplication::processEvents();
-    EXPECT_EQ(orders(), QStringList{}) << "nobody has looked yet";
+    EXPECT_EQ(engine(), nullptr) << "nobody has looked yet";
     view.show();
     EXPECT_TRUE(isBlank());
     ASSERT_TRUE(eventually([&] { return !orders().isEmpty(); }));
     EXPECT_EQ(orders(), QStringList{QStringLiteral("load index.html")});
     engineFinishes(true);
     EXPECT_TRUE(isBlank());
-    engineDoes("paint");
+    enginePaints();
     EXPECT_FALSE(cover().isVisible());
 }
 
@@ -86,15 +87,21 @@ TEST_F(WebPreviewViewTest, joinsChangesOnTheirWayAndKeepsThoseOfAHiddenViewForLa
     EXPECT_EQ(orders().size(), 3);
     view.show();
     EXPECT_EQ(orders().size(), 4);
+    enginePaints(1);
     EXPECT_TRUE(isBlank()) << "instead of the gradient from before";
-    engineFinishes(false);
-    EXPECT_EQ(orders().size(), 4);
     view.reload();
-    EXPECT_EQ(orders().last(), QStringLiteral("load index.html")) << "whatever could not be read";
-    view.loadFile("/other/page.html");
     engineFinishes(true);
+    EXPECT_EQ(orders().size(), 5);
+    enginePaints(1);
+    EXPECT_FALSE(cover().isVisible()) << "although the next change is under way";
+    engineFinishes(false);
+    EXPECT_EQ(orders().last(), QStringLiteral("load index.html")) << "what cannot be renewed";
+    engineFinishes(false);
+    EXPECT_FALSE(cover().text().isEmpty());
+    view.loadFile("/other/page.html");
     EXPECT_EQ(orders().last(), QStringLiteral("load page.html"));
-    engineDoes("paint");
+    engineFinishes(true);
+    enginePaints();
     EXPECT_FALSE(cover().isVisible());
 }
 
@@ -116,7 +123,7 @@ TEST_F(WebPreviewViewTest, startsAnEndedEngineAgainSomeTimesAndThenAtTheNextChan
     view.reload();
     EXPECT_TRUE(eventually([&] { return isBlank() && !orders().isEmpty(); }));
     engineFinishes(true);
-    engineDoes("paint");
+    enginePaints();
     EXPECT_FALSE(cover().isVisible());
 }
 
@@ -125,9 +132,11 @@ TEST(PreviewModule, saysWhatIsWrongWithItsFile) {
     const TemporaryFolder folder;
     std::ofstream{folder.path / "text.so"} << "no module";
     std::filesystem::create_symlink(TESSALY_FAKE_MODULES "/other-version.so", folder.path / "other.so");
+    std::filesystem::create_symlink(TESSALY_FAKE_MODULES "/broken.so", folder.path / "broken.so");
     for (const auto& [file, failure] : {std::pair{"none.so", "none.so is missing"},
                                         {"text.so", "text.so is not of this program's version"},
-                                        {"other.so", "other.so is not of this program's version"}}) {
+                                        {"other.so", "other.so is not of this program's version"},
+                                        {"broken.so", "undefined symbol: _ZN7tessaly9isNowhereEv)"}}) {
         WebPreviewView view{QString::fromStdString((folder.path / file).native())};
         view.loadFile("/folder/index.html");
         view.show();

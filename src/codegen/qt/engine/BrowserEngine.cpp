@@ -13,9 +13,9 @@ BrowserEngine::BrowserEngine(QWidget& parent, Events events) : view_{&parent} {
     view_.setContextMenuPolicy(Qt::NoContextMenu);
 }
 
-void BrowserEngine::load(const QUrl& page) {
+void BrowserEngine::load(const QUrl& page, int order) {
     filter_.setPage(page);
-    page_.show(page);
+    page_.show(page, order);
 }
 
 } // namespace tessaly

@@ -14,12 +14,12 @@ class BrowserEngine : public PreviewEngine {
   public:
     BrowserEngine(QWidget& parent, Events events);
 
-    void load(const QUrl& page) override;
-    void renewStylesheet() override { page_.renewStylesheet(); }
+    void load(const QUrl& page, int order) override;
+    void renewStylesheet(int order) override { page_.renewStylesheet(order); }
     QWidget& widget() override { return view_; }
 
   private:
-    // In the order in which the toolkit wants them to end: the view first, the profile last.
+    // In the order in which the toolkit wants them to end: the view first.
     PreviewRequestFilter filter_;
     QWebEngineProfile profile_; ///< off the record: nothing is kept
     PreviewPage page_{profile_};

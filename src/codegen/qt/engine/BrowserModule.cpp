@@ -1,7 +1,7 @@
 // What the program finds in the module.
 
 #include "codegen/qt/engine/BrowserEngine.h"
-#include "codegen/qt/engine/EngineProcess.h"
+#include "codegen/qt/engine/EngineSurroundings.h"
 
 #include <QObject>
 #include <optional>
@@ -18,7 +18,7 @@ class BrowserModule : public QObject, public PreviewModule {
   public:
     std::unique_ptr<PreviewEngine> makeEngine(QWidget& parent, PreviewEngine::Events events,
                                               const Log& log) override {
-        std::optional<EngineProcess> process;
+        std::optional<EngineSurroundings> process;
         if (!std::exchange(isPrepared_, true)) {
             process.emplace(log);
         }

@@ -6,21 +6,26 @@
 namespace tessaly {
 namespace {
 
-// Both say what became of which order. A frame after the next one what they changed is on its way to the
-// screen.
+// Both tell of the order, %1, on the console. What it changed is in the frame after the next one at the
+// latest.
 constexpr const char* tellWhenPainted = R"(
     requestAnimationFrame(() => requestAnimationFrame(() => console.log('painted %1')));
 )";
 constexpr const char* replaceStylesheet = R"(
-    const old = document.querySelector('link');
-    const fresh = old.cloneNode();
+    const old = document.querySelector('link[href^="styles.css"]');
+    const fresh = document.createElement('link');
+    fresh.rel = 'stylesheet';
     fresh.href = 'styles.css?%1'; // an address that no cache knows
     fresh.onload = fresh.onerror = () => { // it counts as an error when a file that it imports is refused
         old.remove();
         console.log('renewed %1');
-        requestAnimationFrame(() => requestAnimationFrame(() => console.log('painted %1')));
+        %2
     };
-    old.after(fresh);
+    if (old === null) { // the user has changed the page
+        console.log('failed %1');
+    } else {
+        old.after(fresh);
+    }
 )";
 
 } // namespace
@@ -38,26 +43,27 @@ PreviewPage::PreviewPage(QWebEngineProfile& profile) : QWebEnginePage{&profile} 
     settings()->setAttribute(Attribute::LocalContentCanAccessFileUrls, true);
     connect(this, &QWebEnginePage::loadFinished, this, [this](bool sound) {
         if (sound) {
-            run(tellWhenPainted);
+            run(QString::fromLatin1(tellWhenPainted), loading_);
         }
-        Q_EMIT finished(sound);
+        Q_EMIT finished(loading_, sound);
     });
 }
 
-void PreviewPage::show(const QUrl& url) {
-    ++order_;
+void PreviewPage::show(const QUrl& url, int order) {
     url_ = url;
+    loading_ = order;
     load(url);
 }
 
-void PreviewPage::renewStylesheet() {
-    ++order_;
-    run(replaceStylesheet);
+void PreviewPage::renewStylesheet(int order) {
+    run(QString::fromLatin1(replaceStylesheet)
+            .replace(QStringLiteral("%2"), QString::fromLatin1(tellWhenPainted)),
+        order);
 }
 
-void PreviewPage::run(const char* script) {
-    runJavaScript(QStringLiteral("{%1}").arg(QString::fromLatin1(script).arg(order_)),
-                  QWebEngineScript::ApplicationWorld);
+void PreviewPage::run(const QString& script, int order) {
+    const QString numbered = QString{script}.replace(QStringLiteral("%1"), QString::number(order));
+    runJavaScript(u'{' + numbered + u'}', QWebEngineScript::ApplicationWorld);
 }
 
 bool PreviewPage::acceptNavigationRequest(const QUrl& url, NavigationType /*type*/, bool /*isMainFrame*/) {
@@ -66,13 +72,12 @@ bool PreviewPage::acceptNavigationRequest(const QUrl& url, NavigationType /*type
 
 void PreviewPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString& message,
                                            int /*line*/, const QString& /*source*/) {
-    const auto is = [&](const char* what) {
-        return message == QLatin1String{what} + QString::number(order_); // an older one is of no interest
-    };
-    if (is("painted ")) {
-        Q_EMIT painted();
-    } else if (is("renewed ")) {
-        Q_EMIT finished(true);
+    const QString what = message.section(u' ', 0, 0);
+    const int order = message.section(u' ', 1).toInt();
+    if (what == QLatin1String{"painted"}) {
+        Q_EMIT painted(order);
+    } else if (what == QLatin1String{"renewed"} || what == QLatin1String{"failed"}) {
+        Q_EMIT finished(order, what == QLatin1String{"renewed"});
     }
 }
 

@@ -13,17 +13,17 @@ class PreviewPage : public QWebEnginePage {
   public:
     explicit PreviewPage(QWebEngineProfile& profile);
 
-    void show(const QUrl& url);
+    void show(const QUrl& url, int order);
 
     /// Replaces the stylesheet by what its file says now, once that is loaded, so that nothing flickers.
-    void renewStylesheet();
+    void renewStylesheet(int order);
 
   Q_SIGNALS:
-    /// The last order; not `sound` when the page could not be loaded.
-    void finished(bool sound);
+    /// Not `sound` when the page could not be loaded, or has no stylesheet.
+    void finished(int order, bool sound);
 
-    /// What the last order brought has been painted.
-    void painted();
+    /// What the order brought has been painted.
+    void painted(int order);
 
   protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
@@ -31,10 +31,10 @@ class PreviewPage : public QWebEnginePage {
                                   const QString& source) override;
 
   private:
-    void run(const char* script);
+    void run(const QString& script, int order);
 
     QUrl url_;
-    int order_ = 0; ///< the number of the last one
+    int loading_ = 0; ///< the order to load the page
 };
 
 } // namespace tessaly

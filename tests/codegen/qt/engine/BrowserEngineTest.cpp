@@ -1,13 +1,14 @@
 // What the engine may do, and that it says what became of its orders.
 
 #include "codegen/qt/engine/BrowserEngine.h"
-#include "codegen/qt/engine/EngineProcess.h"
+#include "codegen/qt/engine/EngineSurroundings.h"
 
 #include "support/Eventually.h"
 #include "support/TemporaryFolder.h"
 
 #include <QWebEngineSettings>
 #include <QWebEngineView>
+#include <csignal>
 #include <gtest/gtest.h>
 
 namespace tessaly {
@@ -57,6 +58,7 @@ class BrowserEngineTest : public testing::Test {
     }
     bool finishes(bool sound) {
         result = {};
+        isPainted = false;
         return eventually([&] { return result == sound; });
     }
     bool paints(QColor color) {
@@ -68,43 +70,51 @@ class BrowserEngineTest : public testing::Test {
         return QUrl::fromLocalFile(QString::fromStdString((temporary.path / "index.html").native()));
     }
 
-    static const EngineProcess& surroundings() { // once, as in the program
-        static const EngineProcess process{[](std::string_view) {}};
+    static const EngineSurroundings& surroundings() { // once, as in the program
+        static const EngineSurroundings process{[](std::string_view) {}};
         return process;
     }
 
-    const EngineProcess& process = surroundings();
+    const EngineSurroundings& process = surroundings();
     const TemporaryFolder temporary;
     QWidget parent;
     std::optional<bool> result;
     bool isPainted = false;
-    BrowserEngine engine{parent,
-                         {[this](bool sound) { result = sound; }, [this] { isPainted = true; }, [] {}}};
+    bool hasEnded = false;
+    int order = 0;
+    BrowserEngine engine{
+        parent,
+        {[this](int of, bool sound) { result = of == order ? std::optional{sound} : std::nullopt; },
+         [this](int of) { isPainted = of == order; }, [this] { hasEnded = true; }}};
 };
 
 TEST_F(BrowserEngineTest, showsThePageAndItsRenewedStylesheetAndRunsNothing) {
-    engine.load(url());
+    engine.load(url(), ++order);
     EXPECT_TRUE(finishes(true));
     EXPECT_TRUE(paints({0, 128, 0}));
-    isPainted = false;
+    EXPECT_EQ(page().title(), QStringLiteral("-"));
     write("secret.css", "body { background: red !important; }");
     write("styles.css",
           "@import 'secret.css'; @import 'file:///etc/passwd'; body { background: rgb(0, 0, 255); }");
-    engine.renewStylesheet();
+    engine.renewStylesheet(++order);
     EXPECT_TRUE(finishes(true));
     EXPECT_TRUE(paints({0, 0, 255}));
     std::filesystem::remove(temporary.path / "styles.css");
-    engine.renewStylesheet();
+    engine.renewStylesheet(++order);
     EXPECT_TRUE(finishes(true));
     EXPECT_TRUE(paints(Qt::white));
-    std::filesystem::remove(temporary.path / "index.html");
-    engine.load(url());
+    write("index.html", "<!DOCTYPE html>a page that the user has changed");
+    engine.load(url(), ++order);
+    EXPECT_TRUE(finishes(true));
+    engine.renewStylesheet(++order);
     EXPECT_TRUE(finishes(false));
-    EXPECT_EQ(page().title(), QStringLiteral("-"));
+    std::filesystem::remove(temporary.path / "index.html");
+    engine.load(url(), ++order);
+    EXPECT_TRUE(finishes(false));
 }
 
 TEST_F(BrowserEngineTest, goesNowhereAndKeepsNothing) {
-    engine.load(url());
+    engine.load(url(), ++order);
     EXPECT_TRUE(finishes(true));
     for (const auto off : {QWebEngineSettings::JavascriptEnabled, QWebEngineSettings::LocalStorageEnabled,
                            QWebEngineSettings::PluginsEnabled, QWebEngineSettings::NavigateOnDropEnabled}) {
@@ -115,6 +125,8 @@ TEST_F(BrowserEngineTest, goesNowhereAndKeepsNothing) {
     view().setUrl(url().resolved(QUrl{QStringLiteral("other.html")}));
     EXPECT_TRUE(finishes(false));
     EXPECT_EQ(page().url(), url());
+    ::kill(static_cast<pid_t>(page().renderProcessPid()), SIGKILL);
+    EXPECT_TRUE(eventually([&] { return hasEnded; }));
 }
 
 } // namespace

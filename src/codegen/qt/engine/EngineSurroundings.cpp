@@ -1,4 +1,4 @@
-#include "codegen/qt/engine/EngineProcess.h"
+#include "codegen/qt/engine/EngineSurroundings.h"
 
 #include <QLoggingCategory>
 #include <QQuickWindow>
@@ -13,7 +13,7 @@ constexpr const char* glIntegration = "QT_XCB_GL_INTEGRATION";
 
 } // namespace
 
-EngineProcess::EngineProcess(const PreviewModule::Log& log) {
+EngineSurroundings::EngineSurroundings(const PreviewModule::Log& log) {
     // The engine reports its whole configuration otherwise, in the middle of our log.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
     // Gradients are painted faster without a graphics card in between, no driver has to be loaded, and the
@@ -32,7 +32,7 @@ EngineProcess::EngineProcess(const PreviewModule::Log& log) {
     }
 }
 
-EngineProcess::~EngineProcess() {
+EngineSurroundings::~EngineSurroundings() {
     for (const auto& [variable, value] : before_) {
         if (value.isNull()) {
             qunsetenv(variable.constData());
@@ -42,7 +42,7 @@ EngineProcess::~EngineProcess() {
     }
 }
 
-void EngineProcess::setForNow(const char* variable, const QByteArray& value) {
+void EngineSurroundings::setForNow(const char* variable, const QByteArray& value) {
     before_.emplace(variable, qgetenv(variable));
     qputenv(variable, value);
 }

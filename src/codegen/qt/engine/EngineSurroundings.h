@@ -9,12 +9,12 @@ namespace tessaly {
 
 /// The surroundings that the engine finds when it is started, which is when the first view is made. What they
 /// change in the environment lasts as long as the object: it must not reach the programs that a link opens.
-class EngineProcess {
+class EngineSurroundings {
   public:
-    explicit EngineProcess(const PreviewModule::Log& log);
-    EngineProcess(const EngineProcess&) = delete;
-    EngineProcess& operator=(const EngineProcess&) = delete;
-    ~EngineProcess();
+    explicit EngineSurroundings(const PreviewModule::Log& log);
+    EngineSurroundings(const EngineSurroundings&) = delete;
+    EngineSurroundings& operator=(const EngineSurroundings&) = delete;
+    ~EngineSurroundings();
 
   private:
     void setForNow(const char* variable, const QByteArray& value);
