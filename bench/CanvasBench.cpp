@@ -24,16 +24,12 @@ class Program {
     GradientEditor& editor() { return window.canvasView().editor(); }
 
     void setStops(std::int64_t orientation, std::int64_t count) {
-        GlobalData& data = GlobalData::sharedData();
-        data.setOrientationType(orientation);
-        data.setColorMarkerPos({});
-        data.setColorMarkerColor({});
+        std::vector<ColorStop> stops;
         for (std::int64_t i = 0; i < count; ++i) {
             const double at = static_cast<double>(i) / static_cast<double>(count - 1);
-            data.colorMarkerPos().push_back(at);
-            data.colorMarkerColor().push_back(Color::calibratedRGB(at, 1 - at, i % 2 == 0 ? 0.0 : 1.0));
+            stops.push_back({at, Color::calibratedRGB(at, 1 - at, i % 2 == 0 ? 0.0 : 1.0)});
         }
-        data.setColorMarkerOpacity(std::vector<double>(static_cast<std::size_t>(count), 1.0));
+        GlobalData::sharedData().gradient() = Gradient{std::move(stops), orientation};
         editor().repaint();
     }
 
@@ -49,14 +45,15 @@ void createBackground(benchmark::State& state) {
     GlobalData::sharedData() = GlobalData{};
     canvas.awakeFromNib(noPresets);
     GlobalData& data = GlobalData::sharedData();
-    data.setOrientationType(state.range(0));
+    data.gradient().setOrientation(state.range(0));
     for (int i = 1; i < 9; ++i) {
         canvas.editor().markers().addColorMarker(Color::calibratedRGB(i / 9.0, 0.5, 1 - i / 9.0), i / 9.0,
                                                  1.0, ColorMarkers::insertSorted);
     }
     measure(state, [&](std::size_t number) {
-        data.colorMarkerPos()[4] =
-            0.4 + 1e-6 * static_cast<double>(number % 1000); // another picture each time
+        ColorStop stop = data.gradient().stops()[4];
+        stop.position = 0.4 + 1e-6 * static_cast<double>(number % 1000); // another picture each time
+        data.gradient().replace(4, stop);
         canvas.editor().createBackground();
     });
 }

@@ -1,47 +1,46 @@
 #include "Measure.h"
 #include "codegen/DeclarationText.h"
-#include "support/Gradients.h"
+#include "model/ColorFormat.h"
+#include "model/Gradient.h"
 
 #include <benchmark/benchmark.h>
+#include <utility>
 #include <vector>
 
 namespace tessaly {
 namespace {
 
-void setStops(std::int64_t count) {
-    resetToDefaultGradient();
-    GlobalData& data = GlobalData::sharedData();
-    data.setColorFormatType(colorFormat::hsla);
-    data.setColorMarkerPos({});
-    for (std::int64_t i = 0; i < count; ++i) {
-        data.colorMarkerPos().push_back(static_cast<double>(i) / static_cast<double>(count - 1));
+Gradient gradientOf(std::int64_t count) {
+    std::vector<ColorStop> stops(static_cast<std::size_t>(count),
+                                 {0.0, Color::calibratedRGB(0.7, 0.2, 0.4), 0.75});
+    for (std::size_t i = 0; i < stops.size(); ++i) {
+        stops[i].position = static_cast<double>(i) / static_cast<double>(count - 1);
     }
-    data.colorMarkerColor().assign(static_cast<std::size_t>(count), Color::calibratedRGB(0.7, 0.2, 0.4));
-    data.colorMarkerOpacity().assign(static_cast<std::size_t>(count), 0.75);
+    return Gradient{std::move(stops)};
 }
 
-void writeEightDeclarations() {
+void writeEightDeclarations(const Gradient& gradient) {
     for (const Declaration declaration : allDeclarations) {
-        benchmark::DoNotOptimize(declarationText(declaration, GlobalData::sharedData()));
+        benchmark::DoNotOptimize(declarationText(declaration, gradient, colorFormat::hsla));
     }
 }
 
 void eightDeclarations(benchmark::State& state) {
-    setStops(state.range(0));
-    measure(state, [](std::size_t /*number*/) { writeEightDeclarations(); });
+    const Gradient gradient = gradientOf(state.range(0));
+    measure(state, [&](std::size_t /*number*/) { writeEightDeclarations(gradient); });
 }
 
 // One gradient of 100,000 stops against a hundred of 1,000, in turn: 1 when the time grows with the stops
 // alone.
 void declarationGrowth(benchmark::State& state) {
+    const Gradient large = gradientOf(100'000);
+    const Gradient small = gradientOf(1000);
     std::vector<double> growth;
     while (state.KeepRunning()) {
-        setStops(100'000);
-        const double one = secondsOf(writeEightDeclarations);
-        setStops(1000);
-        const double hundred = secondsOf([] {
+        const double one = secondsOf([&] { writeEightDeclarations(large); });
+        const double hundred = secondsOf([&] {
             for (int i = 0; i < 100; ++i) {
-                writeEightDeclarations();
+                writeEightDeclarations(small);
             }
         });
         growth.push_back(one / hundred);

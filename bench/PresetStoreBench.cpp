@@ -40,10 +40,8 @@ void fill(PresetProgram& program, std::int64_t count) {
     data = GlobalData{};
     for (int i = 0; i < 5; ++i) {
         const double fraction = 1.0 / (i + 3);
-        data.colorMarkerPos().push_back(fraction);
-        data.colorMarkerColor().push_back(
-            Color::calibratedRGB(fraction, 1.0 - fraction, fraction * fraction));
-        data.colorMarkerOpacity().push_back(1.0 - fraction * 0.5);
+        data.gradient().append({fraction, Color::calibratedRGB(fraction, 1.0 - fraction, fraction * fraction),
+                                1.0 - fraction * 0.5});
     }
     for (std::int64_t i = 0; i < count; ++i) {
         program.gallery.addGradientIntoPreset(nullptr);

@@ -3,6 +3,7 @@
 add_library(tessaly_options INTERFACE)
 target_compile_options(tessaly_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    -ffp-contract=off # the same numbers on every processor
     $<$<BOOL:${TESSALY_WERROR}>:-Werror>)
 if(TESSALY_SANITIZE)
     target_compile_options(tessaly_options INTERFACE

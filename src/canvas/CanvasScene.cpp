@@ -1,5 +1,7 @@
 #include "canvas/CanvasScene.h"
 
+#include <iterator>
+
 namespace tessaly {
 namespace {
 
@@ -9,30 +11,18 @@ Rect placedIn(const Rect& frame, const Rect& part) {
 
 } // namespace
 
-std::vector<GradientStop> CanvasScene::drawnStops(const GlobalData& gradient) {
-    const bool withOpacity = colorFormat::carriesOpacity(gradient.colorFormatType());
-    std::vector<GradientStop> stops;
-    stops.reserve(gradient.stopCount());
-    for (std::size_t i = 0; i < gradient.stopCount(); ++i) {
-        const Color& color = gradient.colorMarkerColor()[i];
-        stops.push_back({gradient.colorMarkerPos()[i],
-                         withOpacity ? color.withAlpha(gradient.colorMarkerOpacity()[i]) : color});
-    }
-    return stops;
-}
-
-CanvasScene::CanvasScene(const CanvasGeometry& geometry, const GlobalData& gradient,
-                         std::int64_t selectedMarker)
-    : stops{drawnStops(gradient)},
-      orientation{gradient.orientationType()},
-      guideLine{geometry.guideLine(orientation)} {
-    markers.reserve(stops.size());
-    for (std::size_t i = 0; i < stops.size(); ++i) {
-        const Rect frame = geometry.markerRect(orientation, stops[i].position);
-        const bool selected = static_cast<std::int64_t>(i) == selectedMarker;
+CanvasScene::CanvasScene(const CanvasGeometry& geometry, const GlobalData& data, std::int64_t selectedMarker)
+    : gradient{data.gradient()},
+      opacity{colorFormat::carriesOpacity(data.colorFormatType()) ? GradientRamp::Opacity::Drawn
+                                                                  : GradientRamp::Opacity::Ignored},
+      guideLine{geometry.guideLine(gradient.orientation())} {
+    markers.reserve(gradient.stops().size());
+    for (const ColorStop& stop : gradient.stops()) {
+        const Rect frame = geometry.markerRect(gradient.orientation(), stop.position);
+        const bool selected = std::ssize(markers) == selectedMarker;
         const Rect& dot = selected ? CanvasGeometry::selectedMarkerDot : CanvasGeometry::markerDot;
         // The dot shows the colour as stored, never with the opacity.
-        markers.push_back({frame, placedIn(frame, dot), gradient.colorMarkerColor()[i]});
+        markers.push_back({frame, placedIn(frame, dot), stop.color});
     }
 }
 

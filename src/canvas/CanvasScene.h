@@ -1,8 +1,8 @@
 #pragma once
 
 #include "canvas/CanvasGeometry.h"
-#include "canvas/GradientRamp.h"
 #include "model/GlobalData.h"
+#include "raster/GradientRamp.h"
 
 #include <cstdint>
 #include <optional>
@@ -21,14 +21,10 @@ struct CanvasScene {
         bool operator==(const Marker&) const = default;
     };
 
-    CanvasScene(const CanvasGeometry& geometry, const GlobalData& gradient, std::int64_t selectedMarker);
+    CanvasScene(const CanvasGeometry& geometry, const GlobalData& data, std::int64_t selectedMarker);
 
-    /// A gradient's stops as they are drawn: with their opacity where the notation carries it, else as
-    /// stored.
-    static std::vector<GradientStop> drawnStops(const GlobalData& gradient);
-
-    std::vector<GradientStop> stops;
-    std::int64_t orientation;
+    Gradient gradient;
+    GradientRamp::Opacity opacity; ///< drawn where the notation carries it
     std::optional<GuideLine> guideLine;
     std::vector<Marker> markers;
 

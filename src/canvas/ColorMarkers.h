@@ -3,6 +3,7 @@
 #include "model/GlobalData.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace tessaly {
@@ -19,8 +20,7 @@ class ColorMarkers {
     /// `index` changes nothing. Neither redraws nor notifies.
     void addColorMarker(const Color& color, double position, double opacity, std::int64_t index);
 
-    /// Removes the selected stop and selects the one before it. Deliberately leaves its opacity behind, so
-    /// that it passes to the next stop: gradients that people have edited this way keep their look.
+    /// Removes the selected stop and selects the one before it.
     void deleteColorMarker();
 
     /// Gives the selected stop another position and its sorted place; it stays selected.
@@ -32,12 +32,13 @@ class ColorMarkers {
     void select(std::int64_t index) { selectedColorMarkerIndex_ = index; }
     std::optional<ColorStop> selectedStop() const;
 
-    /// Change the selected stop in place, without sorting; nothing happens when there is no such stop.
-    void setSelectedColor(const Color& color);
-    void setSelectedPosition(double position);
-    void setSelectedOpacity(double opacity);
+    /// Changes the selected stop in place, without sorting; nothing happens when there is no such stop.
+    void changeSelected(const std::function<void(ColorStop&)>& change);
 
   private:
+    void logPlace() const;
+    void logSelection() const;
+
     std::int64_t selectedColorMarkerIndex_ = 0;
 };
 

@@ -18,7 +18,7 @@ void GradientEditor::awakeFromNib(const PresetSteps& presets) {
     controls_.updateOrientationTypeComboBox();
     controls_.updateColorFormatTypeComboBox();
     presets.read();
-    GlobalData::sharedData().setOrientationType(orientation::leftToRight);
+    GlobalData::sharedData().gradient().setOrientation(orientation::leftToRight);
     markers_.addColorMarker(Color::black(), 0.0, 1.0, ColorMarkers::append);
     markers_.addColorMarker(Color::white(), 1.0, 1.0, ColorMarkers::append);
     repaint();

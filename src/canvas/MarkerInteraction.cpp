@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numeric>
 #include <string>
 #include <utility>
@@ -17,7 +18,7 @@ MarkerInteraction::MarkerInteraction(const CanvasGeometry& geometry, const Marke
     : geometry_{geometry}, hitAreas_{hitAreas}, markers_{markers}, repaint_{std::move(repaint)} {}
 
 std::int64_t MarkerInteraction::orientation() {
-    return GlobalData::sharedData().orientationType();
+    return GlobalData::sharedData().gradient().orientation();
 }
 
 void MarkerInteraction::mouseDown(Point point, int clickCount) {
@@ -111,7 +112,7 @@ void MarkerInteraction::deleteColorMarker() {
 
 void MarkerInteraction::addBesideSelected() {
     constexpr double middle = 0.5;
-    const GlobalData& gradient = GlobalData::sharedData();
+    const Gradient& gradient = GlobalData::sharedData().gradient();
     const std::int64_t selected = markers_.selectedColorMarkerIndex();
     const auto next = gradient.stopAt(selected + 1);
     const auto neighbour = next ? next : gradient.stopAt(selected - 1);
@@ -133,7 +134,7 @@ bool MarkerInteraction::moveSelected(int right, int up, std::int64_t points) {
 }
 
 bool MarkerInteraction::select(std::int64_t marker) {
-    if (!GlobalData::sharedData().stopAt(marker)) {
+    if (!GlobalData::sharedData().gradient().stopAt(marker)) {
         return false;
     }
     startDrag_ = false;
@@ -146,8 +147,7 @@ bool MarkerInteraction::selectNeighbour(std::int64_t places) {
     if (markers_.selectedStop()) {
         return select(markers_.selectedColorMarkerIndex() + places);
     }
-    const auto count = static_cast<std::int64_t>(GlobalData::sharedData().stopCount());
-    return select(places > 0 ? 0 : count - 1);
+    return select(places > 0 ? 0 : std::ssize(GlobalData::sharedData().gradient().stops()) - 1);
 }
 
 } // namespace tessaly

@@ -60,10 +60,10 @@ void StopControls::apply(StopValue value) {
         updateColorBoxFromHSL();
         break;
     case StopValue::Position:
-        markers_.setSelectedPosition(pair(value).stepper->value());
+        markers_.changeSelected([&](ColorStop& stop) { stop.position = pair(value).stepper->value(); });
         break;
     case StopValue::Opacity:
-        markers_.setSelectedOpacity(pair(value).stepper->value());
+        markers_.changeSelected([&](ColorStop& stop) { stop.opacity = pair(value).stepper->value(); });
         break;
     }
 }
@@ -72,7 +72,7 @@ void StopControls::updateOrientationComboBoxValue() {
     handle([&] {
         const std::int64_t item = controls_.selectedOrientationComboBox->indexOfSelectedItem();
         if (item >= 0 && item < std::ssize(orientationItems)) {
-            GlobalData::sharedData().setOrientationType(
+            GlobalData::sharedData().gradient().setOrientation(
                 orientationItems[static_cast<std::size_t>(item)].code);
         }
     });
@@ -95,14 +95,14 @@ void StopControls::updateColorFormatComboBoxValue() {
 void StopControls::colorChangedNotification(const Notification& /*notification*/) {
     handle([&] {
         DiagnosticLog::write("colorChangedNotification");
-        markers_.setSelectedColor(controls_.selectedColor->backgroundColor());
+        takeColorBox();
         updateRGBFromColorBox();
         updateHSLFromColorBox();
     });
 }
 
 void StopControls::updateOrientationTypeComboBox() {
-    const std::int64_t code = GlobalData::sharedData().orientationType();
+    const std::int64_t code = GlobalData::sharedData().gradient().orientation();
     const auto item = std::find_if(orientationItems.begin(), orientationItems.end(),
                                    [&](const OrientationItem& candidate) { return candidate.code == code; });
     if (item != orientationItems.end()) {
@@ -130,7 +130,12 @@ void StopControls::setNumber(StopValue value, double number) {
 
 void StopControls::setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue) {
     controls_.selectedColor->setBackgroundColor(generateSelectedColor(red, green, blue));
-    markers_.setSelectedColor(controls_.selectedColor->backgroundColor());
+    takeColorBox();
+}
+
+void StopControls::takeColorBox() {
+    markers_.changeSelected(
+        [&](ColorStop& stop) { stop.color = controls_.selectedColor->backgroundColor(); });
 }
 
 void StopControls::updateColorBoxFromRGB() {

@@ -88,6 +88,7 @@ class StopControls {
     void apply(StopValue value);
     void setNumber(StopValue value, double number);
     void setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue);
+    void takeColorBox(); ///< into the gradient
     std::int64_t stepperInteger(StopValue value) const;
 
     StopControlSet controls_;

@@ -3,7 +3,8 @@
 #include "codegen/ColorNotation.h"
 #include "codegen/GradientDialect.h"
 #include "foundation/NumberText.h"
-#include "model/GlobalData.h"
+#include "model/ColorFormat.h"
+#include "model/Gradient.h"
 
 #include <array>
 
@@ -26,17 +27,14 @@ void appendStop(std::string& list, StopSyntax syntax, std::string_view color, st
 }
 
 // The stops in array order, a line each; never sorted. Only called with at least one stop.
-std::string stopList(StopSyntax syntax, const GlobalData& gradient) {
-    const std::int64_t format = gradient.colorFormatType();
-    if (!colorFormat::isKnown(format)) {
+std::string stopList(StopSyntax syntax, const Gradient& gradient, std::int64_t notation) {
+    if (!colorFormat::isKnown(notation)) {
         return std::string{null};
     }
     std::string list = "\n";
-    for (std::size_t i = 0; i < gradient.stopCount(); ++i) {
-        const auto color = colorNotation::colorText(format, gradient.colorMarkerColor()[i],
-                                                    gradient.colorMarkerOpacity()[i]);
-        appendStop(list, syntax, color ? std::string_view{*color} : null,
-                   percentText(gradient.colorMarkerPos()[i]));
+    for (const ColorStop& stop : gradient.stops()) {
+        const auto color = colorNotation::colorText(notation, stop.color, stop.opacity);
+        appendStop(list, syntax, color ? std::string_view{*color} : null, percentText(stop.position));
     }
     list.resize(list.size() - stopSeparator.size());
     return list;
@@ -48,32 +46,32 @@ std::string_view phraseFor(const GradientDialect& dialect, std::int64_t orientat
 }
 
 template <const GradientDialect& dialect>
-std::string gradientDeclaration(const GlobalData& gradient) {
-    const std::int64_t orientation = gradient.orientationType();
+std::string gradientDeclaration(const Gradient& gradient, std::int64_t notation) {
+    const std::int64_t orientation = gradient.orientation();
     std::string text = "\tbackground: ";
     text += orientation == orientation::radial ? dialect.radialFunction : dialect.linearFunction;
     text.append("(").append(phraseFor(dialect, orientation)).append(", ");
-    text.append(stopList(dialect.stopSyntax, gradient)).append(");\n");
+    text.append(stopList(dialect.stopSyntax, gradient, notation)).append(");\n");
     return text;
 }
 
-std::string plainColorDeclaration(const GlobalData& gradient) {
-    const ColorStop first = *gradient.stopAt(0);
-    const auto color = colorNotation::colorText(gradient.colorFormatType(), first.color, first.opacity);
+std::string plainColorDeclaration(const Gradient& gradient, std::int64_t notation) {
+    const ColorStop& first = gradient.stops().front();
+    const auto color = colorNotation::colorText(notation, first.color, first.opacity);
     return "\tbackground: " + color.value_or(std::string{null}) + ";\n";
 }
 
 // Always hexadecimal and always horizontal, whatever the gradient: deliberate, the filter knows no more.
-std::string filterDeclaration(const GlobalData& gradient) {
-    const auto hexadecimal = [&](std::size_t stop) {
-        return colorNotation::hexadecimalValueOfAnNSColor(gradient.colorMarkerColor()[stop])
-            .value_or(std::string{null});
+std::string filterDeclaration(const Gradient& gradient, std::int64_t /*notation*/) {
+    const auto hexadecimal = [](const ColorStop& stop) {
+        return colorNotation::hexadecimalValueOfAnNSColor(stop.color).value_or(std::string{null});
     };
-    return "\tfilter: progid:DXImageTransform.Microsoft.gradient(\n\t\tstartColorstr='" + hexadecimal(0) +
-           "',\n\t\tendColorstr='" + hexadecimal(gradient.stopCount() - 1) + "',GradientType=1 );\n";
+    return "\tfilter: progid:DXImageTransform.Microsoft.gradient(\n\t\tstartColorstr='" +
+           hexadecimal(gradient.stops().front()) + "',\n\t\tendColorstr='" +
+           hexadecimal(gradient.stops().back()) + "',GradientType=1 );\n";
 }
 
-using Generator = std::string (*)(const GlobalData& gradient);
+using Generator = std::string (*)(const Gradient& gradient, std::int64_t notation);
 
 // In the order of the declarations.
 constexpr std::array generators{
@@ -90,9 +88,9 @@ static_assert(generators.size() == declarationCount);
 
 } // namespace
 
-std::string declarationText(Declaration declaration, const GlobalData& gradient) {
-    return gradient.stopCount() == 0 ? std::string{}
-                                     : generators[static_cast<std::size_t>(declaration)](gradient);
+std::string declarationText(Declaration declaration, const Gradient& gradient, std::int64_t notation) {
+    return gradient.stops().empty() ? std::string{}
+                                    : generators[static_cast<std::size_t>(declaration)](gradient, notation);
 }
 
 } // namespace tessaly

@@ -2,14 +2,16 @@
 
 #include "codegen/Declaration.h"
 
+#include <cstdint>
 #include <string>
 
 namespace tessaly {
 
-class GlobalData;
+class Gradient;
 
-/// One declaration of the gradient, with its tab in front and its line break behind; empty for a gradient
-/// without stops. What an unknown orientation or notation code leaves without text reads (null).
-std::string declarationText(Declaration declaration, const GlobalData& gradient);
+/// One declaration of the gradient in a notation (ColorFormat.h), with its tab in front and its line break
+/// behind; empty for a gradient without stops. What an unknown orientation or notation code leaves without
+/// text reads (null).
+std::string declarationText(Declaration declaration, const Gradient& gradient, std::int64_t notation);
 
 } // namespace tessaly

@@ -13,7 +13,8 @@ namespace tessaly {
 class GradientDeclarations {
   public:
     void construct(Declaration declaration) {
-        texts_[declaration] = declarationText(declaration, GlobalData::sharedData());
+        const GlobalData& data = GlobalData::sharedData();
+        texts_[declaration] = declarationText(declaration, data.gradient(), data.colorFormatType());
     }
 
     void constructBackgroundOldCommand() { construct(Declaration::Old); }

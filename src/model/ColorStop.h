@@ -4,10 +4,10 @@
 
 namespace tessaly {
 
-/// One colour stop of a gradient, put together from the three arrays.
+/// One colour stop of a gradient.
 struct ColorStop {
     double position = 0.0; ///< along the gradient, 0.0 ... 1.0
-    Color color;
+    Color color{};
     double opacity = 1.0; ///< 0.0 ... 1.0, opaque; shown and written only by notations that carry it
 
     bool operator==(const ColorStop&) const = default;

@@ -46,44 +46,31 @@ void PresetGallery::redrawPresetGradientContainer(bool force) {
     view_.thumbnailsChanged();
 }
 
-void PresetGallery::append(Preset preset) {
+void PresetGallery::append(Gradient gradient) {
     const Point pos = getPresetGradientItemPos(static_cast<std::int64_t>(presetGradient_.size()) + 1);
-    preset.index = gradientIndex_++;
-    presetGradient_.push_back(std::move(preset));
+    presetGradient_.push_back({std::move(gradient), gradientIndex_++});
     maxPresetGradientRow_ = truncated(pos.y + 1);
     redrawPresetGradientContainer(false);
     view_.thumbnailsChanged();
 }
 
 void PresetGallery::addGradientIntoPreset(const void* sender) {
-    const GlobalData& data = GlobalData::sharedData();
-    append(
-        {data.colorMarkerPos(), data.colorMarkerColor(), data.colorMarkerOpacity(), data.orientationType()});
+    append(GlobalData::sharedData().gradient());
     if (sender != nullptr) {
         actions_.insertData();
     }
 }
 
-void PresetGallery::addGradientIntoPresetWithColorMarkerPos(std::vector<double> colorMarkerPos,
-                                                            std::vector<Color> colorMarkerColor,
-                                                            std::vector<double> colorMarkerOpacity,
-                                                            std::int64_t orientationType) {
-    append({std::move(colorMarkerPos), std::move(colorMarkerColor), std::move(colorMarkerOpacity),
-            orientationType});
+void PresetGallery::addGradientIntoPreset(Gradient gradient) {
+    append(std::move(gradient));
 }
 
 void PresetGallery::updateGradientNotification(const Notification& notification) {
     DiagnosticLog::write("updateGradientNotification");
-    std::optional<Preset> preset = presetNotification::presetOf(notification);
-    if (!preset) {
-        return;
+    if (const Gradient* const gradient = presetNotification::gradientOf(notification)) {
+        GlobalData::sharedData().gradient() = *gradient;
+        actions_.presetApplied();
     }
-    GlobalData& data = GlobalData::sharedData();
-    data.setColorMarkerPos(std::move(preset->colorMarkerPos));
-    data.setColorMarkerColor(std::move(preset->colorMarkerColor));
-    data.setColorMarkerOpacity(std::move(preset->colorMarkerOpacity));
-    data.setOrientationType(preset->orientationType);
-    actions_.presetApplied();
 }
 
 void PresetGallery::deletePresetGradientNotification(const Notification& notification) {

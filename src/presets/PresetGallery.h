@@ -55,16 +55,13 @@ class PresetGallery : public PresetList {
     void addGradientIntoPreset(const void* sender);
 
     /// Appends a stored preset; saves nothing.
-    void addGradientIntoPresetWithColorMarkerPos(std::vector<double> colorMarkerPos,
-                                                 std::vector<Color> colorMarkerColor,
-                                                 std::vector<double> colorMarkerOpacity,
-                                                 std::int64_t orientationType) override;
+    void addGradientIntoPreset(Gradient gradient) override;
 
     void updateGradientNotification(const Notification& notification);
     void deletePresetGradientNotification(const Notification& notification);
 
   private:
-    void append(Preset preset);
+    void append(Gradient gradient);
 
     PresetGalleryView& view_;
     Actions actions_;

@@ -18,11 +18,8 @@ class PresetList {
     /// The `index` to give the next preset.
     virtual void setGradientIndex(std::int64_t index) = 0;
 
-    /// Appends a preset with these stops and the next `index`.
-    virtual void addGradientIntoPresetWithColorMarkerPos(std::vector<double> colorMarkerPos,
-                                                         std::vector<Color> colorMarkerColor,
-                                                         std::vector<double> colorMarkerOpacity,
-                                                         std::int64_t orientationType) = 0;
+    /// Appends a stored preset with the next `index`.
+    virtual void addGradientIntoPreset(Gradient gradient) = 0;
 };
 
 } // namespace tessaly

@@ -112,9 +112,9 @@ void PresetStore::readAdditionalData(std::int64_t mainIndex, std::int64_t orient
     const std::string sql = "select position, red, green, blue, opacity from " + additionalTable +
                             " where mainIndex=" + std::to_string(mainIndex);
     logStatement(sql);
-    StopArrays stops = allStops_ ? allStops_->of(mainIndex) : StoredStops{database_.reader()}.of(mainIndex);
-    presets_.addGradientIntoPresetWithColorMarkerPos(std::move(stops.positions), std::move(stops.colors),
-                                                     std::move(stops.opacities), orientationType);
+    std::vector<ColorStop> stops =
+        allStops_ ? allStops_->of(mainIndex) : StoredStops{database_.reader()}.of(mainIndex);
+    presets_.addGradientIntoPreset(Gradient{std::move(stops), orientationType});
 }
 
 void PresetStore::insertData() {
@@ -142,9 +142,9 @@ void PresetStore::insertAllPresets() {
         // The main row takes the preset's own index and the stops its place in the list, deliberately: it is
         // the list that keeps the two equal.
         insertMainData(static_cast<std::int32_t>(presets[i].index),
-                       static_cast<std::int32_t>(presets[i].orientationType));
-        for (std::size_t j = 0; j < presets[i].colorMarkerPos.size(); ++j) {
-            if (!insertStop(static_cast<std::int32_t>(i), presets[i].stopAt(j))) {
+                       static_cast<std::int32_t>(presets[i].gradient.orientation()));
+        for (const ColorStop& stop : presets[i].gradient.stops()) {
+            if (!insertStop(static_cast<std::int32_t>(i), stop)) {
                 return;
             }
         }

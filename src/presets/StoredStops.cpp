@@ -8,12 +8,6 @@
 
 namespace tessaly {
 
-void StopArrays::append(const ColorStop& stop) {
-    positions.push_back(stop.position);
-    colors.push_back(stop.color);
-    opacities.push_back(stop.opacity);
-}
-
 ColorStop storedStop(const SqliteStatement& row, int firstColumn) {
     return {
         row.real(firstColumn),
@@ -36,12 +30,12 @@ StoredStops::StoredStops(const SqliteConnection& database) {
     std::stable_sort(rows_.begin(), rows_.end(), byIndex);
 }
 
-StopArrays StoredStops::of(std::int64_t mainIndex) const {
-    StopArrays stops;
+std::vector<ColorStop> StoredStops::of(std::int64_t mainIndex) const {
+    std::vector<ColorStop> stops;
     const auto before = [](const Row& row, std::int64_t index) { return row.first < index; };
     for (auto row = std::lower_bound(rows_.begin(), rows_.end(), mainIndex, before);
          row != rows_.end() && row->first == mainIndex; ++row) {
-        stops.append(row->second);
+        stops.push_back(row->second);
     }
     return stops;
 }

@@ -11,15 +11,6 @@ namespace tessaly {
 class SqliteConnection;
 class SqliteStatement;
 
-/// The stops of one preset as the store hands them to the gallery: three parallel arrays.
-struct StopArrays {
-    std::vector<double> positions;
-    std::vector<Color> colors; ///< opaque
-    std::vector<double> opacities;
-
-    void append(const ColorStop& stop);
-};
-
 /// A stop from five columns of the current row: position, red, green, blue, opacity.
 ColorStop storedStop(const SqliteStatement& row, int firstColumn);
 
@@ -32,7 +23,7 @@ class StoredStops {
     bool isComplete() const { return complete_; }
 
     /// The stops of one preset in the order of their rows.
-    StopArrays of(std::int64_t mainIndex) const;
+    std::vector<ColorStop> of(std::int64_t mainIndex) const;
 
   private:
     using Row = std::pair<std::int64_t, ColorStop>;

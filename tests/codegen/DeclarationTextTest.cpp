@@ -1,6 +1,7 @@
 #include "codegen/DeclarationText.h"
 #include "codegen/ColorNotation.h"
-#include "model/GlobalData.h"
+#include "model/ColorFormat.h"
+#include "model/Gradient.h"
 
 #include <gtest/gtest.h>
 
@@ -28,15 +29,15 @@ TEST(ColorNotation, writesEveryNotation) {
               "none|rgb(0,0,0)|rgba(0,0,0, 0)|hsl(0.0,0.0%,0.0%)|hsla(0.0,0.0%,0.0%, 0)|");
 }
 
-// Red, a colour without RGB form, white: as many as there are positions, and an opacity that a deleted stop
-// left behind.
+// Red, a colour without RGB form, white: as many as there are positions.
 std::string text(const std::vector<double>& positions, std::int64_t notation, Declaration declaration) {
-    GlobalData gradient;
-    gradient.setColorMarkerPos(positions);
-    gradient.setColorMarkerColor({Color::calibratedRGB(1, 0, 0), Color::withoutRGBForm(), Color::white()});
-    gradient.setColorMarkerOpacity({0.4, 0.5, 1.0, 0.5});
-    gradient.setColorFormatType(notation);
-    return declarationText(declaration, gradient);
+    std::vector<ColorStop> stops{
+        {0, Color::calibratedRGB(1, 0, 0), 0.4}, {0, Color::withoutRGBForm(), 0.5}, {0, Color::white(), 1.0}};
+    stops.resize(positions.size());
+    for (std::size_t i = 0; i < stops.size(); ++i) {
+        stops[i].position = positions[i];
+    }
+    return declarationText(declaration, Gradient{stops}, notation);
 }
 
 TEST(DeclarationText, keepsArrayOrderAndOpacityAndSurvivesMissingPieces) {

@@ -24,8 +24,8 @@ class WebCodeTest : public testing::Test {
         code->insertCSS3Code();
     }
 
-    void update(std::int64_t orientation = GlobalData::sharedData().orientationType()) {
-        GlobalData::sharedData().setOrientationType(orientation);
+    void update(std::int64_t orientation = GlobalData::sharedData().gradient().orientation()) {
+        GlobalData::sharedData().gradient().setOrientation(orientation);
         code->updateBackgroundColorDataUpdatedNotification({});
     }
 
@@ -78,7 +78,7 @@ TEST_F(WebCodeTest, rewritesChangedDeclarationsAndKeepsWhatTheUserAddsAroundThem
     edit({code->ranges().backgroundColorIndex() + 5, 3}, u"oops");     // inside the standard one
     edit(code->ranges()[Declaration::OldWebKit], u"");                 // a whole one
     edit({code->ranges().backgroundColorOperaIndex() - 10, 20}, u"x"); // across an edge: the x is the user's
-    GlobalData::sharedData().colorMarkerColor()[0] = Color::white();
+    GlobalData::sharedData().gradient().replace(0, {0.0, Color::white()});
     update(orientation::radial);
     const std::string fresh = std::regex_replace(radialCss, std::regex{"#000000"}, "#ffffff");
     std::string expected = fresh;
@@ -151,7 +151,7 @@ TEST_F(WebCodeTest, tellsItsDeclarationsFromTheUsersCopiesAndNewLines) {
             return std::string{radialCss}.insert(first + 22, toUtf8(line));
         }};
     for (const auto& row : rows) {
-        GlobalData::sharedData().setOrientationType(orientation::leftToRight);
+        GlobalData::sharedData().gradient().setOrientation(orientation::leftToRight);
         code->insertCSS3Code();
         const std::string expected = row();
         update(orientation::radial);
@@ -181,7 +181,8 @@ TEST_F(WebCodeTest, anyChangeAmongRandomEditsWritesEveryDeclaration) {
             const TextRange range = code->ranges()[declaration];
             ASSERT_LE(end, range.location) << "change " << i;
             ASSERT_EQ(toUtf8(css.contents.substr(range.location, range.length)),
-                      declarationText(declaration, GlobalData::sharedData()));
+                      declarationText(declaration, GlobalData::sharedData().gradient(),
+                                      GlobalData::sharedData().colorFormatType()));
             end = range.end();
         }
     }

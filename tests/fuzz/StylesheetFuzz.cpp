@@ -20,7 +20,8 @@ static std::string rewritten(const std::u16string& text, const DeclarationRanges
         const std::size_t start = ranges[declaration].location;
         require(end <= start && start <= text.find_first_not_of(typed, end), "no old declaration stays");
         result += toUtf8(text.substr(end, start - end));
-        result += declarationText(declaration, GlobalData::sharedData());
+        result += declarationText(declaration, GlobalData::sharedData().gradient(),
+                                  GlobalData::sharedData().colorFormatType());
         end = ranges[declaration].end();
     }
     require(end <= text.size() && text.find_first_not_of(typed, end) == text.npos, "nor at the end");

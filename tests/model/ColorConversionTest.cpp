@@ -55,16 +55,5 @@ TEST(ColorConversion, convertsBackWithTheLiteralThirdsWrappingOnceAndNeverClampi
     EXPECT_TRUE(log.has("Temporary RGB: 0.666333, 0.333333, 0.000333") && log.has("RGB: -1, 255, 1"));
 }
 
-TEST(GlobalData, holdsAStopWhereAllThreeArraysDo) {
-    GlobalData data;
-    EXPECT_EQ(data.orientationType(), orientation::leftToRight);
-    data.colorMarkerPos() = {0.0, 1.0};
-    data.colorMarkerColor() = {Color::white()};
-    data.colorMarkerOpacity() = {0.5, 1.0, 0.25};
-    EXPECT_EQ(data.stopCount(), 1U);
-    EXPECT_EQ(data.stopAt(0), (ColorStop{0.0, Color::white(), 0.5}));
-    EXPECT_FALSE(data.stopAt(1) || data.stopAt(-1));
-}
-
 } // namespace
 } // namespace tessaly

@@ -50,7 +50,7 @@ TEST_F(PresetGalleryTest, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverD
         {0, 125, 52}, {1, 170, 52}, {6, 215, 52}, {10, 215, 52}, {11, 260, 49}};
     for (const auto& [presets, height, distant] : rows) {
         for (auto number = std::ssize(gallery.presetGradient()); number < presets; ++number) {
-            GlobalData::sharedData().setOrientationType(number); // tells the presets apart
+            GlobalData::sharedData().gradient().setOrientation(number); // tells the presets apart
             gallery.addGradientIntoPreset(number < 10 ? nullptr : this);
         }
         EXPECT_EQ(view.containerSize, (Size{263, height})) << presets;
@@ -65,23 +65,24 @@ TEST_F(PresetGalleryTest, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverD
     EXPECT_EQ(view.containerSize.height, 260);
     gallery.addGradientIntoPreset(nullptr);
     EXPECT_EQ(view.containerSize.height, 170);
-    EXPECT_EQ(gallery.presetGradient()[0].orientationType, 9);
+    EXPECT_EQ(gallery.presetGradient()[0].gradient.orientation(), 9);
     EXPECT_EQ(gallery.presetGradient()[2].index, 2);
 }
 
 TEST_F(PresetGalleryTest, appliesAPresetWithoutTyingItToTheGradient) {
     GlobalData& data = GlobalData::sharedData();
     data.setColorFormatType(colorFormat::hsla);
-    const Preset preset{
-        {0.0, 0.5, 1.0}, {Color::white(), Color::black(), Color{}}, {1, 1, 1, 0.2}, orientation::radial, 0};
+    Preset preset{
+        Gradient{{{0.0, Color::white(), 0.2}, {0.5, Color::black()}, {1.0}, {1.0}}, orientation::radial}};
+    preset.gradient.remove(0); // what that leaves behind goes with it
     const Notification change = presetNotification::makeGradientIndexChanged(preset, &view);
     NotificationCenter::defaultCenter().post(change);
     EXPECT_EQ(data.colorFormatType(), colorFormat::hsla) << "the notation is no part of a preset";
     gallery.addGradientIntoPreset(nullptr);
-    data.colorMarkerPos()[1] = 0.7;
+    data.gradient().remove(1);
     EXPECT_EQ(gallery.presetGradient()[0], preset);
     NotificationCenter::defaultCenter().post(change);
-    EXPECT_EQ(data.colorMarkerPos(), preset.colorMarkerPos);
+    EXPECT_EQ(data.gradient(), preset.gradient);
     EXPECT_EQ(applied, 2);
 }
 

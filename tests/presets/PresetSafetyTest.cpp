@@ -28,23 +28,22 @@ class ProgramRun : public PresetList {
 
     /// Of the list: 0 for an empty one, -1 for one that was never saved like this.
     std::int64_t number() const {
-        const std::int64_t number = presets_.empty() ? 0 : presets_[0].orientationType;
+        const std::int64_t number = presets_.empty() ? 0 : presets_[0].gradient.orientation();
         return presets_ == listOf(number) ? number : -1;
     }
 
     const std::vector<Preset>& presetGradient() const override { return presets_; }
     void setGradientIndex(std::int64_t /*index*/) override {}
-    void addGradientIntoPresetWithColorMarkerPos(std::vector<double> positions, std::vector<Color> colors,
-                                                 std::vector<double> opacities, std::int64_t type) override {
-        presets_.push_back(
-            {std::move(positions), std::move(colors), std::move(opacities), type, std::ssize(presets_)});
+    void addGradientIntoPreset(Gradient gradient) override {
+        presets_.push_back({std::move(gradient), std::ssize(presets_)});
     }
 
   private:
     static std::vector<Preset> listOf(std::int64_t number) {
         std::vector<Preset> list;
         for (std::int64_t i = 0; number != 0 && i <= number % 7; ++i) {
-            list.push_back({{0.5, 1.0}, {Color::white(), {}}, {1.0, static_cast<double>(i)}, number, i});
+            list.push_back(
+                {Gradient{{{0.5, Color::white()}, {1.0, Color{}, static_cast<double>(i)}}, number}, i});
         }
         return list;
     }

@@ -40,11 +40,12 @@ TEST_F(PresetStoreTest, keepsWhatIsSavedInAPrivateFileForTheShellAndTheNextRun) 
         PresetProgram program = start();
         program.gallery.addGradientIntoPreset(nullptr);
         program.gallery.addGradientIntoPreset(nullptr);
-        data.setColorMarkerPos({1.0 / 3, 1.0, 0.25});
-        data.setColorMarkerColor(
-            {Color::black(), Color::calibratedRGB(1, 0, 0, 0.3), Color::withoutRGBForm()});
-        data.setColorMarkerOpacity({1.0, 0.5, 0.75, 0.1}); // one left over from a deleted stop
-        data.setOrientationType(2);
+        data.gradient() = Gradient{{{1.0 / 3, Color::black()},
+                                    {1.0, Color::calibratedRGB(1, 0, 0, 0.3), 0.5},
+                                    {0.25, Color::withoutRGBForm(), 0.75},
+                                    {0.5, Color::black(), 0.1}},
+                                   orientation::diagonalToTopRight};
+        data.gradient().remove(3); // which leaves its opacity behind
         program.gallery.addGradientIntoPreset(this);
         program.gallery.deletePresetGradientNotification({"", this, {{"index", std::int64_t{1}}}});
         for (const char* const suffix : {"", "-wal", "-shm"}) {
@@ -52,8 +53,9 @@ TEST_F(PresetStoreTest, keepsWhatIsSavedInAPrivateFileForTheShellAndTheNextRun) 
         }
         presets = program.presets();
     }
-    presets[1].colorMarkerColor = {Color::black(), Color::calibratedRGB(1, 0, 0), Color::black()};
-    presets[1].colorMarkerOpacity.pop_back();
+    presets[1].gradient = Gradient{
+        {{1.0 / 3, Color::black()}, {1.0, Color::calibratedRGB(1, 0, 0), 0.5}, {0.25, Color::black(), 0.75}},
+        orientation::diagonalToTopRight};
     EXPECT_EQ(start().presets(), presets) << "every double as it was";
     EXPECT_EQ(std::erase(log.messages, "userpath: " + file.native()), 2U);
     std::string logged;
@@ -79,9 +81,11 @@ TEST_F(PresetStoreTest, readsADatabaseMadeByHand) {
           "(6, NULL, 0.5, 1, 1, 1, 1), (7, 'three', 0.5, 1, 1, 1, 1), (8, 3.5, 0.5, 1, 1, 1, 1)");
     PresetProgram program = start();
     const Color red = Color::calibratedRGB(1, 0, 0);
-    const Preset longest{{0.5, 0.0, 0.75}, {Color::calibratedRGB(0, 1, 0), red, red}, {1.0, 1.0, 0.5}, 4, 2};
+    const Preset longest{
+        Gradient{{{0.5, Color::calibratedRGB(0, 1, 0)}, {0.0, red}, {0.75, red, 0.5}}, orientation::radial},
+        2};
     std::vector<Preset> expected{
-        {{1.0}, {Color::calibratedRGB(0, 0, 1)}, {0.0}, 9, 0}, {{}, {}, {}, 1, 1}, longest, longest};
+        {Gradient{{{1.0, Color::calibratedRGB(0, 0, 1), 0.0}}, 9}, 0}, {Gradient{}, 1}, longest, longest};
     expected[3].index = 3;
     program.store.readAdditionalData(7, 4); // one alone, by its own query, reads as among all
     EXPECT_EQ(program.presets(), expected);
@@ -98,10 +102,10 @@ TEST_F(PresetStoreTest, numbersRowsByIndexAndByPlaceAndGoesOnAfterAFailedMainRow
                              "create trigger b before insert on AdditionalTable when new.position=0.25 "
                              "begin select raise(abort, 'no room'); end");
     program.gallery.setGradientIndex(7);
-    data.setColorMarkerPos({0.5});
+    data.gradient() = Gradient{{{0.5}}};
     program.gallery.addGradientIntoPreset(nullptr);
     program.gallery.addGradientIntoPreset(nullptr);
-    data.setColorMarkerPos({0.5, 0.25, 1.0});
+    data.gradient() = Gradient{{{0.5}, {0.25}, {1.0}}};
     program.gallery.addGradientIntoPreset(this);
     EXPECT_TRUE(log.has("Error while inserting: no row"));
     EXPECT_EQ(log.messages.back(), "Error while inserting: no room");

@@ -1,8 +1,8 @@
 #include "canvas/qt/CanvasPicture.h"
 
-#include "canvas/GradientRaster.h"
 #include "foundation/qt/Flipped.h"
 #include "model/qt/ColorBridge.h"
+#include "raster/GradientRaster.h"
 
 #include <QPainter>
 #include <cmath>
@@ -78,19 +78,17 @@ void CanvasPicture::paintScene() {
 void CanvasPicture::paintGradient() {
     QImage& picture = backgroundOffscreenRep_;
     picture.fill(controlColor_);
-    if (scene_->stops.empty()) {
+    if (scene_->gradient.stops().empty()) {
         return;
     }
     auto* const pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
     const auto count = static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
     const PixelBuffer buffer{std::span{pixels, count}, picture.width(), picture.height(), devicePixelRatio_,
                              geometry_.viewSize().height};
-    const GradientRamp ramp{scene_->stops, *fromQColor(controlColor_).calibratedRGB()};
-    if (scene_->orientation == orientation::radial) {
-        fillRadial(buffer, geometry_.radialCenter(), geometry_.radialRadius(), ramp);
-    } else {
-        fillLinear(buffer, geometry_.strip(), gradientDirection(scene_->orientation), ramp);
-    }
+    const GradientRamp ramp{scene_->gradient.stops(), scene_->opacity,
+                            *fromQColor(controlColor_).calibratedRGB()};
+    fillGradient(buffer, {geometry_.strip(), geometry_.radialCenter(), geometry_.radialRadius()},
+                 scene_->gradient.orientation(), ramp);
 }
 
 void CanvasPicture::paintGuideLine(QPainter& painter, const GuideLine& guide) const {

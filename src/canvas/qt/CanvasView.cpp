@@ -89,7 +89,7 @@ void CanvasView::paintEvent(QPaintEvent* /*event*/) {
 
 QRectF CanvasView::markerRect(const ColorStop& stop) const {
     const Rect frame =
-        editor_.geometry().markerRect(GlobalData::sharedData().orientationType(), stop.position);
+        editor_.geometry().markerRect(GlobalData::sharedData().gradient().orientation(), stop.position);
     return flipped(frame, height());
 }
 
@@ -169,7 +169,7 @@ bool CanvasView::focusNextPrevChild(bool next) {
 }
 
 int CanvasView::accessibleItemCount() const {
-    return static_cast<int>(GlobalData::sharedData().stopCount());
+    return static_cast<int>(GlobalData::sharedData().gradient().stops().size());
 }
 
 QString CanvasView::accessibleItemName(int item) const {
@@ -177,13 +177,13 @@ QString CanvasView::accessibleItemName(int item) const {
 }
 
 QString CanvasView::accessibleItemDescription(int item) const {
-    const ColorStop stop = GlobalData::sharedData().stopAt(item).value_or(ColorStop{});
+    const ColorStop stop = GlobalData::sharedData().gradient().stopAt(item).value_or(ColorStop{});
     return tr("Position %1, color %2")
         .arg(toQString(fixedText(stop.position, 3)), toQColor(stop.color).name());
 }
 
 QRect CanvasView::accessibleItemRect(int item) const {
-    return markerRect(GlobalData::sharedData().stopAt(item).value_or(ColorStop{})).toAlignedRect();
+    return markerRect(GlobalData::sharedData().gradient().stopAt(item).value_or(ColorStop{})).toAlignedRect();
 }
 
 int CanvasView::currentAccessibleItem() const {

@@ -1,15 +1,14 @@
 #include "presets/qt/PresetGradienView.h"
 
-#include "canvas/GradientRaster.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NotificationCenter.h"
 #include "presets/PresetNotification.h"
 #include "presets/PresetSlotGeometry.h"
+#include "raster/GradientRaster.h"
 
 #include <QPainter>
 #include <cmath>
 #include <span>
-#include <vector>
 
 namespace tessaly {
 namespace {
@@ -35,25 +34,16 @@ QImage PresetGradienView::gradientPicture(double devicePixelRatio) const {
     const int pixels = static_cast<int>(std::ceil(size * devicePixelRatio));
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    std::vector<GradientStop> stops;
-    for (std::size_t i = 0; i < preset_.colorMarkerPos.size(); ++i) {
-        const ColorStop stop = preset_.stopAt(i);
-        stops.push_back({stop.position, stop.color.withAlpha(stop.opacity)});
-    }
-    if (stops.empty()) {
+    const Gradient& gradient = preset_.gradient;
+    if (gradient.stops().empty()) {
         return image;
     }
     const auto count = static_cast<std::size_t>(pixels) * static_cast<std::size_t>(pixels);
     const PixelBuffer buffer{std::span{reinterpret_cast<std::uint32_t*>(image.bits()), count}, pixels, pixels,
                              devicePixelRatio, size};
-    const GradientRamp ramp{stops};
-    if (preset_.orientationType == orientation::radial) {
-        fillRadial(buffer, {size / 2, size / 2}, size / 2, ramp);
-    } else {
-        constexpr double side = size - 2 * outerInset;
-        fillLinear(buffer, {outerInset, outerInset, side, side}, gradientDirection(preset_.orientationType),
-                   ramp);
-    }
+    constexpr double side = size - 2 * outerInset;
+    fillGradient(buffer, {{outerInset, outerInset, side, side}, {size / 2, size / 2}, size / 2},
+                 gradient.orientation(), GradientRamp{gradient.stops(), GradientRamp::Opacity::Drawn});
     return image;
 }
 

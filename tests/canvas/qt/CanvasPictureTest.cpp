@@ -46,13 +46,13 @@ TEST_P(CanvasPictureTest, showsStripFrameGuideAndMarkersOfEveryOrientation) {
     const QColor second{255, 153, 153};
     resetToDefaultGradient();
     GlobalData& data = GlobalData::sharedData();
-    data.setColorMarkerColor({Color::calibratedRGB(0.4, 0.6, 0.6), Color::calibratedRGB(1, 0.6, 0.6)});
-    data.setColorMarkerPos({0.25, 0.75});
+    data.gradient() =
+        Gradient{{{0.25, Color::calibratedRGB(0.4, 0.6, 0.6)}, {0.75, Color::calibratedRGB(1, 0.6, 0.6)}}};
     const QLineF ends[] = {
         {200, 21, 200, 118}, {21, 80, 418, 80}, {21, 21, 418, 118}, {418, 21, 21, 118}, {168, 60, 430, 100}};
     for (const std::int64_t orientation : {0, 1, 2, 3, 4}) {
         SCOPED_TRACE(orientation);
-        data.setOrientationType(orientation);
+        data.gradient().setOrientation(orientation);
         const QImage picture = painted(GetParam());
         EXPECT_EQ(at(picture, {2, 2}), orientation == orientation::radial ? second : controlColor) << "frame";
         EXPECT_EQ(at(picture, {ends[orientation].x1(), ends[orientation].y1()}), first);
@@ -69,7 +69,7 @@ TEST_P(CanvasPictureTest, showsStripFrameGuideAndMarkersOfEveryOrientation) {
 
 TEST_P(CanvasPictureTest, showsOpacityOnlyForNotationsThatCarryIt) {
     resetToDefaultGradient();
-    GlobalData::sharedData().setColorMarkerOpacity({0.0, 0.0});
+    GlobalData::sharedData().gradient() = Gradient{{{0.0, Color::black(), 0.0}, {1.0, Color::white(), 0.0}}};
     for (const std::int64_t code : {0, 1, 2, 3, 4}) {
         GlobalData::sharedData().setColorFormatType(code);
         EXPECT_EQ(at(painted(GetParam()), {25, 80}) == controlColor, code == 2 || code == 4) << code;

@@ -32,7 +32,12 @@ class CanvasViewTest : public testing::Test {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    static const Positions& positions() { return GlobalData::sharedData().colorMarkerPos(); }
+    static Gradient& gradient() { return GlobalData::sharedData().gradient(); }
+    static Positions positions() {
+        Positions all;
+        std::ranges::transform(gradient().stops(), std::back_inserter(all), &ColorStop::position);
+        return all;
+    }
 
     template <typename Control>
     Control& named(const char* name) {
@@ -112,7 +117,7 @@ TEST_F(CanvasViewTest, steppersAndListsAct) {
         EXPECT_EQ(text("Red"), shown);
     }
     QTest::keyClick(&named<QComboBox>("Orientation"), Qt::Key_Down);
-    EXPECT_EQ(GlobalData::sharedData().orientationType(), orientation::bottomToTop);
+    EXPECT_EQ(gradient().orientation(), orientation::bottomToTop);
     EXPECT_FALSE(named<ValueStepper>("Opacity stepper").isEnabled());
     QTest::keyClicks(&named<QComboBox>("Color notation"), QStringLiteral("HSLA"));
     EXPECT_EQ(GlobalData::sharedData().colorFormatType(), colorFormat::hsla);
@@ -130,14 +135,15 @@ TEST_F(CanvasViewTest, theWellReportsEachPickOfItsPanel) {
     EXPECT_EQ(colorPanel->currentColor(), Qt::white);
     colorPanel->setCurrentColor(Qt::blue);
     EXPECT_EQ(text("Blue"), "256");
-    auto& colors = GlobalData::sharedData().colorMarkerColor();
     const Color fine = Color::calibratedRGB(0.3001, 0, 0);
-    colors[0] = fine;
+    gradient().replace(0, {0.0, fine});
     canvas->pressAccessibleItem(0);
     EXPECT_EQ(colorPanel->currentColor().blue(), 0) << "the open panel follows the selection";
-    EXPECT_EQ(colors, (std::vector{fine, Color::calibratedRGB(0, 0, 1)})) << "and rounds nothing";
+    EXPECT_EQ(gradient(), (Gradient{{{0.0, fine}, {1.0, Color::calibratedRGB(0, 0, 1)}}}))
+        << "rounding nothing";
     well.setBackgroundColor(Color::withoutRGBForm()); // cannot be shown, and is announced as another
-    EXPECT_TRUE(colors[0].calibratedRGB() && colors[0] != fine);
+    const Color announced = gradient().stops()[0].color;
+    EXPECT_TRUE(announced.calibratedRGB() && announced != fine);
 }
 
 TEST_F(CanvasViewTest, assistiveToolsSeeTheStops) {
@@ -148,11 +154,11 @@ TEST_F(CanvasViewTest, assistiveToolsSeeTheStops) {
     EXPECT_EQ(stop->text(QAccessible::Description), QStringLiteral("Position 0.000, color #000000"));
     stop->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(stop->state().selected);
-    GlobalData::sharedData().colorMarkerPos() = {0.5, 0.5}; // the second marker lies under the first
+    gradient() = Gradient{{{0.5, Color::black()}, {0.5, Color::white()}}}; // the second lies under the first
     view->child(1)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
     canvas->findChild<QMenu*>()->actions().first()->trigger();
-    EXPECT_EQ(GlobalData::sharedData().colorMarkerColor(), std::vector{Color::black()});
-    GlobalData::sharedData().colorMarkerPos().clear();
+    EXPECT_EQ(gradient().stops(), (std::vector<ColorStop>{{0.5, Color::black()}}));
+    gradient() = {};
     EXPECT_TRUE(stop->state().invalid);
 }
 

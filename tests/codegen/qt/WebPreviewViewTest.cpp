@@ -136,14 +136,14 @@ TEST(PreviewModule, saysWhatIsWrongWithItsFile) {
     for (const auto& [file, failure] : {std::pair{"none.so", "none.so is missing"},
                                         {"text.so", "text.so is not of this program's version"},
                                         {"other.so", "other.so is not of this program's version"},
-                                        {"broken.so", "undefined symbol: _ZN7tessaly9isNowhereEv)"}}) {
+                                        {"broken.so", "undefined symbol: _ZN7tessaly9isNowhereEv"}}) {
         WebPreviewView view{QString::fromStdString((folder.path / file).native())};
         view.loadFile("/folder/index.html");
         view.show();
         const QLabel& notice = *view.findChild<QLabel*>();
         EXPECT_TRUE(eventually([&] { return notice.text().contains(QLatin1String{failure}); }));
         EXPECT_TRUE(notice.isVisible());
-        EXPECT_TRUE(log.messages.back().ends_with(failure)) << log.messages.back();
+        EXPECT_NE(log.messages.back().find(failure), std::string::npos) << log.messages.back();
         view.reload();
     }
 }

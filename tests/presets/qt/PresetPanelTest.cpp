@@ -27,7 +27,7 @@ class PresetPanelTest : public testing::Test {
     }
     void TearDown() override { panel.disconnectFromGallery(); }
 
-    std::int64_t orientationType() const { return GlobalData::sharedData().orientationType(); }
+    std::int64_t orientationType() const { return GlobalData::sharedData().gradient().orientation(); }
 
     const LogCapture log;
     PresetPanel panel;
@@ -38,7 +38,7 @@ class PresetPanelTest : public testing::Test {
 
 TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     for (const std::int64_t orientation : {0, 1, 2, 3, 4, 0}) {
-        GlobalData::sharedData().setOrientationType(orientation);
+        GlobalData::sharedData().gradient().setOrientation(orientation);
         QTest::mouseClick(panel.findChild<QPushButton*>(), Qt::LeftButton);
     }
     EXPECT_EQ(container.size(), QSize(263, 215));
@@ -51,7 +51,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     }
     EXPECT_EQ(orientationType(), 3);
     QTest::keyClick(&container, Qt::Key_Delete);
-    EXPECT_EQ(gallery.presetGradient()[3].orientationType, 4);
+    EXPECT_EQ(gallery.presetGradient()[3].gradient.orientation(), 4);
 
     QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&container);
     list->child(0)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
@@ -61,7 +61,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     popup->actions().first()->trigger();
     popup->hide();
     EXPECT_TRUE(log.has("mouseDown") && log.has("deletePresetGradientItem"));
-    EXPECT_EQ(gallery.presetGradient()[0].orientationType, 1);
+    EXPECT_EQ(gallery.presetGradient()[0].gradient.orientation(), 1);
     EXPECT_EQ(saved, 8);
 
     EXPECT_EQ(list->child(3)->text(QAccessible::Name), QStringLiteral("Preset 4"));
@@ -84,7 +84,8 @@ TEST_F(PresetPanelTest, theKeyboardScrollsThroughThousandsAndAClickDoesNotScroll
 }
 
 TEST(PresetGradienView, drawsTheGradientInTwoLines) {
-    const std::vector<Color> colors{Color::black(), Color::calibratedRGB(1, 0, 0)};
+    const ColorStop black{0.0, Color::black()}, red{1.0, Color::calibratedRGB(1, 0, 0)},
+        faint{1.0, Color::calibratedRGB(1, 0, 0), 0.5};
     for (const double ratio : {1.0, 2.0}) {
         const auto colorAt = [&](const Preset& preset, double x, double y) {
             QImage image(QSize{60, 60} * ratio, QImage::Format_ARGB32_Premultiplied);
@@ -94,8 +95,8 @@ TEST(PresetGradienView, drawsTheGradientInTwoLines) {
             PresetGradienView{preset}.drawRect(painter, {10, 10});
             return image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
         };
-        const Preset radial{{0.0, 1.0}, colors, {1.0, 1.0}, 4};
-        const Preset rising{{0.0, 1.0}, colors, {1.0, 0.5}, 0};
+        const Preset radial{Gradient{{black, red}, orientation::radial}};
+        const Preset rising{Gradient{{black, faint}, orientation::bottomToTop}};
         EXPECT_LT(colorAt(radial, 30, 30).red(), 12) << "black in the middle";
         EXPECT_EQ(colorAt(radial, 15, 15), QColor(Qt::red)) << "the last colour in the corners";
         EXPECT_LT(colorAt(rising, 30, 46).red(), 20) << "black at the bottom";

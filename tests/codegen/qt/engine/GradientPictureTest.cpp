@@ -1,10 +1,10 @@
 // What a real browser engine makes of the generated code.
 
-#include "canvas/CanvasScene.h"
-#include "canvas/GradientRaster.h"
 #include "codegen/DeclarationText.h"
+#include "model/ColorFormat.h"
+#include "model/Gradient.h"
+#include "raster/GradientRaster.h"
 #include "support/Eventually.h"
-#include "support/Gradients.h"
 
 #include <QImage>
 #include <QSignalSpy>
@@ -20,10 +20,12 @@ constexpr int width = 400;
 constexpr int height = 236;
 
 // Linear as the canvas paints it; radial as the code has it, an ellipse that ends in the corners.
-std::vector<std::uint32_t> expectedPixels(const GlobalData& gradient) {
+std::vector<std::uint32_t> expectedPixels(const Gradient& gradient, std::int64_t notation) {
     std::vector<std::uint32_t> pixels(width * height);
-    const GradientRamp ramp{CanvasScene::drawnStops(gradient), {1, 1, 1, 1}};
-    if (gradient.orientationType() == orientation::radial) {
+    const auto opacity =
+        colorFormat::carriesOpacity(notation) ? GradientRamp::Opacity::Drawn : GradientRamp::Opacity::Ignored;
+    const GradientRamp ramp{gradient.stops(), opacity, {1, 1, 1, 1}};
+    if (gradient.orientation() == orientation::radial) {
         for (int i = 0; i < width * height; ++i) {
             const double x = (i % width + 0.5) / width - 0.5;
             const double y = (i / width + 0.5) / height - 0.5;
@@ -31,7 +33,7 @@ std::vector<std::uint32_t> expectedPixels(const GlobalData& gradient) {
         }
     } else {
         fillLinear({pixels, width, height, 1.0, height}, {0, 0, width, height},
-                   gradientDirection(gradient.orientationType()), ramp);
+                   gradientDirection(gradient.orientation()), ramp);
     }
     return pixels;
 }
@@ -40,22 +42,20 @@ TEST(Browser, paintsEveryOrientationAndNotationAsTheCanvasDoes) {
     QWebEngineView view;
     view.resize(width, height);
     view.show();
-    GlobalData gradient;
-    gradient.setColorMarkerPos({0.1, 0.25, 0.6, 0.999});
-    gradient.setColorMarkerColor({Color::calibratedRGB(1.0, 0.2, 0.0), Color::white(), Color::black(),
-                                  Color::calibratedRGB(0.0, 0.4, 0.8)});
-    gradient.setColorMarkerOpacity({1.0, 0.5, 0.2, 0.8});
+    Gradient gradient{{{0.1, Color::calibratedRGB(1.0, 0.2, 0.0)},
+                       {0.25, Color::white(), 0.5},
+                       {0.6, Color::black(), 0.2},
+                       {0.999, Color::calibratedRGB(0.0, 0.4, 0.8), 0.8}}};
     const std::int64_t notations = std::ssize(colorFormat::notations);
     for (std::int64_t i = 0; i < 5 * notations; ++i) {
-        gradient.setColorFormatType(i % notations);
-        gradient.setOrientationType(i / notations);
-        const std::string declaration = declarationText(Declaration::Standard, gradient);
+        gradient.setOrientation(i / notations);
+        const std::string declaration = declarationText(Declaration::Standard, gradient, i % notations);
         QSignalSpy loaded{&view, &QWebEngineView::loadFinished};
         view.setHtml(QStringLiteral("<style>html{overflow:hidden}body{margin:0;background:white}"
                                     "div{height:236px;%1}</style><div></div>")
                          .arg(QString::fromStdString(declaration)));
         ASSERT_TRUE(loaded.wait(20'000));
-        const std::vector<std::uint32_t> expected = expectedPixels(gradient);
+        const std::vector<std::uint32_t> expected = expectedPixels(gradient, i % notations);
         const auto levelsOff = [&] {
             const QImage picture = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
             const auto* const bytes = reinterpret_cast<const uchar*>(expected.data());

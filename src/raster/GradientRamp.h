@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Color.h"
+#include "model/ColorStop.h"
 
 #include <array>
 #include <cstdint>
@@ -9,23 +9,18 @@
 
 namespace tessaly {
 
-/// A stop as it is drawn: its colour's alpha is the opacity.
-struct GradientStop {
-    double position = 0.0; ///< 0.0 ... 1.0
-    Color color;
-
-    bool operator==(const GradientStop&) const = default;
-};
-
 /// The colours along a gradient, resolved as a browser resolves them: stops in the given order, one whose
 /// position lies below an earlier one's drawn at that earlier one, equal positions a hard edge, extended at
 /// both ends, interpolated premultiplied. A colour without RGB form is transparent.
 class GradientRamp {
   public:
+    /// Whether the stops are drawn with their opacity or as their colours are.
+    enum class Opacity { Drawn, Ignored };
+
     /// The gradient lies over `backdrop`; a transparent one leaves it as it is. There must be at least one
     /// stop.
-    explicit GradientRamp(std::span<const GradientStop> stops,
-                          const RGBAComponents& backdrop = {0.0, 0.0, 0.0, 0.0});
+    GradientRamp(std::span<const ColorStop> stops, Opacity opacity,
+                 const RGBAComponents& backdrop = {0.0, 0.0, 0.0, 0.0});
 
     /// The colour at `t` as 0xAARRGGBB, premultiplied, every channel rounded.
     std::uint32_t pixelAt(double t) const { return segmentAt(t).pixelAt(t); }

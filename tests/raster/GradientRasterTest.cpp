@@ -1,4 +1,6 @@
-#include "canvas/GradientRaster.h"
+#include "raster/GradientRaster.h"
+
+#include "model/Orientation.h"
 
 #include <cmath>
 #include <functional>
@@ -8,15 +10,17 @@
 namespace tessaly {
 namespace {
 
-using Stops = std::vector<GradientStop>;
+using Stops = std::vector<ColorStop>;
+using Opacity = GradientRamp::Opacity;
 using PositionAt = std::function<std::optional<double>(Point)>;
 using Channels = std::array<double, 4>; // alpha, red, green, blue
 
 constexpr RGBAComponents lightGrey{0.9, 0.9, 0.9, 1.0};
 constexpr RGBAComponents transparent{0.0, 0.0, 0.0, 0.0};
 
-Channels premultiplied(const Color& color, const RGBAComponents& backdrop) {
-    const auto [red, green, blue, alpha] = color.calibratedRGB().value_or(transparent);
+Channels premultiplied(const ColorStop& stop, const RGBAComponents& backdrop) {
+    const auto [red, green, blue, alpha] =
+        stop.color.withAlpha(stop.opacity).calibratedRGB().value_or(transparent);
     const double under = (1 - alpha) * backdrop.alpha;
     return {255 * (alpha + under), 255 * (alpha * red + under * backdrop.red),
             255 * (alpha * green + under * backdrop.green), 255 * (alpha * blue + under * backdrop.blue)};
@@ -25,10 +29,10 @@ Channels premultiplied(const Color& color, const RGBAComponents& backdrop) {
 // The plain reading of what a browser does.
 Channels expectedAt(const Stops& stops, const RGBAComponents& backdrop, double t) {
     double start = stops.front().position;
-    Channels from = premultiplied(stops.front().color, backdrop);
-    for (const GradientStop& stop : stops) {
+    Channels from = premultiplied(stops.front(), backdrop);
+    for (const ColorStop& stop : stops) {
         const double end = std::max(start, stop.position);
-        const Channels to = premultiplied(stop.color, backdrop);
+        const Channels to = premultiplied(stop, backdrop);
         if (t < end) {
             const double weight = t > start ? (t - start) / (end - start) : 0; // none before the first stop
             for (std::size_t i = 0; i < from.size(); ++i) {
@@ -58,21 +62,21 @@ void expectExact(const PixelBuffer& buffer, const Stops& stops, const RGBACompon
 }
 
 void fillAndCompare(const PixelBuffer& buffer, const Stops& stops, const RGBAComponents& backdrop) {
-    const GradientRamp ramp{stops, backdrop};
+    const GradientRamp ramp{stops, Opacity::Drawn, backdrop};
     const Rect box{7.3, -2, 60, 30.1}; // within the picture on two sides, and beyond it on two
     for (const auto [code, dx, dy] : {std::array{0, 0, 1}, {1, 1, 0}, {2, 1, 1}, {3, -1, 1}, {8, 1, 0}}) {
         SCOPED_TRACE(code);
         const auto way = [x = dx, y = dy](Point p) { return x * p.x + y * p.y; };
         const double length = way({dx * box.width, dy * box.height});
         std::ranges::fill(buffer.pixels, 7U);
-        fillLinear(buffer, box, gradientDirection(code), ramp);
+        fillGradient(buffer, {box, {}, 1}, code, ramp);
         expectExact(buffer, stops, backdrop, [&](Point p) {
             const double t = (way(p) - way(box.center())) / length + 0.5;
             return box.contains(p) ? std::optional{t} : std::nullopt;
         });
     }
     for (const Point center : {Point{30, 10}, Point{29.7, 20.2}}) { // the second is symmetric to no pixel
-        fillRadial(buffer, center, 20, ramp);
+        fillGradient(buffer, {box, center, 20}, orientation::radial, ramp);
         expectExact(buffer, stops, backdrop,
                     [&](Point p) { return std::hypot(p.x - center.x, p.y - center.y) / 20; });
     }
@@ -88,7 +92,7 @@ TEST(GradientRaster, isExactToTheRoundingAtEveryPixel) {
         for (const std::size_t count : {1U, 2U, 4U, 20U}) {
             Stops stops(count, {fraction(), Color::withoutRGBForm()}); // hard edges
             for (std::size_t i = 0; i < count; i += 2) {
-                stops[i] = {fraction(), Color::calibratedRGB(fraction(), fraction(), fraction(), fraction())};
+                stops[i] = {fraction(), Color::calibratedRGB(fraction(), fraction(), fraction()), fraction()};
             }
             fillAndCompare({pixels, columns, rows, scale, 41}, stops, count == 4 ? transparent : lightGrey);
         }
@@ -96,10 +100,11 @@ TEST(GradientRaster, isExactToTheRoundingAtEveryPixel) {
 }
 
 TEST(GradientRamp, takesAnyPosition) {
-    const Stops stops{
-        {-HUGE_VAL, Color::black()}, {std::nan(""), Color::white()}, {HUGE_VAL, Color::white()}};
+    const Stops stops{{-HUGE_VAL, Color::black(), 0.0},
+                      {std::nan(""), Color::white(), 0.0},
+                      {HUGE_VAL, Color::white(), 0.0}};
     for (const double t : {-1e9, 0.0, 1.0, 1e9}) {
-        EXPECT_EQ(GradientRamp{stops}.pixelAt(t), t < 0 ? 0xFF000000U : 0xFFFFFFFFU) << t;
+        EXPECT_EQ((GradientRamp{stops, Opacity::Ignored}.pixelAt(t)), t < 0 ? 0xFF000000U : 0xFFFFFFFFU) << t;
     }
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "canvas/GradientRamp.h"
-#include "canvas/PixelBuffer.h"
 #include "foundation/Geometry.h"
+#include "raster/GradientRamp.h"
+#include "raster/PixelBuffer.h"
 
 #include <cstdint>
 
@@ -27,5 +27,16 @@ void fillLinear(const PixelBuffer& buffer, const Rect& box, GradientDirection di
 
 /// Fills the whole buffer: position 0 at `center`, position 1 at `radius` points around it.
 void fillRadial(const PixelBuffer& buffer, Point center, double radius, const GradientRamp& ramp);
+
+/// Where a gradient lies in a picture, in points.
+struct GradientPlace {
+    Rect box;     ///< of a linear one
+    Point center; ///< of a radial one
+    double radius;
+};
+
+/// Fills the buffer as the orientation code says.
+void fillGradient(const PixelBuffer& buffer, const GradientPlace& place, std::int64_t orientation,
+                  const GradientRamp& ramp);
 
 } // namespace tessaly

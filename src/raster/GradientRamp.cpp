@@ -1,4 +1,4 @@
-#include "canvas/GradientRamp.h"
+#include "raster/GradientRamp.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,17 +24,22 @@ Channels channelsOf(const Color& color, const RGBAComponents& backdrop) {
 
 } // namespace
 
-GradientRamp::GradientRamp(std::span<const GradientStop> stops, const RGBAComponents& backdrop) {
+GradientRamp::GradientRamp(std::span<const ColorStop> stops, Opacity opacity,
+                           const RGBAComponents& backdrop) {
     constexpr Channels constant{};
     const auto inReach = [](double position) {
         return std::isnan(position) ? 0.0 : std::clamp(position, -farAway, farAway);
     };
+    const auto drawn = [&](const ColorStop& stop) {
+        return channelsOf(opacity == Opacity::Drawn ? stop.color.withAlpha(stop.opacity) : stop.color,
+                          backdrop);
+    };
     double end = inReach(stops.front().position);
-    Channels color = channelsOf(stops.front().color, backdrop);
+    Channels color = drawn(stops.front());
     segments_.push_back({end, end, color, constant}); // all before the first stop
-    for (const GradientStop& stop : stops) {
+    for (const ColorStop& stop : stops) {
         const double position = std::max(inReach(stop.position), end);
-        const Channels next = channelsOf(stop.color, backdrop);
+        const Channels next = drawn(stop);
         if (position > end) {
             Segment segment{end, position, color, constant};
             for (std::size_t i = 0; i < color.size(); ++i) {

@@ -1,4 +1,4 @@
-#include "canvas/GradientRaster.h"
+#include "raster/GradientRaster.h"
 
 #include "model/Orientation.h"
 
@@ -119,6 +119,15 @@ void fillRadial(const PixelBuffer& buffer, Point center, double radius, const Gr
             fillOutwards(side, left, step, y, ramp);
         }
         std::reverse_copy(side.begin(), side.begin() + middle, pixels.begin());
+    }
+}
+
+void fillGradient(const PixelBuffer& buffer, const GradientPlace& place, std::int64_t orientation,
+                  const GradientRamp& ramp) {
+    if (orientation == orientation::radial) {
+        fillRadial(buffer, place.center, place.radius, ramp);
+    } else {
+        fillLinear(buffer, place.box, gradientDirection(orientation), ramp);
     }
 }
 
