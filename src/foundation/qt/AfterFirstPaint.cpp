@@ -1,7 +1,6 @@
 #include "foundation/qt/AfterFirstPaint.h"
 
 #include <QEvent>
-#include <QTimer>
 #include <QWidget>
 #include <utility>
 
@@ -17,12 +16,16 @@ class PaintWatch : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Paint) {
             watched->removeEventFilter(this);
-            QTimer::singleShot(0, this, [this] { // by then the picture is with the display
-                task_();
-                deleteLater();
-            });
+            startTimer(0); // by then the picture is with the display
         }
         return false;
+    }
+
+  protected:
+    void timerEvent(QTimerEvent* event) override {
+        killTimer(event->timerId());
+        task_();
+        deleteLater();
     }
 
   private:
