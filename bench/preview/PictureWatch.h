@@ -42,8 +42,8 @@ class PictureWatch {
         if (image == nullptr || image->isNull()) {
             return {};
         }
-        const QPoint start = part_.mapTo(&window_, QPoint{20, 100});
-        const uchar* const pixels = image->constScanLine(start.y()) + start.x() * 4;
+        const QPoint corner = part_.mapTo(&window_, QPoint{20, 100});
+        const uchar* const pixels = image->constScanLine(corner.y()) + corner.x() * 4;
         return {pixels, pixels + (part_.width() - 40) * 4};
     }
 

@@ -50,7 +50,7 @@ bool wait(
     return false;
 }
 
-bool measureFirstPicture(MainWindow& window, PictureWatch& watch) {
+bool measureFirstPicture(const MainWindow& window, PictureWatch& watch) {
     wait(500ms);
     const Clock::time_point click = Clock::now();
     window.mainTabView().setSelectIndex(2);

@@ -25,18 +25,18 @@ std::optional<PreviewFolder> PreviewFolder::create(const std::filesystem::path& 
     }
     // Making a folder fails where anything of that name exists, which is the test and the claim in one step.
     for (int number = 0;; ++number) {
-        std::filesystem::path path = temporaryDirectory / ("WebFolder" + std::to_string(number));
-        if (::mkdir(path.c_str(), S_IRWXU) == 0) {
-            Descriptor folder{::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
+        std::filesystem::path place = temporaryDirectory / ("WebFolder" + std::to_string(number));
+        if (::mkdir(place.c_str(), S_IRWXU) == 0) {
+            Descriptor folder{::open(place.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
             if (folder) {
-                return PreviewFolder{std::move(path), std::move(folder)};
+                return PreviewFolder{std::move(place), std::move(folder)};
             }
             const int error = errno;
-            ::rmdir(path.c_str());
+            ::rmdir(place.c_str());
             errno = error;
         }
         if (errno != EEXIST) {
-            logFailure("No preview folder", path, {errno, std::generic_category()});
+            logFailure("No preview folder", place, {errno, std::generic_category()});
             return std::nullopt;
         }
     }

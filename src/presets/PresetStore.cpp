@@ -5,6 +5,7 @@
 #include "presets/PrivateFile.h"
 #include "presets/SqliteStatement.h"
 
+#include <algorithm>
 #include <sqlite3.h>
 #include <utility>
 
@@ -143,10 +144,11 @@ void PresetStore::insertAllPresets() {
         // the list that keeps the two equal.
         insertMainData(static_cast<std::int32_t>(presets[i].index),
                        static_cast<std::int32_t>(presets[i].gradient.orientation()));
-        for (const ColorStop& stop : presets[i].gradient.stops()) {
-            if (!insertStop(static_cast<std::int32_t>(i), stop)) {
-                return;
-            }
+        const bool allInserted = std::ranges::all_of(presets[i].gradient.stops(), [&](const ColorStop& stop) {
+            return insertStop(static_cast<std::int32_t>(i), stop);
+        });
+        if (!allInserted) {
+            return;
         }
     }
 }
