@@ -141,7 +141,8 @@ TEST(PreviewModule, saysWhatIsWrongWithItsFile) {
         view.loadFile("/folder/index.html");
         view.show();
         const QLabel& notice = *view.findChild<QLabel*>();
-        EXPECT_TRUE(eventually([&] { return notice.text().contains(QLatin1String{failure}); }));
+        EXPECT_TRUE(
+            eventually([&, wanted = QLatin1String{failure}] { return notice.text().contains(wanted); }));
         EXPECT_TRUE(notice.isVisible());
         EXPECT_NE(log.messages.back().find(failure), std::string::npos) << log.messages.back();
         view.reload();
