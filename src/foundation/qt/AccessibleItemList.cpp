@@ -6,7 +6,10 @@
 namespace tessaly {
 namespace {
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
+    if (!className.startsWith(QLatin1String{"tessaly::"})) {
+        return nullptr; // the browser engine's objects are asked for too, and do not know their own types
+    }
     auto* const items = dynamic_cast<AccessibleItems*>(object);
     return items != nullptr ? new AccessibleItemList{*static_cast<QWidget*>(object), *items} : nullptr;
 }
