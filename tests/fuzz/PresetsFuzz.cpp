@@ -38,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<Preset> saved = program->presets();
     program.reset();
     for (Preset& preset : saved) {
-        preset.orientationType = static_cast<std::int32_t>(preset.orientationType); // as it is stored
+        preset.gradient.setOrientation(static_cast<std::int32_t>(preset.gradient.orientation())); // as stored
     }
     require(PresetProgram{support.path}.presets() == saved, "a save brings the list back after a restart");
     const auto tables =
