@@ -1,96 +1,60 @@
 #pragma once
 
-#include "presets/FolderLock.h"
-#include "presets/PresetSafetyCopy.h"
+#include "presets/PresetFile.h"
 #include "presets/SqliteConnection.h"
 
-#include <cstdint>
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string>
 
 namespace tessaly {
 
-/// The preset database's file, and all that keeps the presets in it safe while each save deletes and rewrites
-/// them in many single commits: a write-ahead log makes the commits cheap, a safety copy guards them, and
-/// nothing that was not read to the end is overwritten before it was set aside.
-///
-/// A crash at any moment leaves the list before the save or the list after it. As long as the safety copy
-/// stands, it is what counts, whatever the database holds; it goes when the database is complete on the disk.
+/// The database of the presets: all work on it is done in memory, and a save that went well replaces the
+/// file.
 class PresetDatabase {
   public:
     explicit PresetDatabase(std::filesystem::path folder);
-    PresetDatabase(const PresetDatabase&) = delete;
-    PresetDatabase& operator=(const PresetDatabase&) = delete;
-    ~PresetDatabase() { close(); }
 
     const std::filesystem::path& folder() const { return folder_; }
-    const std::filesystem::path& file() const { return file_; }
+    const std::filesystem::path& file() const { return file_.path(); }
 
-    /// Opens the file, makes it when it is missing, and brings back what an unfinished save left. False:
-    /// there is no database, and every operation on it fails.
-    bool open();
+    /// Takes the file into memory. Waits so long where another program keeps it locked. False: it cannot be
+    /// opened.
+    bool open(std::chrono::milliseconds patience = {});
 
-    /// Leaves a plain file without a log beside it, where nobody else uses it: one that can be read from a
-    /// read-only folder and copied by itself.
-    void close();
+    void close() { memory_ = {}; }
 
-    const SqliteConnection& connection() const { return connection_; }
+    /// Not open when the file could not be read; then every operation fails.
+    const SqliteConnection& connection() const { return memory_; }
 
-    /// What the presets are read from: the database, or the safety copy while that could not be restored.
-    const SqliteConnection& reader() const { return copyReader_.isOpen() ? copyReader_ : connection_; }
+    /// The file was never read, for reasons that may pass: a lock, or too many open files. It is to be read
+    /// before anything is saved.
+    bool isUnread() const { return unread_; }
+
+    /// Replaces the file by what is in memory, which has all that the file has. On failure logs why.
+    bool write();
 
     /// Stand around the reading of all presets. `complete`: every row was read.
     void beginReading();
     void endReading(bool complete);
 
-    /// Stand around the statements of a save. When the stored presets cannot be guarded (no room for the
-    /// copy, another copy of the program at work, a lock), the log tells why and each of the statements will
-    /// fail and change nothing.
-    void beginSave();
-
-    /// Within a save: the database had to be emptied, or is a new one, and its tables must be made first.
-    bool lacksTables() const { return save_ && save_->emptied; }
-
-    /// `complete`: every statement succeeded.
+    /// Stand around the statements of a save; `complete`: every one succeeded. The first answers true when
+    /// the tables must be made first: what could not be read to the end, or is damaged, is not saved to.
+    bool beginSave();
     void endSave(bool complete);
 
+    /// The last save failed; the list is to be saved once more before the program ends.
+    bool isUnsaved() const { return unsaved_; }
+
   private:
-    struct Save {
-        explicit Save(const std::filesystem::path& folder) : lock{folder} {}
-
-        FolderLock lock;
-        bool refused = false;
-        bool madeCopy = false;
-        bool emptied = false;
-        std::int64_t changesBefore = 0;
-    };
-
-    void connect();
-    void configure() const;
-    void restore();
-    SqliteResult copyBack(const SqliteConnection& copy);
-    bool setFileAside();
-    bool startAnew();
-    bool empty();
-    bool isAsKnown() const;
-    std::optional<std::string> version() const;
-    bool emptyLog() const;
-    bool makeDurable() const;
-    std::optional<std::string> prepareSave(); ///< none, or why nothing must be written
-    void afterFailedSave();
-    void endGuard(); ///< the database alone is complete and on the disk
-
     std::filesystem::path folder_;
-    std::filesystem::path file_;
-    PresetSafetyCopy copy_;
-    SqliteConnection connection_;
-    SqliteConnection copyReader_;
-    bool savedButNotDurable_ = false;
-    bool allKnown_ = false; ///< the list in memory has all that is stored
-    bool hasTables_ = true; ///< false from when the database was emptied until a save makes them anew
-    std::optional<std::string> knownVersion_; ///< of the database that `allKnown_` is about
-    std::optional<Save> save_;
+    PresetFile file_;
+    SqliteConnection memory_;
+    bool unread_ = true;
+    bool usable_ = false;  ///< the list has all that is stored, and can be stored there again
+    bool checked_ = false; ///< for damage in pages that the reading did not meet
+    bool unsaved_ = false;
 };
 
 } // namespace tessaly

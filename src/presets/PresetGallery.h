@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace tessaly {
@@ -29,6 +30,7 @@ class PresetGallery : public PresetList {
     void observeNotifications();
 
     const std::vector<Preset>& presetGradient() const override { return presetGradient_; }
+    std::vector<Preset> takePresets() override { return std::exchange(presetGradient_, {}); }
     void setGradientIndex(std::int64_t index) override { gradientIndex_ = index; }
 
     /// The `index` of the next preset.

@@ -15,6 +15,9 @@ class PresetList {
     /// In the order shown and saved.
     virtual const std::vector<Preset>& presetGradient() const = 0;
 
+    /// Empties the list.
+    virtual std::vector<Preset> takePresets() = 0;
+
     /// The `index` to give the next preset.
     virtual void setGradientIndex(std::int64_t index) = 0;
 

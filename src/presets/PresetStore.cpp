@@ -15,6 +15,15 @@ namespace {
 const std::string mainTable = presetTable::main;
 const std::string additionalTable = presetTable::additional;
 
+const std::string stopsQuery =
+    "select position, red, green, blue, opacity from " + additionalTable + " where mainIndex=";
+const std::string insertMainRow = "insert into " + mainTable + " (mainIndex, orientationType) VALUES (?, ?);";
+const std::string insertStopRow =
+    "insert into " + additionalTable +
+    " (mainIndex, position, red, green, blue, opacity) VALUES (?, ?, ?, ?, ?, ?);";
+
+constexpr std::chrono::seconds lockPatience{2}; // at the start, when no window waits for an answer
+
 void logStatement(const std::string& sql) {
     DiagnosticLog::write("sql: " + sql);
 }
@@ -32,7 +41,7 @@ bool PresetStore::openDB() {
         DiagnosticLog::write("Error: Create folder failed " + folder.native());
     }
     DiagnosticLog::write("userpath: " + database_.file().native());
-    if (!database_.open()) {
+    if (!database_.open(lockPatience)) {
         return false;
     }
     DiagnosticLog::write("Success!");
@@ -40,16 +49,30 @@ bool PresetStore::openDB() {
 }
 
 void PresetStore::closeDB() {
+    if (database_.isUnsaved()) {
+        insertData();
+    }
     database_.close();
 }
 
 void PresetStore::openWithTables() {
     openDB();
+    makeMissingTables();
+}
+
+void PresetStore::makeMissingTables() {
+    complete_ = true;
+    bool made = false;
     if (!isTableExists(mainTable)) {
         createMainTable();
+        made = true;
     }
     if (!isTableExists(additionalTable)) {
         createAdditionalTable();
+        made = true;
+    }
+    if (made && complete_) {
+        database_.write();
     }
 }
 
@@ -89,39 +112,60 @@ void PresetStore::readMainData() {
     logStatement(sql);
     std::vector<MainRow> rows;
     {
-        SqliteStatement statement = SqliteStatement::prepareFirstGeneration(database_.reader(), sql);
+        SqliteStatement statement = SqliteStatement::prepareFirstGeneration(database_.connection(), sql);
         int result = statement.step();
         presets_.setGradientIndex(0);
         for (; result == SQLITE_ROW; result = statement.step()) {
             rows.push_back({statement.integer(0), statement.integer(1)});
         }
         complete_ = result == SQLITE_DONE;
+        if (result == SQLITE_INTERRUPT) { // a view that never ends
+            rows.clear();
+        }
     }
-    // The stops' table has no index on the main index, so a query for each preset scans the whole table each
-    // time: some ten seconds for 10,000 presets. One scan finds the same rows in the same order.
-    allStops_.emplace(database_.reader());
+    SqliteStatement query = SqliteStatement::prepareFirstGeneration(database_.connection(), stopsQuery + '?');
     for (const MainRow& row : rows) {
         DiagnosticLog::write("mainIndex: " + std::to_string(row.mainIndex));
-        readAdditionalData(row.mainIndex, row.orientationType);
+        readAdditionalData(query, row.mainIndex, row.orientationType);
     }
-    complete_ = complete_ && allStops_->isComplete();
-    allStops_.reset();
     database_.endReading(complete_);
 }
 
-void PresetStore::readAdditionalData(std::int64_t mainIndex, std::int64_t orientationType) {
-    const std::string sql = "select position, red, green, blue, opacity from " + additionalTable +
-                            " where mainIndex=" + std::to_string(mainIndex);
-    logStatement(sql);
-    std::vector<ColorStop> stops =
-        allStops_ ? allStops_->of(mainIndex) : StoredStops{database_.reader()}.of(mainIndex);
+void PresetStore::readAdditionalData(SqliteStatement& query, std::int64_t mainIndex,
+                                     std::int64_t orientationType) {
+    logStatement(stopsQuery + std::to_string(mainIndex));
+    query.bind(1, mainIndex);
+    std::vector<ColorStop> stops;
+    int result = query.step();
+    for (; result == SQLITE_ROW; result = query.step()) {
+        stops.push_back({query.real(0), Color::calibratedRGB(query.real(1), query.real(2), query.real(3)),
+                         query.real(4)});
+    }
+    query.reset();
+    complete_ = complete_ && result == SQLITE_DONE;
     presets_.addGradientIntoPreset(Gradient{std::move(stops), orientationType});
 }
 
+// The presets of this run stand behind those that were stored all along.
+void PresetStore::readBeforeSaving() {
+    if (database_.open()) {
+        makeMissingTables();
+    }
+    if (!database_.isUnread()) {
+        const std::vector<Preset> added = presets_.takePresets();
+        readData();
+        for (const Preset& preset : added) {
+            presets_.addGradientIntoPreset(preset.gradient);
+        }
+    }
+}
+
 void PresetStore::insertData() {
-    database_.beginSave();
+    if (database_.isUnread()) {
+        readBeforeSaving();
+    }
     complete_ = true;
-    if (database_.lacksTables()) {
+    if (database_.beginSave()) {
         createMainTable();
         createAdditionalTable();
     }
@@ -138,14 +182,16 @@ void PresetStore::emptyTable(const std::string& table) {
 }
 
 void PresetStore::insertAllPresets() {
+    SqliteStatement mainRow = SqliteStatement::prepare(database_.connection(), insertMainRow);
+    SqliteStatement stopRow = SqliteStatement::prepare(database_.connection(), insertStopRow);
     const std::vector<Preset>& presets = presets_.presetGradient();
     for (std::size_t i = 0; i < presets.size(); ++i) {
         // The main row takes the preset's own index and the stops its place in the list, deliberately: it is
         // the list that keeps the two equal.
-        insertMainData(static_cast<std::int32_t>(presets[i].index),
+        insertMainData(mainRow, static_cast<std::int32_t>(presets[i].index),
                        static_cast<std::int32_t>(presets[i].gradient.orientation()));
         const bool allInserted = std::ranges::all_of(presets[i].gradient.stops(), [&](const ColorStop& stop) {
-            return insertStop(static_cast<std::int32_t>(i), stop);
+            return insertStop(stopRow, static_cast<std::int32_t>(i), stop);
         });
         if (!allInserted) {
             return;
@@ -153,38 +199,32 @@ void PresetStore::insertAllPresets() {
     }
 }
 
-void PresetStore::insertMainData(std::int32_t mainIndex, std::int32_t orientationType) {
-    const std::string sql = "insert into " + mainTable + " (mainIndex, orientationType) VALUES (?, ?);";
-    logStatement(sql);
-    SqliteStatement statement = SqliteStatement::prepare(database_.connection(), sql);
-    statement.bind(1, mainIndex);
-    statement.bind(2, orientationType);
-    if (statement.step() != SQLITE_DONE) {
-        insertFailed();
-    }
+void PresetStore::insertMainData(SqliteStatement& row, std::int32_t mainIndex, std::int32_t orientationType) {
+    logStatement(insertMainRow);
+    row.bind(1, std::int64_t{mainIndex});
+    row.bind(2, std::int64_t{orientationType});
+    insert(row);
 }
 
-bool PresetStore::insertStop(std::int32_t mainIndex, const ColorStop& stop) {
-    const std::string sql = "insert into " + additionalTable +
-                            " (mainIndex, position, red, green, blue, opacity) VALUES (?, ?, ?, ?, ?, ?);";
-    logStatement(sql);
-    SqliteStatement statement = SqliteStatement::prepare(database_.connection(), sql);
+bool PresetStore::insertStop(SqliteStatement& row, std::int32_t mainIndex, const ColorStop& stop) {
+    logStatement(insertStopRow);
     const RGBAComponents color = stop.color.calibratedRGB().value_or(RGBAComponents{});
-    statement.bind(1, mainIndex);
+    row.bind(1, std::int64_t{mainIndex});
     int parameter = 2;
     for (const double value : {stop.position, color.red, color.green, color.blue, stop.opacity}) {
-        statement.bind(parameter++, value);
+        row.bind(parameter++, value);
     }
-    if (statement.step() != SQLITE_DONE) {
-        insertFailed();
-        return false;
-    }
-    return true;
+    return insert(row);
 }
 
-void PresetStore::insertFailed() {
-    DiagnosticLog::write("Error while inserting: " + database_.connection().errorText());
-    complete_ = false;
+bool PresetStore::insert(SqliteStatement& row) {
+    const bool done = row.step() == SQLITE_DONE;
+    if (!done) {
+        DiagnosticLog::write("Error while inserting: " + database_.connection().errorText());
+        complete_ = false;
+    }
+    row.reset();
+    return done;
 }
 
 bool PresetStore::executeSQL(const std::string& statement) {

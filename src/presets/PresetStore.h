@@ -2,19 +2,19 @@
 
 #include "presets/PresetDatabase.h"
 #include "presets/PresetList.h"
-#include "presets/StoredStops.h"
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace tessaly {
 
+class SqliteStatement;
+
 /// Keeps the presets between runs. Reads them once; every save empties both tables and writes the whole list
-/// again, each statement a commit of its own. Failures go to the log alone, and the program works on with the
-/// list in memory. Main thread only.
+/// again, in memory, and then puts that in the file's place. Failures go to the log alone, and the program
+/// works on with the list that it has. Main thread only.
 class PresetStore {
   public:
     /// The database lies in the folder "Tessaly" of `applicationSupport`, the user's folder for data of
@@ -22,11 +22,13 @@ class PresetStore {
     PresetStore(PresetList& presets, const std::filesystem::path& applicationSupport);
     PresetStore(const PresetStore&) = delete;
     PresetStore& operator=(const PresetStore&) = delete;
-    ~PresetStore() = default;
+    ~PresetStore() { closeDB(); }
 
-    /// Makes what is missing of folder and file and brings back what an unfinished save left. False: there is
-    /// no database, and every other operation fails and does no harm.
+    /// Makes what is missing of folder and file and takes the file into memory. False: it cannot be opened,
+    /// and every other operation fails and does no harm.
     bool openDB();
+
+    /// Saves once more what the last save could not.
     void closeDB();
 
     /// Opens the database and makes the tables that it lacks.
@@ -38,15 +40,12 @@ class PresetStore {
     void createMainTable();
     void createAdditionalTable();
 
-    /// Hands every stored preset to the list. One that cannot be read to the end is never overwritten before
-    /// it was set aside.
+    /// Hands every stored preset to the list.
     void readData();
     void readMainData();
-    void readAdditionalData(std::int64_t mainIndex, std::int64_t orientationType);
 
-    /// Saves the whole list. A save that fails half-way leaves what was stored before to the next start.
+    /// Saves the whole list. After a save that fails the file has the list from before it.
     void insertData();
-    void insertMainData(std::int32_t mainIndex, std::int32_t orientationType);
 
     /// True on success, and deliberately also on a failure that comes without a message.
     bool executeSQL(const std::string& statement);
@@ -61,17 +60,20 @@ class PresetStore {
     const std::string& LastError() const { return LastError_; }
 
   private:
+    void makeMissingTables();
+    void readBeforeSaving();
     void createTable(const std::string& statement);
     void emptyTable(const std::string& table);
+    void readAdditionalData(SqliteStatement& query, std::int64_t mainIndex, std::int64_t orientationType);
     void insertAllPresets();
-    bool insertStop(std::int32_t mainIndex, const ColorStop& stop);
-    void insertFailed();
+    void insertMainData(SqliteStatement& row, std::int32_t mainIndex, std::int32_t orientationType);
+    bool insertStop(SqliteStatement& row, std::int32_t mainIndex, const ColorStop& stop);
+    bool insert(SqliteStatement& row);
 
     PresetList& presets_;
     PresetDatabase database_;
     std::string LastError_;
-    std::optional<StoredStops> allStops_; ///< while all presets are read
-    bool complete_ = true;                ///< nothing failed since the read or save began
+    bool complete_ = true; ///< nothing failed since the read or save began
 };
 
 } // namespace tessaly

@@ -8,12 +8,11 @@ namespace tessaly {
 /// Makes a private folder, and its parents with the usual permissions. True when it is there in the end.
 bool createPrivateFolder(const std::filesystem::path& folder);
 
-/// Makes an empty private file where there is nothing yet. Never opens one that exists: closing it again
-/// would end the locks that this process holds on it.
+/// Makes an empty private file where there is nothing yet.
 void createPrivateFile(const std::filesystem::path& file);
 
 /// Takes the others' permissions from a folder or file and leaves the user's own as they are. Nothing happens
-/// when it is missing or belongs to someone else.
+/// when it is missing, belongs to someone else or is a link.
 void makePrivate(const std::filesystem::path& path);
 
 /// Forces a file, or the names in a folder, to the disk.
@@ -21,8 +20,5 @@ bool syncToDisk(const std::filesystem::path& path);
 
 /// The same name, in the same folder, with a suffix.
 std::filesystem::path withSuffix(const std::filesystem::path& file, const char* suffix);
-
-/// A free name beside `file` that tells that it was set aside, and when.
-std::filesystem::path datedName(const std::filesystem::path& file);
 
 } // namespace tessaly

@@ -37,6 +37,11 @@ bool SqliteResult::isDamage() const {
     return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB;
 }
 
+bool SqliteResult::isLock() const {
+    const int primary = code & 0xff;
+    return primary == SQLITE_BUSY || primary == SQLITE_LOCKED;
+}
+
 bool SqliteResult::isDiskFailure() const {
     const int primary = code & 0xff; // 778, say, is the 10 of any I/O error with a detail
     return primary == SQLITE_FULL || primary == SQLITE_IOERR || primary == SQLITE_CANTOPEN;
@@ -60,6 +65,36 @@ SqliteConnection SqliteConnection::open(const std::filesystem::path& file) {
 
 SqliteConnection SqliteConnection::openImmutable(const std::filesystem::path& file) {
     return open("file:" + escapedPath(file) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+}
+
+SqliteConnection SqliteConnection::openInMemory() {
+    return open(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX);
+}
+
+void SqliteConnection::waitForLocks(std::chrono::milliseconds patience) const {
+    if (isOpen()) {
+        sqlite3_busy_timeout(handle(), static_cast<int>(patience.count()));
+    }
+}
+
+void SqliteConnection::limitToSize() {
+    constexpr std::int64_t stepsPerByte = 8; // a row takes several bytes, and some ten steps to be read
+    constexpr std::int64_t fewest = 100'000;
+    constexpr int stepsAtOnce = 1'000;
+    const auto countDown = [](void* left) {
+        return (*static_cast<std::int64_t*>(left) -= stepsAtOnce) < 0 ? 1 : 0;
+    };
+    const auto size = value("select page_count * page_size from pragma_page_count, pragma_page_size");
+    if (size) {
+        stepsLeft_ = std::make_unique<std::int64_t>(fewest + stepsPerByte * std::stoll(*size));
+        sqlite3_progress_handler(handle(), stepsAtOnce, countDown, stepsLeft_.get());
+    }
+}
+
+void SqliteConnection::liftLimit() {
+    if (isOpen()) {
+        sqlite3_progress_handler(handle(), 0, nullptr, nullptr);
+    }
 }
 
 bool SqliteConnection::isReadOnly() const {
@@ -94,10 +129,6 @@ std::optional<std::string> SqliteConnection::value(const std::string& query) con
 
 std::string SqliteConnection::errorText() const {
     return isOpen() ? sqlite3_errmsg(handle()) : sqlite3_errstr(SQLITE_CANTOPEN);
-}
-
-std::int64_t SqliteConnection::totalChanges() const {
-    return isOpen() ? sqlite3_total_changes64(handle()) : 0;
 }
 
 } // namespace tessaly

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -18,12 +19,15 @@ struct SqliteResult {
     /// The file is no database or a broken one.
     bool isDamage() const;
 
+    /// Another program keeps it locked.
+    bool isLock() const;
+
     /// The disk refused. A full one is SQLITE_FULL or an I/O error, depending on what it is that is full.
     bool isDiskFailure() const;
 };
 
-/// An open database, or none: then every operation fails and does no harm. Never waits for another process's
-/// lock, since a wait would hold up the event loop: what is locked fails at once.
+/// An open database, or none: then every operation fails and does no harm. What another process keeps locked
+/// fails at once, unless it is told to wait.
 class SqliteConnection {
   public:
     SqliteConnection() = default;
@@ -35,9 +39,19 @@ class SqliteConnection {
     /// nobody writes to.
     static SqliteConnection openImmutable(const std::filesystem::path& file);
 
+    static SqliteConnection openInMemory();
+
     bool isOpen() const { return handle_ != nullptr; }
 
-    /// The file can be read and not written: it is of a later format, or belongs to somebody else.
+    /// Holds up whoever calls: not for when the window is shown.
+    void waitForLocks(std::chrono::milliseconds patience) const;
+
+    /// Until the limit is lifted, queries fail that together take more steps than all rows of a file of this
+    /// size are worth, such as one over a view that never ends.
+    void limitToSize();
+    void liftLimit();
+
+    /// It can be read and not written: it is of a later format.
     bool isReadOnly() const;
     sqlite3* handle() const { return handle_.get(); }
 
@@ -53,9 +67,6 @@ class SqliteConnection {
     /// Text of the last error.
     std::string errorText() const;
 
-    /// Rows inserted, changed and deleted since the connection was opened.
-    std::int64_t totalChanges() const;
-
   private:
     struct Closer {
         void operator()(sqlite3* handle) const;
@@ -63,6 +74,7 @@ class SqliteConnection {
 
     static SqliteConnection open(const std::string& name, int flags);
 
+    std::unique_ptr<std::int64_t> stepsLeft_; ///< where SQLite finds it, wherever the connection is moved
     std::unique_ptr<sqlite3, Closer> handle_;
 };
 

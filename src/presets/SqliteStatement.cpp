@@ -40,8 +40,8 @@ SqliteStatement SqliteStatement::prepareFirstGeneration(const SqliteConnection& 
     return SqliteStatement{handle};
 }
 
-void SqliteStatement::bind(int parameter, std::int32_t value) {
-    sqlite3_bind_int(handle_.get(), parameter, value);
+void SqliteStatement::bind(int parameter, std::int64_t value) {
+    sqlite3_bind_int64(handle_.get(), parameter, value);
 }
 
 void SqliteStatement::bind(int parameter, double value) {
@@ -50,6 +50,10 @@ void SqliteStatement::bind(int parameter, double value) {
 
 int SqliteStatement::step() {
     return handle_ ? sqlite3_step(handle_.get()) : SQLITE_MISUSE;
+}
+
+void SqliteStatement::reset() {
+    sqlite3_reset(handle_.get());
 }
 
 int SqliteStatement::columnCount() const {

@@ -23,11 +23,14 @@ class SqliteStatement {
                                                   const std::string& text);
 
     /// Parameters count from 1.
-    void bind(int parameter, std::int32_t value);
+    void bind(int parameter, std::int64_t value);
     void bind(int parameter, double value);
 
     /// SQLITE_ROW, SQLITE_DONE or an error code.
     int step();
+
+    /// Back before the first step; what is bound stays.
+    void reset();
 
     /// Columns of the current row, counting from 0; NULL reads 0, 0.0 or an empty text.
     int columnCount() const;
