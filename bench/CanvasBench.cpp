@@ -3,71 +3,63 @@
 #include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
-#include "support/NoPresets.h"
+#include "foundation/NotificationCenter.h"
+#include "presets/PresetNotification.h"
 #include "support/TemporaryFolder.h"
 
+#include <QMouseEvent>
 #include <benchmark/benchmark.h>
 #include <vector>
 
 namespace tessaly {
 namespace {
 
-// The whole program without its event loop. The preview has not been looked at, so no browser engine runs.
-class Program {
-  public:
-    Program() {
-        GlobalData::sharedData() = GlobalData{};
-        window.canvasView().awakeFromNib(noPresets);
-        controller.awakeFromNib();
+Gradient gradientOf(std::int64_t orientation, std::int64_t count) {
+    std::vector<ColorStop> stops;
+    for (std::int64_t i = 0; i < count; ++i) {
+        const double at = static_cast<double>(i) / static_cast<double>(count - 1);
+        stops.push_back({at, Color::calibratedRGB(at, 1 - at, i % 2 == 0 ? 0.0 : 1.0)});
     }
-
-    GradientEditor& editor() { return window.canvasView().editor(); }
-
-    void setStops(std::int64_t orientation, std::int64_t count) {
-        std::vector<ColorStop> stops;
-        for (std::int64_t i = 0; i < count; ++i) {
-            const double at = static_cast<double>(i) / static_cast<double>(count - 1);
-            stops.push_back({at, Color::calibratedRGB(at, 1 - at, i % 2 == 0 ? 0.0 : 1.0)});
-        }
-        GlobalData::sharedData().gradient() = Gradient{std::move(stops), orientation};
-        editor().repaint();
-    }
-
-    TemporaryFolder temporary;
-    MainWindow window;
-    Tessaly controller{window, temporary.path};
-};
+    return Gradient{std::move(stops), orientation};
+}
 
 // One repaint of a changed gradient from the idle form, nested repaint included, nobody listening.
 void createBackground(benchmark::State& state) {
     StopControlPanel panel;
-    CanvasView canvas{panel};
-    GlobalData::sharedData() = GlobalData{};
-    canvas.awakeFromNib(noPresets);
-    GlobalData& data = GlobalData::sharedData();
-    data.gradient().setOrientation(state.range(0));
-    for (int i = 1; i < 9; ++i) {
-        canvas.editor().markers().addColorMarker(Color::calibratedRGB(i / 9.0, 0.5, 1 - i / 9.0), i / 9.0,
-                                                 1.0, ColorMarkers::insertSorted);
-    }
+    CanvasView canvas;
+    GlobalData record;
+    GradientEditor editor{record, canvas.geometry(), canvas, panel.controlSet()};
+    canvas.edit(editor);
+    editor.awakeFromNib();
+    record.gradient = gradientOf(state.range(0), 10);
     measure(state, [&](std::size_t number) {
-        ColorStop stop = data.gradient().stops()[4];
+        ColorStop stop = record.gradient.stops()[4];
         stop.position = 0.4 + 1e-6 * static_cast<double>(number % 1000); // another picture each time
-        data.gradient().replace(4, stop);
-        canvas.editor().createBackground();
+        record.gradient.replace(4, stop);
+        editor.createBackground();
     });
 }
 
-// A mouse move with a marker in hand: arrays, picture, eight replacements in the text view, file on the disk.
+// A mouse move with a marker in hand, in the whole program without its event loop: picture, controls, eight
+// replacements in the text view, file on the disk. The preview has not been looked at, so no browser engine
+// runs.
 void dragStep(benchmark::State& state) {
-    Program program;
-    program.setStops(orientation::leftToRight, state.range(0));
-    const CanvasGeometry& geometry = program.editor().geometry();
-    MarkerInteraction& mouse = program.editor().interaction();
-    mouse.mouseDown(geometry.markerRect(orientation::leftToRight, 0.0).center(), 1);
-    measure(state, [&](std::size_t number) {
-        mouse.mouseDragged({20.0 + static_cast<double>(number % 600), 25.0});
-    });
+    const TemporaryFolder temporary;
+    Tessaly program{temporary.path, temporary.path};
+    const Preset preset{gradientOf(orientation::leftToRight, state.range(0))};
+    NotificationCenter::defaultCenter().post(presetNotification::makeGradientIndexChanged(preset, nullptr));
+    CanvasView& canvas = *program.mainWindow().views().canvas;
+    const Rect marker = canvas.geometry().markerRect(orientation::leftToRight, 0.0);
+    const double y = canvas.height() - marker.center().y;
+    const auto send = [&](QEvent::Type type, double x) {
+        QMouseEvent event{type,           QPointF{x, y},
+                          QPointF{x, y},  type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier};
+        QCoreApplication::sendEvent(&canvas, &event);
+    };
+    send(QEvent::MouseButtonPress, marker.center().x);
+    measure(state,
+            [&](std::size_t number) { send(QEvent::MouseMove, 20.0 + static_cast<double>(number % 600)); });
 }
 
 BENCHMARK(createBackground)->ArgName("orientation")->DenseRange(0, 4)->UseManualTime();

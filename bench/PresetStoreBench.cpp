@@ -2,7 +2,6 @@
 // disk. The log goes to a file, as a desktop session keeps it.
 
 #include "Measure.h"
-#include "model/GlobalData.h"
 #include "presets/PresetNotification.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
@@ -36,13 +35,13 @@ class LogRedirection {
 };
 
 void fill(PresetProgram& program, std::int64_t count) {
-    GlobalData& data = GlobalData::sharedData();
-    data = GlobalData{};
+    Gradient gradient;
     for (int i = 0; i < 5; ++i) {
         const double fraction = 1.0 / (i + 3);
-        data.gradient().append({fraction, Color::calibratedRGB(fraction, 1.0 - fraction, fraction * fraction),
-                                1.0 - fraction * 0.5});
+        gradient.append({fraction, Color::calibratedRGB(fraction, 1.0 - fraction, fraction * fraction),
+                         1.0 - fraction * 0.5});
     }
+    program.record.gradient = gradient;
     for (std::int64_t i = 0; i < count; ++i) {
         program.gallery.addGradientIntoPreset(nullptr);
     }
@@ -55,7 +54,7 @@ void addPreset(benchmark::State& state) {
     PresetProgram program{folder.path};
     fill(program, state.range(0));
     const auto deleteLast = [&] {
-        program.gallery.deletePresetGradientNotification(
+        NotificationCenter::defaultCenter().post(
             presetNotification::makeDeleteGradient(state.range(0), nullptr));
         if (program.presets().size() != static_cast<std::size_t>(state.range(0))) {
             state.SkipWithError("the list has another length");

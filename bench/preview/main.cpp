@@ -2,7 +2,8 @@
 // a marker that is dragged at 120 moves a second. Prints benchmark, statistic and figure, in seconds.
 
 #include "PictureWatch.h"
-#include "app/WiredWindow.h"
+#include "app/MainWindow.h"
+#include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
 #include "chrome/qt/MainTabView.h"
 #include "codegen/qt/WebPreviewView.h"
@@ -53,7 +54,7 @@ bool wait(
 bool measureFirstPicture(const MainWindow& window, PictureWatch& watch) {
     wait(500ms);
     const Clock::time_point click = Clock::now();
-    window.mainTabView().setSelectIndex(2);
+    window.views().tabs->setSelectIndex(2);
     const bool isShown = wait(20s, [&] { return watch.startsBlack(); });
     print("firstPicture", seconds(Clock::now() - click));
     return isShown;
@@ -97,13 +98,13 @@ int main(int argc, char** argv) {
     using namespace tessaly;
     const QApplication application{argc, argv};
     const QTemporaryDir folder;
-    WiredWindow wired{folder.path().toStdString(), folder.path().toStdString()};
-    MainWindow& window = wired.mainWindow();
+    Tessaly program{folder.path().toStdString(), folder.path().toStdString()};
+    MainWindow& window = program.mainWindow();
     window.show();
-    PictureWatch watch{window, window.webPreviewView()};
+    PictureWatch watch{window, *window.views().preview};
     if (!measureFirstPicture(window, watch)) {
         return 1;
     }
-    measureDrag(window.canvasView(), watch);
+    measureDrag(*window.views().canvas, watch);
     return 0;
 }

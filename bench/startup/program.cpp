@@ -2,7 +2,8 @@
 
 #include "Probe.h"
 #include "app/FontConfiguration.h"
-#include "app/WiredWindow.h"
+#include "app/MainWindow.h"
+#include "app/Tessaly.h"
 #include "foundation/qt/AfterFirstPaint.h"
 
 #include <QDir>
@@ -11,8 +12,8 @@ int main(int argc, char** argv) {
     using namespace tessaly;
     const std::jthread fonts = loadFontConfiguration();
     const QApplication application{argc, argv};
-    WiredWindow wired{QDir::tempPath().toStdString(), argv[2]};
-    afterFirstPaint(wired.mainWindow(), [&] { report(argv[1]); });
-    wired.mainWindow().show();
+    Tessaly program{QDir::tempPath().toStdString(), argv[2]};
+    afterFirstPaint(program.mainWindow(), [&] { report(argv[1]); });
+    program.mainWindow().show();
     return QApplication::exec();
 }

@@ -12,15 +12,8 @@ class CodeTextAdapter : public CodeText {
     /// The view must outlive the adapter.
     explicit CodeTextAdapter(CustomTextView& view) : view_{view} {}
 
-    void setText(std::string_view text) override;
-    void setEditable(bool editable) override;
-    void setSelection(TextRange selection) override;
-    void insertText(std::string_view text) override;
-    void moveToBeginningOfDocument() override;
     std::u16string_view text() const override;
-    std::size_t length() const override;
     void replaceCharacters(TextRange range, std::string_view text) override;
-    void redisplay() override;
 
   private:
     CustomTextView& view_;

@@ -8,8 +8,7 @@
 #include "codegen/qt/WebPreviewView.h"
 #include "foundation/qt/ToQString.h"
 #include "presets/qt/PresetPanel.h"
-#include "sourceview/qt/Css3SourceView.h"
-#include "sourceview/qt/HtmlSourceView.h"
+#include "sourceview/qt/SourceView.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -31,18 +30,18 @@ constexpr QSize frame{16, 40}; // what a desktop's window borders and title take
 
 MainWindow::MainWindow(QWidget* parent)
     : QWidget{parent},
-      stopControlPanel_{new StopControlPanel},
-      canvasView_{new CanvasView{*stopControlPanel_}},
-      presetPanel_{new PresetPanel},
-      mainTabView_{new MainTabView{{tr("CSS 3"), tr("HTML"), tr("Web Preview")}}},
-      copyButton_{new CopyButton},
-      sourceCodeContainerView_{new QStackedWidget},
-      css3SourceView_{new Css3SourceView},
-      htmlSourceView_{new HtmlSourceView},
-      webPreviewView_{new WebPreviewView},
-      aboutButton_{new QPushButton{tr("&About")}},
-      homepageButton_{new QPushButton{tr("Ho&mepage")}},
-      relatedAppsButton_{new QPushButton{tr("R&elated Applications")}} {
+      views_{new StopControlPanel,
+             new CanvasView,
+             new PresetPanel,
+             new MainTabView{{tr("CSS 3"), tr("HTML"), tr("Web Preview")}},
+             new CopyButton,
+             new QStackedWidget,
+             new SourceView{tr("CSS code")},
+             new SourceView{tr("HTML code")},
+             new WebPreviewView,
+             new QPushButton{tr("&About")},
+             new QPushButton{tr("Ho&mepage")},
+             new QPushButton{tr("R&elated Applications")}} {
     setWindowTitle(toQString(product::name));
     layOut();
     auto* const quit = new QAction{this};
@@ -60,14 +59,14 @@ QSize MainWindow::room() const {
 void MainWindow::layOut() {
     auto* const editor = new QVBoxLayout;
     editor->setSpacing(margin);
-    editor->addWidget(canvasView_);
-    editor->addWidget(stopControlPanel_);
+    editor->addWidget(views_.canvas);
+    editor->addWidget(views_.stopControls);
     editor->addStretch();
 
     auto* const buttons = buttonRow();
     auto* const side = new QVBoxLayout;
     side->setSpacing(margin);
-    side->addWidget(presetPanel_, 0, Qt::AlignRight);
+    side->addWidget(views_.presets, 0, Qt::AlignRight);
     side->addStretch();
     side->addLayout(buttons);
 
@@ -90,24 +89,24 @@ QBoxLayout* MainWindow::buttonRow() const {
     auto* const row = new QBoxLayout{QBoxLayout::LeftToRight};
     row->setSpacing(spacing);
     row->addStretch();
-    row->addWidget(aboutButton_);
-    row->addWidget(homepageButton_);
-    row->addWidget(relatedAppsButton_);
+    row->addWidget(views_.about);
+    row->addWidget(views_.homepage);
+    row->addWidget(views_.relatedApps);
     return row;
 }
 
 QLayout* MainWindow::codeArea() const {
-    sourceCodeContainerView_->addWidget(css3SourceView_);
-    sourceCodeContainerView_->addWidget(htmlSourceView_);
-    sourceCodeContainerView_->addWidget(webPreviewView_);
+    views_.sourceCodeContainer->addWidget(views_.stylesheet);
+    views_.sourceCodeContainer->addWidget(views_.page);
+    views_.sourceCodeContainer->addWidget(views_.preview);
     auto* const header = new QHBoxLayout;
     header->setSpacing(spacing);
-    header->addWidget(mainTabView_, 1);
-    header->addWidget(copyButton_);
+    header->addWidget(views_.tabs, 1);
+    header->addWidget(views_.copy);
     auto* const area = new QVBoxLayout;
     area->setSpacing(0);
     area->addLayout(header);
-    area->addWidget(sourceCodeContainerView_, 1);
+    area->addWidget(views_.sourceCodeContainer, 1);
     return area;
 }
 

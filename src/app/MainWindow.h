@@ -10,10 +10,9 @@ namespace tessaly {
 
 class CanvasView;
 class CopyButton;
-class Css3SourceView;
-class HtmlSourceView;
 class MainTabView;
 class PresetPanel;
+class SourceView;
 class StopControlPanel;
 class WebPreviewView;
 
@@ -24,17 +23,22 @@ class MainWindow : public QWidget {
   public:
     explicit MainWindow(QWidget* parent = nullptr);
 
-    CanvasView& canvasView() const { return *canvasView_; }
-    PresetPanel& presetPanel() const { return *presetPanel_; }
-    MainTabView& mainTabView() const { return *mainTabView_; }
-    QStackedWidget& sourceCodeContainerView() const { return *sourceCodeContainerView_; }
-    Css3SourceView& css3SourceView() const { return *css3SourceView_; }
-    HtmlSourceView& htmlSourceView() const { return *htmlSourceView_; }
-    WebPreviewView& webPreviewView() const { return *webPreviewView_; }
-    CopyButton& copyButton() const { return *copyButton_; }
-    QPushButton& aboutButton() const { return *aboutButton_; }
-    QPushButton& homepageButton() const { return *homepageButton_; }
-    QPushButton& relatedAppsButton() const { return *relatedAppsButton_; }
+    /// Made and placed by the window, which owns them; who works with them borrows them.
+    struct Views {
+        StopControlPanel* stopControls;
+        CanvasView* canvas;
+        PresetPanel* presets;
+        MainTabView* tabs;
+        CopyButton* copy;
+        QStackedWidget* sourceCodeContainer;
+        SourceView* stylesheet;
+        SourceView* page;
+        WebPreviewView* preview;
+        QPushButton* about;
+        QPushButton* homepage;
+        QPushButton* relatedApps;
+    };
+    const Views& views() const { return views_; }
 
   private:
     void layOut();
@@ -42,18 +46,7 @@ class MainWindow : public QWidget {
     QLayout* codeArea() const;
     QSize room() const; ///< that the screen has for the window
 
-    StopControlPanel* stopControlPanel_;
-    CanvasView* canvasView_;
-    PresetPanel* presetPanel_;
-    MainTabView* mainTabView_;
-    CopyButton* copyButton_;
-    QStackedWidget* sourceCodeContainerView_;
-    Css3SourceView* css3SourceView_;
-    HtmlSourceView* htmlSourceView_;
-    WebPreviewView* webPreviewView_;
-    QPushButton* aboutButton_;
-    QPushButton* homepageButton_;
-    QPushButton* relatedAppsButton_;
+    Views views_;
 };
 
 } // namespace tessaly

@@ -4,17 +4,19 @@
 #include "app/MainWindow.h"
 #include "canvas/CanvasNotification.h"
 #include "canvas/qt/CanvasView.h"
+#include "canvas/qt/StopControlPanel.h"
 #include "chrome/ProductInfo.h"
 #include "chrome/TabNotification.h"
 #include "chrome/qt/About.h"
 #include "chrome/qt/MainTabView.h"
 #include "chrome/qt/RelatedApps.h"
 #include "chrome/qt/WebAddressOpener.h"
+#include "codegen/PageText.h"
 #include "codegen/qt/WebPreviewView.h"
 #include "foundation/qt/ToQString.h"
-#include "sourceview/qt/Css3SourceView.h"
+#include "presets/qt/PresetPanel.h"
 #include "sourceview/qt/CustomTextView.h"
-#include "sourceview/qt/HtmlSourceView.h"
+#include "sourceview/qt/SourceView.h"
 
 #include <QPushButton>
 #include <QStackedWidget>
@@ -22,75 +24,104 @@
 
 namespace tessaly {
 
-Tessaly::Tessaly(MainWindow& mainWindow, std::filesystem::path temporaryDirectory)
-    : mainWindow_{mainWindow},
-      htmlTextView_{*mainWindow.htmlSourceView().textView()},
-      css3TextView_{*mainWindow.css3SourceView().textView()},
-      webCode_{htmlTextView_, css3TextView_, mainWindow.webPreviewView(), std::move(temporaryDirectory)} {
-    connect(&mainWindow.copyButton(), &QPushButton::clicked, this, &Tessaly::copyCode);
-    connect(&mainWindow.aboutButton(), &QPushButton::clicked, this, &Tessaly::showAbout);
-    connect(&mainWindow.homepageButton(), &QPushButton::clicked, this, &Tessaly::showHomepage);
-    connect(&mainWindow.relatedAppsButton(), &QPushButton::clicked, this, &Tessaly::showRelatedApps);
-    connect(mainWindow.css3SourceView().textView(), &CustomTextView::userEdited, this,
-            [this](std::size_t position, std::size_t removed, std::size_t added) {
-                webCode_.stylesheetEdited(position, removed, added);
-            });
-}
-
-void Tessaly::awakeFromNib() {
-    NotificationCenter& center = NotificationCenter::defaultCenter();
-    // From the main window's own strip only: that of the related applications posts the same name.
-    selectIndexChanged_ = center.addObserver(
-        tabNotification::selectIndexChanged, &mainWindow_.mainTabView(),
-        [this](const Notification& notification) { selectWebIndexDidChangeNotification(notification); });
-    needToUpdateWebCode_ =
-        center.addObserver(canvasNotification::needToUpdateWebCode, &mainWindow_.canvasView().editor(),
-                           [this](const Notification& notification) {
-                               webCode_.updateBackgroundColorDataUpdatedNotification(notification);
-                           });
-    webCode_.insertHTML5Code();
-    webCode_.insertCSS3Code();
-    webCode_.createHTMLIndexFile();
+Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem::path& applicationSupport)
+    : mainWindow_{std::make_unique<MainWindow>()},
+      editor_{record_, mainWindow_->views().canvas->geometry(), *mainWindow_->views().canvas,
+              mainWindow_->views().stopControls->controlSet()},
+      htmlTextView_{mainWindow_->views().page->textView()},
+      css3TextView_{mainWindow_->views().stylesheet->textView()},
+      stylesheet_{css3TextView_},
+      previewFiles_{htmlTextView_, css3TextView_, *mainWindow_->views().preview,
+                    std::move(temporaryDirectory)},
+      gallery_{record_.gradient,
+               *mainWindow_->views().presets,
+               {[this] { editor_.gradientReplaced(); }, [this] { store_.insertData(); }}},
+      store_{gallery_, applicationSupport} {
+    lendToViews();
+    // The stored presets come before the gradient that is to be edited, and the code is written from that.
+    store_.openWithTables();
+    store_.readData();
+    editor_.awakeFromNib();
+    observe();
+    writeCode();
     showSourceCodeView(0);
 }
 
-void Tessaly::selectWebIndexDidChangeNotification(const Notification& notification) {
-    if (const auto index = tabNotification::indexOf(notification)) {
-        showSourceCodeView(*index);
+Tessaly::~Tessaly() {
+    store_.closeDB();
+    mainWindow_.reset(); // its views have borrowed what goes next
+}
+
+void Tessaly::lendToViews() {
+    const MainWindow::Views& views = mainWindow_->views();
+    views.canvas->edit(editor_);
+    views.stopControls->connectTo(editor_.controls());
+    views.presets->connectTo(gallery_);
+    connect(&views.stylesheet->textView(), &CustomTextView::userEdited, this,
+            [this](const TextEdit& edit) { stylesheet_.edited(edit); });
+    connect(views.copy, &QPushButton::clicked, this, &Tessaly::copyCode);
+    connect(views.about, &QPushButton::clicked, this, &Tessaly::showAbout);
+    connect(views.homepage, &QPushButton::clicked, this,
+            [] { WebAddressOpener::open(toQString(product::homepage())); });
+    connect(views.relatedApps, &QPushButton::clicked, this, &Tessaly::showRelatedApps);
+}
+
+void Tessaly::observe() {
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    // From the main window's own strip only: that of the related applications posts the same name.
+    selectIndexChanged_ =
+        center.addObserver(tabNotification::selectIndexChanged, mainWindow_->views().tabs,
+                           [this](const Notification& notification) {
+                               if (const auto index = tabNotification::indexOf(notification)) {
+                                   showSourceCodeView(*index);
+                               }
+                           });
+    needToUpdateWebCode_ = center.addObserver(canvasNotification::needToUpdateWebCode, &editor_,
+                                              [this](const Notification& /*notification*/) { updateCode(); });
+}
+
+void Tessaly::writeCode() {
+    htmlTextView_.replaceCharacters({}, pageText);
+    stylesheet_.insertCSS3Code(record_.gradient, record_.colorFormatType);
+    previewFiles_.createHTMLIndexFile();
+}
+
+void Tessaly::updateCode() {
+    const bool changed = stylesheet_.update(record_.gradient, record_.colorFormatType);
+    if (changed || !previewFiles_.isAsWritten()) {
+        previewFiles_.writeCSSFile();
     }
 }
 
+// The stylesheet (0), the page (1) or the preview (any other index).
 void Tessaly::showSourceCodeView(std::int64_t index) {
-    QWidget* page = &mainWindow_.webPreviewView();
+    const MainWindow::Views& views = mainWindow_->views();
+    QWidget* page = views.preview;
     if (index == 0) {
-        page = &mainWindow_.css3SourceView();
+        page = views.stylesheet;
     } else if (index == 1) {
-        page = &mainWindow_.htmlSourceView();
+        page = views.page;
     }
-    mainWindow_.sourceCodeContainerView().setCurrentWidget(page);
-    mainWindow_.copyButton().setEnabled(page != &mainWindow_.webPreviewView());
+    views.sourceCodeContainer->setCurrentWidget(page);
+    views.copy->setEnabled(page != views.preview);
 }
 
 void Tessaly::copyCode() {
-    const QWidget* const page = mainWindow_.sourceCodeContainerView().currentWidget();
-    const CodeTextAdapter& shown = page == &mainWindow_.htmlSourceView() ? htmlTextView_ : css3TextView_;
-    mainWindow_.copyButton().copy(toQString(shown.text()));
+    const MainWindow::Views& views = mainWindow_->views();
+    const bool isPage = views.sourceCodeContainer->currentWidget() == views.page;
+    views.copy->copy(toQString((isPage ? htmlTextView_ : css3TextView_).text()));
 }
 
 void Tessaly::showAbout() {
     if (about_ == nullptr) {
-        about_ = new About{&mainWindow_};
+        about_ = new About{mainWindow_.get()};
     }
     about_->open();
 }
 
-void Tessaly::showHomepage() {
-    WebAddressOpener::open(toQString(product::homepage()));
-}
-
 void Tessaly::showRelatedApps() {
     if (relatedApps_ == nullptr) {
-        relatedApps_ = new RelatedApps{&mainWindow_};
+        relatedApps_ = new RelatedApps{mainWindow_.get()};
     }
     relatedApps_->open();
 }

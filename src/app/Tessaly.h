@@ -1,12 +1,18 @@
 #pragma once
 
 #include "app/CodeTextAdapter.h"
-#include "codegen/WebCode.h"
+#include "canvas/GradientEditor.h"
+#include "codegen/PreviewFiles.h"
+#include "codegen/Stylesheet.h"
 #include "foundation/NotificationCenter.h"
+#include "model/GlobalData.h"
+#include "presets/PresetGallery.h"
+#include "presets/PresetStore.h"
 
 #include <QObject>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 
 namespace tessaly {
 
@@ -14,35 +20,41 @@ class About;
 class MainWindow;
 class RelatedApps;
 
-/// The controller of the main window: sets the code side up, keeps it current with the canvas, switches the
-/// three pages under the tab bar and answers the window's buttons.
+/// The program behind its one window: makes everything that the views show and work on, lends it to them,
+/// keeps the code current with the gradient, switches the three pages under the tab bar and answers the
+/// window's buttons.
 class Tessaly : public QObject {
     Q_OBJECT
 
   public:
-    /// The window must outlive the controller.
-    Tessaly(MainWindow& mainWindow, std::filesystem::path temporaryDirectory);
+    /// Sets everything up; the window is then ready to be shown. The preview's folder is made in
+    /// `temporaryDirectory`, the presets' in `applicationSupport`.
+    Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem::path& applicationSupport);
+    Tessaly(const Tessaly&) = delete;
+    Tessaly& operator=(const Tessaly&) = delete;
+    ~Tessaly() override;
 
-    /// Once, when the window is wired and the canvas is set up.
-    void awakeFromNib();
-
-    void selectWebIndexDidChangeNotification(const Notification& notification);
-
-    /// Shows the stylesheet (0), the page (1) or the preview (any other index).
-    void showSourceCodeView(std::int64_t index);
-
-    /// Copies the whole text of the code view that is shown; the preview has none.
-    void copyCode();
-
-    void showAbout();
-    void showHomepage();
-    void showRelatedApps();
+    MainWindow& mainWindow() { return *mainWindow_; }
 
   private:
-    MainWindow& mainWindow_;
+    void lendToViews();
+    void observe();
+    void writeCode();
+    void updateCode();
+    void showSourceCodeView(std::int64_t index);
+    void copyCode();
+    void showAbout();
+    void showRelatedApps();
+
+    std::unique_ptr<MainWindow> mainWindow_;
+    GlobalData record_;
+    GradientEditor editor_;
     CodeTextAdapter htmlTextView_;
     CodeTextAdapter css3TextView_;
-    WebCode webCode_;
+    Stylesheet stylesheet_;
+    PreviewFiles previewFiles_;
+    PresetGallery gallery_;
+    PresetStore store_;
     About* about_ = nullptr;             ///< made when first shown, then kept
     RelatedApps* relatedApps_ = nullptr; ///< likewise
     NotificationCenter::Observation selectIndexChanged_;

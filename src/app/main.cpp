@@ -1,9 +1,9 @@
-#include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/FontConfiguration.h"
+#include "app/MainWindow.h"
 #include "app/QuitOnSignal.h"
 #include "app/SingleInstance.h"
-#include "app/WiredWindow.h"
+#include "app/Tessaly.h"
 #include "chrome/ProductInfo.h"
 #include "chrome/qt/ProgramIcon.h"
 #include "foundation/qt/AfterFirstPaint.h"
@@ -53,15 +53,12 @@ int main(int argc, char** argv) {
     if (!instance.isFirst()) {
         return 0;
     }
-    AppDelegate delegate{application};
     const QuitOnSignal quitOnSignal;
 
-    WiredWindow wired{temporaryFolder().toStdString(), applicationSupport().toStdString()};
-    MainWindow& mainWindow = wired.mainWindow();
+    Tessaly program{temporaryFolder().toStdString(), applicationSupport().toStdString()};
+    MainWindow& mainWindow = program.mainWindow();
     QObject::connect(&instance, &SingleInstance::startedAgain, &mainWindow, [&] { showAgain(mainWindow); });
-    delegate.setWindow(&mainWindow);
     afterFirstPaint(mainWindow, [] { QApplication::setWindowIcon(programIcon()); });
     mainWindow.show();
-    delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -1,7 +1,5 @@
 #include "canvas/CanvasGeometry.h"
 
-#include "foundation/DiagnosticLog.h"
-#include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
 #include "model/Orientation.h"
 
@@ -83,12 +81,10 @@ Point CanvasGeometry::radialCenter() const {
 CanvasGeometry::TrackOffset CanvasGeometry::offsetOnDiagonal(Point start, double slope, double startHeight,
                                                              Point point) const {
     const double x = (frameWidth * slope + (point.x * slope + (point.y - startHeight))) / (2 * slope);
-    if (slope < 0) {
-        DiagnosticLog::write("x: " + fixedText(x, 6) +
-                             " y: " + fixedText((point.x - x) * slope + point.y, 6));
-    }
-    const double y = (point.x - x) * slope + point.y - frameWidth;
-    return {std::sqrt((x - start.x) * (x - start.x) + y * y), extentDiagonal_};
+    const Point place{x, (point.x - x) * slope + point.y};
+    const double y = place.y - frameWidth;
+    return {std::sqrt((x - start.x) * (x - start.x) + y * y), extentDiagonal_,
+            slope < 0 ? std::optional{place} : std::nullopt};
 }
 
 CanvasGeometry::TrackOffset CanvasGeometry::offsetOnTrack(std::int64_t orientation, Point point) const {
@@ -96,9 +92,9 @@ CanvasGeometry::TrackOffset CanvasGeometry::offsetOnTrack(std::int64_t orientati
     switch (orientation) {
     case orientation::leftToRight:
     case orientation::radial:
-        return {point.x - markerInset - colorMarkerSize.width * 0.5, extentX_};
+        return {point.x - markerInset - colorMarkerSize.width * 0.5, extentX_, {}};
     case orientation::bottomToTop:
-        return {point.y - markerInset - colorMarkerSize.height * 0.5, extentY_};
+        return {point.y - markerInset - colorMarkerSize.height * 0.5, extentY_, {}};
     case orientation::diagonalToTopRight:
         return offsetOnDiagonal({frameWidth, frameWidth}, diagonalBottomGradient(), frameWidth, point);
     default:

@@ -33,6 +33,7 @@ class CanvasGeometry {
     struct TrackOffset {
         double offset;
         std::int64_t limit;
+        std::optional<Point> onDescent; ///< the place itself, on the diagonal to the top left alone
     };
 
     explicit CanvasGeometry(Size viewSize);

@@ -3,18 +3,11 @@
 #include <iterator>
 
 namespace tessaly {
-namespace {
-
-Rect placedIn(const Rect& frame, const Rect& part) {
-    return {frame.x + part.x, frame.y + part.y, part.width, part.height};
-}
-
-} // namespace
 
 CanvasScene::CanvasScene(const CanvasGeometry& geometry, const GlobalData& data, std::int64_t selectedMarker)
-    : gradient{data.gradient()},
-      opacity{colorFormat::carriesOpacity(data.colorFormatType()) ? GradientRamp::Opacity::Drawn
-                                                                  : GradientRamp::Opacity::Ignored},
+    : gradient{data.gradient},
+      opacity{colorFormat::carriesOpacity(data.colorFormatType) ? GradientRamp::Opacity::Drawn
+                                                                : GradientRamp::Opacity::Ignored},
       guideLine{geometry.guideLine(gradient.orientation())} {
     markers.reserve(gradient.stops().size());
     for (const ColorStop& stop : gradient.stops()) {
@@ -22,7 +15,7 @@ CanvasScene::CanvasScene(const CanvasGeometry& geometry, const GlobalData& data,
         const bool selected = std::ssize(markers) == selectedMarker;
         const Rect& dot = selected ? CanvasGeometry::selectedMarkerDot : CanvasGeometry::markerDot;
         // The dot shows the colour as stored, never with the opacity.
-        markers.push_back({frame, placedIn(frame, dot), stop.color});
+        markers.push_back({frame, {frame.x + dot.x, frame.y + dot.y, dot.width, dot.height}, stop.color});
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/GlobalData.h"
+#include "model/Gradient.h"
 
 #include <cstdint>
 #include <functional>
@@ -8,10 +8,14 @@
 
 namespace tessaly {
 
-/// The stops as the editor changes them, and which of them is selected. The stops themselves are in
-/// `GlobalData`.
+/// The stops of the gradient being edited, as the editor changes them, and which of them is selected.
 class ColorMarkers {
   public:
+    /// The gradient must outlive the object.
+    explicit ColorMarkers(Gradient& gradient) : gradient_{gradient} {}
+
+    const Gradient& gradient() const { return gradient_; }
+
     /// Modes of `addColorMarker`.
     static constexpr std::int64_t append = -1;
     static constexpr std::int64_t insertSorted = -2;
@@ -39,6 +43,7 @@ class ColorMarkers {
     void logPlace() const;
     void logSelection() const;
 
+    Gradient& gradient_;
     std::int64_t selectedColorMarkerIndex_ = 0;
 };
 

@@ -6,33 +6,33 @@
 
 namespace tessaly {
 
-GradientEditor::GradientEditor(Size viewSize, CanvasSurface& surface, const StopControlSet& controls)
-    : geometry_{viewSize},
+GradientEditor::GradientEditor(GlobalData& record, const CanvasGeometry& geometry, CanvasSurface& surface,
+                               const StopControlSet& controls)
+    : record_{record},
+      geometry_{geometry},
       surface_{surface},
       well_{controls.selectedColor},
+      markers_{record.gradient},
       interaction_{geometry_, hitAreas_, markers_, [this] { repaint(); }},
-      controls_{controls, markers_, [this] { repaint(); }, [this] { announce(); }} {}
+      controls_{controls, record, markers_, [this] { repaint(); }, [this] { announce(); }} {}
 
-void GradientEditor::awakeFromNib(const PresetSteps& presets) {
-    presets.open();
+void GradientEditor::awakeFromNib() {
     controls_.updateOrientationTypeComboBox();
     controls_.updateColorFormatTypeComboBox();
-    presets.read();
-    GlobalData::sharedData().gradient().setOrientation(orientation::leftToRight);
+    record_.gradient.setOrientation(orientation::leftToRight);
     markers_.addColorMarker(Color::black(), 0.0, 1.0, ColorMarkers::append);
     markers_.addColorMarker(Color::white(), 1.0, 1.0, ColorMarkers::append);
     repaint();
     colorChanged_ = NotificationCenter::defaultCenter().addObserver(
         canvasNotification::colorChanged, well_,
-        [this](const Notification& notification) { controls_.colorChangedNotification(notification); });
-    presets.observe();
+        [this](const Notification& /*notification*/) { controls_.colorChanged(); });
     controls_.updateRGBFromColorBox();
     controls_.updateHSLFromColorBox();
-    controls_.setFormReady(true); // last: what was written above is no user input
+    controls_.setFormReady(); // last: what was written above is no user input
 }
 
 void GradientEditor::createBackground() {
-    const CanvasScene scene{geometry_, GlobalData::sharedData(), markers_.selectedColorMarkerIndex()};
+    const CanvasScene scene{geometry_, record_, markers_.selectedColorMarkerIndex()};
     hitAreas_.rebuild(scene);
     surface_.paint(scene);
     controls_.updateEnabledState();

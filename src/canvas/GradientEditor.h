@@ -7,31 +7,23 @@
 #include "canvas/StopControls.h"
 #include "foundation/NotificationCenter.h"
 
-#include <functional>
-
 namespace tessaly {
 
 class CanvasSurface;
-
-/// What the editor's set-up asks of the presets, each at its moment.
-struct PresetSteps {
-    std::function<void()> open;    ///< the store, and an empty gallery
-    std::function<void()> read;    ///< the stored presets into the gallery
-    std::function<void()> observe; ///< what is done to the thumbnails
-};
 
 /// The canvas without its toolkit: puts geometry, markers, mouse rules and controls together. It is the
 /// object of the "NeedToUpdateWebCode" notifications.
 class GradientEditor {
   public:
-    /// Surface and controls must outlive the editor. The view keeps the size it has here.
-    GradientEditor(Size viewSize, CanvasSurface& surface, const StopControlSet& controls);
+    /// All must outlive the editor.
+    GradientEditor(GlobalData& record, const CanvasGeometry& geometry, CanvasSurface& surface,
+                   const StopControlSet& controls);
     GradientEditor(const GradientEditor&) = delete;
     GradientEditor& operator=(const GradientEditor&) = delete;
     ~GradientEditor() = default;
 
     /// Sets the editor up with the default gradient; once, when everything is wired.
-    void awakeFromNib(const PresetSteps& presets);
+    void awakeFromNib();
 
     /// Repaints the picture, refreshes the controls of the selected stop and announces the change. From an
     /// idle form the refreshed colour well makes it run once more, nested.
@@ -43,8 +35,6 @@ class GradientEditor {
     /// The gradient was replaced as a whole.
     void gradientReplaced();
 
-    const CanvasGeometry& geometry() const { return geometry_; }
-    ColorMarkers& markers() { return markers_; }
     const ColorMarkers& markers() const { return markers_; }
     MarkerInteraction& interaction() { return interaction_; }
     StopControls& controls() { return controls_; }
@@ -52,7 +42,8 @@ class GradientEditor {
   private:
     void announce() const;
 
-    CanvasGeometry geometry_;
+    GlobalData& record_;
+    const CanvasGeometry& geometry_;
     CanvasSurface& surface_;
     const ColorWell* well_;
     MarkerHitAreas hitAreas_;

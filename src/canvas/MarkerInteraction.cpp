@@ -17,10 +17,6 @@ MarkerInteraction::MarkerInteraction(const CanvasGeometry& geometry, const Marke
                                      ColorMarkers& markers, std::function<void()> repaint)
     : geometry_{geometry}, hitAreas_{hitAreas}, markers_{markers}, repaint_{std::move(repaint)} {}
 
-std::int64_t MarkerInteraction::orientation() {
-    return GlobalData::sharedData().gradient().orientation();
-}
-
 void MarkerInteraction::mouseDown(Point point, int clickCount) {
     if (clickCount == 2 && !addAt(point)) {
         return;
@@ -38,7 +34,10 @@ bool MarkerInteraction::addAt(Point point) {
         // that were placed on a disc keep out of the half that the disc does not use.
         minColorMarkerPos_ = geometry_.maxColorMarkerPosX() / 2;
     }
-    const auto [offset, limit] = geometry_.offsetOnTrack(orientation(), point);
+    const auto [offset, limit, onDescent] = geometry_.offsetOnTrack(orientation(), point);
+    if (onDescent) {
+        DiagnosticLog::write("x: " + fixedText(onDescent->x, 6) + " y: " + fixedText(onDescent->y, 6));
+    }
     const std::int64_t place = truncated(offset);
     if (place < minColorMarkerPos_ || place > limit) {
         return false;
@@ -112,7 +111,7 @@ void MarkerInteraction::deleteColorMarker() {
 
 void MarkerInteraction::addBesideSelected() {
     constexpr double middle = 0.5;
-    const Gradient& gradient = GlobalData::sharedData().gradient();
+    const Gradient& gradient = markers_.gradient();
     const std::int64_t selected = markers_.selectedColorMarkerIndex();
     const auto next = gradient.stopAt(selected + 1);
     const auto neighbour = next ? next : gradient.stopAt(selected - 1);
@@ -134,7 +133,7 @@ bool MarkerInteraction::moveSelected(int right, int up, std::int64_t points) {
 }
 
 bool MarkerInteraction::select(std::int64_t marker) {
-    if (!GlobalData::sharedData().gradient().stopAt(marker)) {
+    if (!markers_.gradient().stopAt(marker)) {
         return false;
     }
     startDrag_ = false;
@@ -147,7 +146,7 @@ bool MarkerInteraction::selectNeighbour(std::int64_t places) {
     if (markers_.selectedStop()) {
         return select(markers_.selectedColorMarkerIndex() + places);
     }
-    return select(places > 0 ? 0 : std::ssize(GlobalData::sharedData().gradient().stops()) - 1);
+    return select(places > 0 ? 0 : std::ssize(markers_.gradient().stops()) - 1);
 }
 
 } // namespace tessaly

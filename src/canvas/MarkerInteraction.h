@@ -50,7 +50,7 @@ class MarkerInteraction {
     void addBlackStop(double position);
     void grab(std::int64_t marker, Point point);
     void moveSelectedTo(double offset);
-    static std::int64_t orientation();
+    std::int64_t orientation() const { return markers_.gradient().orientation(); }
 
     const CanvasGeometry& geometry_;
     const MarkerHitAreas& hitAreas_;

@@ -10,10 +10,35 @@
 #include <utility>
 
 namespace tessaly {
+namespace {
 
-StopControls::StopControls(const StopControlSet& controls, ColorMarkers& markers,
+// From channels 0 ... 255, computed in single precision.
+Color generateSelectedColor(std::int64_t red, std::int64_t green, std::int64_t blue) {
+    const auto component = [](std::int64_t channel) {
+        return static_cast<double>(static_cast<float>(channel) / 255.0F);
+    };
+    return Color::calibratedRGB(component(red), component(green), component(blue));
+}
+
+void logConversion(const HSLValue& hsl, const RGBValue& rgb) {
+    if (hsl.saturation != 0) { // a grey has no hue to convert
+        const auto [red, green, blue] = huePositions(hsl.hue);
+        DiagnosticLog::write("Temporary RGB: " + fixedText(red, 6) + ", " + fixedText(green, 6) + ", " +
+                             fixedText(blue, 6));
+    }
+    DiagnosticLog::write("RGB: " + std::to_string(rgb.red) + ", " + std::to_string(rgb.green) + ", " +
+                         std::to_string(rgb.blue));
+}
+
+} // namespace
+
+StopControls::StopControls(const StopControlSet& controls, GlobalData& record, ColorMarkers& markers,
                            std::function<void()> repaint, std::function<void()> announce)
-    : controls_{controls}, markers_{markers}, repaint_{std::move(repaint)}, announce_{std::move(announce)} {}
+    : controls_{controls},
+      record_{record},
+      markers_{markers},
+      repaint_{std::move(repaint)},
+      announce_{std::move(announce)} {}
 
 void StopControls::handle(const std::function<void()>& change) {
     if (!formReady_) {
@@ -72,8 +97,7 @@ void StopControls::updateOrientationComboBoxValue() {
     handle([&] {
         const std::int64_t item = controls_.selectedOrientationComboBox->indexOfSelectedItem();
         if (item >= 0 && item < std::ssize(orientationItems)) {
-            GlobalData::sharedData().gradient().setOrientation(
-                orientationItems[static_cast<std::size_t>(item)].code);
+            record_.gradient.setOrientation(orientationItems[static_cast<std::size_t>(item)].code);
         }
     });
 }
@@ -85,14 +109,14 @@ void StopControls::updateColorFormatComboBoxValue() {
     handle([&] {
         const std::int64_t item = controls_.selectedColorFormatComboBox->indexOfSelectedItem();
         if (colorFormat::isKnown(item)) {
-            GlobalData::sharedData().setColorFormatType(item);
+            record_.colorFormatType = item;
         }
         updateEnabledState();
     });
     announce_(); // once more than the repaint did: deliberate, listeners hear a change of notation twice
 }
 
-void StopControls::colorChangedNotification(const Notification& /*notification*/) {
+void StopControls::colorChanged() {
     handle([&] {
         DiagnosticLog::write("colorChangedNotification");
         takeColorBox();
@@ -102,7 +126,7 @@ void StopControls::colorChangedNotification(const Notification& /*notification*/
 }
 
 void StopControls::updateOrientationTypeComboBox() {
-    const std::int64_t code = GlobalData::sharedData().gradient().orientation();
+    const std::int64_t code = record_.gradient.orientation();
     const auto item = std::find_if(orientationItems.begin(), orientationItems.end(),
                                    [&](const OrientationItem& candidate) { return candidate.code == code; });
     if (item != orientationItems.end()) {
@@ -111,7 +135,7 @@ void StopControls::updateOrientationTypeComboBox() {
 }
 
 void StopControls::updateColorFormatTypeComboBox() {
-    const std::int64_t code = GlobalData::sharedData().colorFormatType();
+    const std::int64_t code = record_.colorFormatType;
     if (colorFormat::isKnown(code)) {
         controls_.selectedColorFormatComboBox->selectItemAtIndex(code);
     }
@@ -144,34 +168,30 @@ void StopControls::updateColorBoxFromRGB() {
 }
 
 void StopControls::updateColorBoxFromHSL() {
-    const RGBValue rgb = GlobalData::hslToRGB({static_cast<double>(stepperInteger(StopValue::Hue)),
-                                               static_cast<double>(stepperInteger(StopValue::Saturation)),
-                                               static_cast<double>(stepperInteger(StopValue::Lightness))});
-    setNumber(StopValue::Red, rgb.red);
-    setNumber(StopValue::Green, rgb.green);
-    setNumber(StopValue::Blue, rgb.blue);
+    const HSLValue hsl{static_cast<double>(stepperInteger(StopValue::Hue)),
+                       static_cast<double>(stepperInteger(StopValue::Saturation)),
+                       static_cast<double>(stepperInteger(StopValue::Lightness))};
+    const RGBValue rgb = hslToRGB(hsl);
+    logConversion(hsl, rgb);
+    showRGB(rgb);
     setColorBox(rgb.red, rgb.green, rgb.blue);
 }
 
-void StopControls::updateRGBFromColorBox() {
-    const RGBValue rgb = GlobalData::rgbValueOfAnNSColor(controls_.selectedColor->backgroundColor());
+void StopControls::showRGB(const RGBValue& rgb) {
     setNumber(StopValue::Red, rgb.red);
     setNumber(StopValue::Green, rgb.green);
     setNumber(StopValue::Blue, rgb.blue);
 }
 
+void StopControls::updateRGBFromColorBox() {
+    showRGB(rgbValueOfAnNSColor(controls_.selectedColor->backgroundColor()));
+}
+
 void StopControls::updateHSLFromColorBox() {
-    const HSLValue hsl = GlobalData::hslValueOfAnNSColor(controls_.selectedColor->backgroundColor());
+    const HSLValue hsl = hslValueOfAnNSColor(controls_.selectedColor->backgroundColor());
     setNumber(StopValue::Hue, static_cast<double>(truncated(hsl.hue)));
     setNumber(StopValue::Saturation, static_cast<double>(truncated(hsl.saturation)));
     setNumber(StopValue::Lightness, static_cast<double>(truncated(hsl.lightness)));
-}
-
-Color StopControls::generateSelectedColor(std::int64_t red, std::int64_t green, std::int64_t blue) {
-    const auto component = [](std::int64_t channel) {
-        return static_cast<double>(static_cast<float>(channel) / 255.0F);
-    };
-    return Color::calibratedRGB(component(red), component(green), component(blue));
 }
 
 void StopControls::showSelectedStop() {
@@ -191,7 +211,7 @@ void StopControls::showSelectedStop() {
 
 void StopControls::updateEnabledState() {
     const bool anyStop = markers_.selectedStop().has_value();
-    const std::int64_t code = GlobalData::sharedData().colorFormatType();
+    const std::int64_t code = record_.colorFormatType;
     if (colorFormat::isKnown(code)) {
         opacityEditable_ = colorFormat::carriesOpacity(code);
     }

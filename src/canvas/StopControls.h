@@ -3,7 +3,8 @@
 #include "canvas/ColorMarkers.h"
 #include "canvas/ControlInterfaces.h"
 #include "canvas/StopValue.h"
-#include "foundation/Notification.h"
+#include "model/ColorConversion.h"
+#include "model/GlobalData.h"
 
 #include <array>
 #include <functional>
@@ -27,49 +28,29 @@ struct StopControlSet {
 /// nothing while `formReady` is down, which it is while the controls are being written to.
 class StopControls {
   public:
-    /// `repaint` repaints the canvas; `announce` tells that the code is to be written anew.
-    StopControls(const StopControlSet& controls, ColorMarkers& markers, std::function<void()> repaint,
-                 std::function<void()> announce);
+    /// `repaint` repaints the canvas; `announce` tells that the code is to be written anew. Record and
+    /// markers must outlive the object.
+    StopControls(const StopControlSet& controls, GlobalData& record, ColorMarkers& markers,
+                 std::function<void()> repaint, std::function<void()> announce);
 
     /// The user changed a text field, or a stepper.
     void updateTextFieldValue(StopValue value);
     void updateStepperValue(StopValue value);
 
-    void updateRedTextFieldValue() { updateTextFieldValue(StopValue::Red); }
-    void updateGreenTextFieldValue() { updateTextFieldValue(StopValue::Green); }
-    void updateBlueTextFieldValue() { updateTextFieldValue(StopValue::Blue); }
-    void updateHueTextFieldValue() { updateTextFieldValue(StopValue::Hue); }
-    void updateSaturationTextFieldValue() { updateTextFieldValue(StopValue::Saturation); }
-    void updateLightnessTextFieldValue() { updateTextFieldValue(StopValue::Lightness); }
-    void updateSelectedPosTextFieldValue() { updateTextFieldValue(StopValue::Position); }
-    void updateSelectedOpacityTextFieldValue() { updateTextFieldValue(StopValue::Opacity); }
-    void updateRedStepperStepperValue() { updateStepperValue(StopValue::Red); }
-    void updateGreenStepperStepperValue() { updateStepperValue(StopValue::Green); }
-    void updateBlueStepperStepperValue() { updateStepperValue(StopValue::Blue); }
-    void updateHueStepperStepperValue() { updateStepperValue(StopValue::Hue); }
-    void updateSaturationStepperStepperValue() { updateStepperValue(StopValue::Saturation); }
-    void updateLightnessStepperStepperValue() { updateStepperValue(StopValue::Lightness); }
-    void updateSelectedPosStepperValue() { updateStepperValue(StopValue::Position); }
-    void updateSelectedOpacityStepperValue() { updateStepperValue(StopValue::Opacity); }
-
     void updateOrientationComboBoxValue();
     void updateColorFormatComboBoxValue();
 
     /// The colour well has a new colour.
-    void colorChangedNotification(const Notification& notification);
+    void colorChanged();
 
     /// Selects the item of the gradient's orientation, or nothing new for an unknown code.
     void updateOrientationTypeComboBox();
     /// Selects the item of the gradient's notation and enables the opacity accordingly.
     void updateColorFormatTypeComboBox();
 
-    void updateColorBoxFromRGB();
-    void updateColorBoxFromHSL();
+    /// Show the colour well's colour in the fields.
     void updateRGBFromColorBox();
     void updateHSLFromColorBox();
-
-    /// A colour from channels 0 ... 255, computed in single precision.
-    static Color generateSelectedColor(std::int64_t red, std::int64_t green, std::int64_t blue);
 
     /// Shows colour, position and opacity of the selected stop, if there is one, and then raises `formReady`.
     void showSelectedStop();
@@ -77,8 +58,8 @@ class StopControls {
     /// carries it.
     void updateEnabledState();
 
-    bool formReady() const { return formReady_; }
-    void setFormReady(bool ready) { formReady_ = ready; }
+    /// From now on what the controls report is user input.
+    void setFormReady() { formReady_ = true; }
 
   private:
     const StopControlSet::Pair& pair(StopValue value) const {
@@ -86,12 +67,16 @@ class StopControls {
     }
     void handle(const std::function<void()>& change);
     void apply(StopValue value);
+    void updateColorBoxFromRGB();
+    void updateColorBoxFromHSL();
+    void showRGB(const RGBValue& rgb);
     void setNumber(StopValue value, double number);
     void setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue);
     void takeColorBox(); ///< into the gradient
     std::int64_t stepperInteger(StopValue value) const;
 
     StopControlSet controls_;
+    GlobalData& record_;
     ColorMarkers& markers_;
     std::function<void()> repaint_;
     std::function<void()> announce_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Color.h"
+#include "foundation/RGBAComponents.h"
 
 #include <optional>
 

@@ -22,7 +22,8 @@ void DeclarationRanges::resize(Declaration declaration, std::size_t length) {
     }
 }
 
-void DeclarationRanges::followEdit(std::size_t position, std::size_t removed, std::size_t added) {
+void DeclarationRanges::follow(const TextEdit& edit) {
+    const auto& [position, removed, added] = edit;
     for (const Declaration declaration : allDeclarations) {
         TextRange& range = ranges_[declaration];
         std::size_t start = afterRemoval(range.location, position, removed);

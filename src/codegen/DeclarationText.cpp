@@ -64,7 +64,7 @@ std::string plainColorDeclaration(const Gradient& gradient, std::int64_t notatio
 // Always hexadecimal and always horizontal, whatever the gradient: deliberate, the filter knows no more.
 std::string filterDeclaration(const Gradient& gradient, std::int64_t /*notation*/) {
     const auto hexadecimal = [](const ColorStop& stop) {
-        return colorNotation::hexadecimalValueOfAnNSColor(stop.color).value_or(std::string{null});
+        return colorNotation::hexadecimalText(stop.color).value_or(std::string{null});
     };
     return "\tfilter: progid:DXImageTransform.Microsoft.gradient(\n\t\tstartColorstr='" +
            hexadecimal(gradient.stops().front()) + "',\n\t\tendColorstr='" +

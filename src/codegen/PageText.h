@@ -1,24 +1,23 @@
 #pragma once
 
-#include <array>
 #include <string_view>
 
 namespace tessaly {
 
-/// The page that shows the gradient in one box, line by line. It never changes, and its title is deliberately
-/// that of the page people have always copied.
-inline constexpr std::array<std::string_view, 12> pageLines{
-    "<!DOCTYPE html>\n",
-    "<html lang=\"en\">\n",
-    "<head>\n",
-    "\t<meta charset=\"utf-8\">\n",
-    "\t<link rel=\"stylesheet\" type=\"text/css\" href=\"styles.css\" media=\"screen\" />\n",
-    "\t<title>My Button</title>\n",
-    "</head>\n",
-    "<body>\n",
-    "\t<div class=\"gradient\">\n",
-    "\t</div>\n",
-    "</body>\n",
-    "</html>\n"};
+/// The page that shows the gradient in one box. It never changes, and its title is deliberately that of the
+/// page people have always copied.
+inline constexpr std::string_view pageText =
+    "<!DOCTYPE html>\n"
+    "<html lang=\"en\">\n"
+    "<head>\n"
+    "\t<meta charset=\"utf-8\">\n"
+    "\t<link rel=\"stylesheet\" type=\"text/css\" href=\"styles.css\" media=\"screen\" />\n"
+    "\t<title>My Button</title>\n"
+    "</head>\n"
+    "<body>\n"
+    "\t<div class=\"gradient\">\n"
+    "\t</div>\n"
+    "</body>\n"
+    "</html>\n";
 
 } // namespace tessaly

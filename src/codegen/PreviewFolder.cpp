@@ -68,6 +68,12 @@ bool PreviewFolder::isAtItsPath() const {
            held.st_dev == found.st_dev && held.st_ino == found.st_ino;
 }
 
+std::optional<FileState> PreviewFolder::stateOf(const std::string& name) const {
+    struct stat status {};
+    const bool found = ::fstatat(folder_.number(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+    return found ? std::optional{FileState{status}} : std::nullopt;
+}
+
 void PreviewFolder::write(const std::string& name, std::string_view contents) const {
     if (const std::error_code error = writeFileAtomically(folder_, name, contents)) {
         logFailure("Preview file not written", path_ / name, error);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Descriptor.h"
+#include "foundation/FileState.h"
 
 #include <filesystem>
 #include <optional>
@@ -32,6 +33,9 @@ class PreviewFolder {
 
     /// Whether the folder is still what is found at its path, with the page in it.
     bool isInPlace() const { return isAtItsPath() && hasPage(); }
+
+    /// Of one of the two files; none when it is missing.
+    std::optional<FileState> stateOf(const std::string& name) const;
 
     /// Replaces one of the two files as a whole. On failure the old file stays and the log tells.
     void write(const std::string& name, std::string_view contents) const;

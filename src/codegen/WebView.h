@@ -11,7 +11,6 @@ class WebView {
 
     virtual void loadFile(const std::filesystem::path& page) = 0;
     virtual void reload() = 0;
-    virtual void redisplay() = 0;
 };
 
 } // namespace tessaly

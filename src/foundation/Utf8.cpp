@@ -2,6 +2,8 @@
 
 #include "foundation/Utf16.h"
 
+#include <algorithm>
+
 namespace tessaly {
 namespace {
 
@@ -45,6 +47,9 @@ void append(std::string& out, char32_t codePoint) {
 } // namespace
 
 std::string toUtf8(std::u16string_view text) {
+    if (std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; })) { // generated code
+        return {text.begin(), text.end()};
+    }
     std::string out;
     out.reserve(text.size());
     while (!text.empty()) {

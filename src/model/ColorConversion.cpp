@@ -1,9 +1,5 @@
 #include "model/ColorConversion.h"
 
-#include "model/GlobalData.h"
-
-#include "foundation/DiagnosticLog.h"
-#include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
 
 #include <algorithm>
@@ -58,19 +54,18 @@ double valueAt(double t, double p, double q) {
     return p;
 }
 
-RGBValue logged(const RGBValue& rgb) {
-    DiagnosticLog::write("RGB: " + std::to_string(rgb.red) + ", " + std::to_string(rgb.green) + ", " +
-                         std::to_string(rgb.blue));
-    return rgb;
-}
-
 } // namespace
 
-RGBValue _rgbValueOfAnNSColor(const Color& color) {
+RGBValue rgbValueOfAnNSColor(const Color& color) {
+    // Rounding is deliberate: a full channel reads 256, the value that the rgb notations have always written.
+    return scaledChannels(color, [](double value) { return std::round(value); });
+}
+
+RGBValue bytesOf(const Color& color) {
     return scaledChannels(color, [](double value) { return std::trunc(value); });
 }
 
-HSLValue _hslValueOfAnNSColor(const Color& color) {
+HSLValue hslValueOfAnNSColor(const Color& color) {
     const auto& rgb = color.calibratedRGB();
     if (!rgb) {
         return {};
@@ -92,42 +87,31 @@ HSLValue _hslValueOfAnNSColor(const Color& color) {
     } else {
         hue = ((red - green) / difference + 4) * 60;
     }
-    return {hue, saturation * 100, lightness * 100};
+    hue = std::round(hue) + 0.0; // no negative zero, which would be written as such
+    return {hue < 0 ? hue + 360 : hue, saturation * 100, lightness * 100};
 }
 
-RGBValue GlobalData::rgbValueOfAnNSColor(const Color& color) {
-    // Rounding is deliberate: a full channel reads 256, the value that the rgb notations have always written.
-    return scaledChannels(color, [](double value) { return std::round(value); });
+std::array<double, 3> huePositions(double hue) {
+    const double turns = hue / 360;
+    return {wrappedOnce(turns + third), wrappedOnce(turns), wrappedOnce(turns - third)};
 }
 
-HSLValue GlobalData::hslValueOfAnNSColor(const Color& color) {
-    HSLValue hsl = _hslValueOfAnNSColor(color);
-    hsl.hue = std::round(hsl.hue) + 0.0; // no negative zero, which would be written as such
-    if (hsl.hue < 0) {
-        hsl.hue += 360;
-    }
-    return hsl;
-}
-
-RGBValue GlobalData::hslToRGB(const HSLValue& hsl) {
+RGBValue hslToRGB(const HSLValue& hsl) {
     const double lightness = hsl.lightness / 100;
     if (hsl.saturation == 0) {
         // Greys are cut, not rounded as colours are: deliberate, a half grey stays 127.
         const auto grey = channelFrom(lightness * 255);
-        return logged({grey, grey, grey});
+        return {grey, grey, grey};
     }
-    const double hue = hsl.hue / 360;
     const double saturation = hsl.saturation / 100;
     const double q =
         lightness < 0.5 ? lightness * (1 + saturation) : lightness + saturation - lightness * saturation;
     const double p = 2 * lightness - q;
-    const std::array positions{wrappedOnce(hue + third), wrappedOnce(hue), wrappedOnce(hue - third)};
-    DiagnosticLog::write("Temporary RGB: " + fixedText(positions[0], 6) + ", " + fixedText(positions[1], 6) +
-                         ", " + fixedText(positions[2], 6));
     const auto channel = [&](double position) {
         return channelFrom(std::round(valueAt(position, p, q) * 255));
     };
-    return logged({channel(positions[0]), channel(positions[1]), channel(positions[2])});
+    const auto [red, green, blue] = huePositions(hsl.hue);
+    return {channel(red), channel(green), channel(blue)};
 }
 
 } // namespace tessaly

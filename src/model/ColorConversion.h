@@ -2,6 +2,7 @@
 
 #include "model/Color.h"
 
+#include <array>
 #include <cstdint>
 
 namespace tessaly {
@@ -24,11 +25,19 @@ struct HSLValue {
     bool operator==(const HSLValue&) const = default;
 };
 
-/// Channels cut toward zero, so that a full one is 255; zeros for a colour without RGB form.
-RGBValue _rgbValueOfAnNSColor(const Color& color);
+/// Channels rounded, so that a full one is deliberately 256; zeros for a colour without RGB form.
+RGBValue rgbValueOfAnNSColor(const Color& color);
 
-/// Hue neither rounded nor brought into 0 ... 360: on the magenta side it is negative. Zeros for a colour
-/// without RGB form.
-HSLValue _hslValueOfAnNSColor(const Color& color);
+/// Channels cut toward zero, so that a full one is 255; zeros for a colour without RGB form.
+RGBValue bytesOf(const Color& color);
+
+/// Hue as a whole number 0 ... 360; zeros for a colour without RGB form.
+HSLValue hslValueOfAnNSColor(const Color& color);
+
+/// Where the hue falls on the way to RGB, in turns: once for each channel. They may lie outside 0 ... 1.
+std::array<double, 3> huePositions(double hue);
+
+/// Channels as computed, never clamped: hue 120 gives a red of -1.
+RGBValue hslToRGB(const HSLValue& hsl);
 
 } // namespace tessaly

@@ -3,30 +3,30 @@
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
-#include "model/GlobalData.h"
 #include "presets/PresetGalleryView.h"
 #include "presets/PresetNotification.h"
 
 namespace tessaly {
+namespace {
 
-PresetGallery::PresetGallery(PresetGalleryView& view, Actions actions)
-    : view_{view}, actions_{std::move(actions)} {
-    view_.setContainerSize(PresetSlotGeometry::containerSize(maxPresetGradientRow_));
+// Column and row, counting from 0, of a slot counting from 1.
+Point getPresetGradientItemPos(std::int64_t slot) {
+    DiagnosticLog::write("Index: " + std::to_string(slot));
+    const Point pos = PresetSlotGeometry::itemPos(slot);
+    DiagnosticLog::write("PosX: " + fixedText(pos.x, 6) + "; PosY: " + fixedText(pos.y, 6));
+    return pos;
 }
 
-void PresetGallery::observeNotifications() {
+} // namespace
+
+PresetGallery::PresetGallery(Gradient& edited, PresetGalleryView& view, Actions actions)
+    : edited_{edited}, view_{view}, actions_{std::move(actions)} {
+    view_.setContainerSize(PresetSlotGeometry::containerSize(maxPresetGradientRow_));
     NotificationCenter& center = NotificationCenter::defaultCenter();
     observations_ = {center.addObserver(presetNotification::gradientIndexChanged, nullptr,
                                         [this](const auto& n) { updateGradientNotification(n); }),
                      center.addObserver(presetNotification::deleteGradient, nullptr,
                                         [this](const auto& n) { deletePresetGradientNotification(n); })};
-}
-
-Point PresetGallery::getPresetGradientItemPos(std::int64_t slot) {
-    DiagnosticLog::write("Index: " + std::to_string(slot));
-    const Point pos = PresetSlotGeometry::itemPos(slot);
-    DiagnosticLog::write("PosX: " + fixedText(pos.x, 6) + "; PosY: " + fixedText(pos.y, 6));
-    return pos;
 }
 
 void PresetGallery::redrawPresetGradientContainer(bool force) {
@@ -46,7 +46,7 @@ void PresetGallery::redrawPresetGradientContainer(bool force) {
     view_.thumbnailsChanged();
 }
 
-void PresetGallery::append(Gradient gradient) {
+void PresetGallery::addGradientIntoPreset(Gradient gradient) {
     const Point pos = getPresetGradientItemPos(static_cast<std::int64_t>(presetGradient_.size()) + 1);
     presetGradient_.push_back({std::move(gradient), gradientIndex_++});
     maxPresetGradientRow_ = truncated(pos.y + 1);
@@ -55,20 +55,16 @@ void PresetGallery::append(Gradient gradient) {
 }
 
 void PresetGallery::addGradientIntoPreset(const void* sender) {
-    append(GlobalData::sharedData().gradient());
+    addGradientIntoPreset(edited_);
     if (sender != nullptr) {
         actions_.insertData();
     }
 }
 
-void PresetGallery::addGradientIntoPreset(Gradient gradient) {
-    append(std::move(gradient));
-}
-
 void PresetGallery::updateGradientNotification(const Notification& notification) {
     DiagnosticLog::write("updateGradientNotification");
     if (const Gradient* const gradient = presetNotification::gradientOf(notification)) {
-        GlobalData::sharedData().gradient() = *gradient;
+        edited_ = *gradient;
         actions_.presetApplied();
     }
 }

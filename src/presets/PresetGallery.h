@@ -23,35 +23,16 @@ class PresetGallery : public PresetList {
         std::function<void()> insertData;    ///< saves the list
     };
 
-    /// Gives the container the size of an empty gallery. The view must outlive the gallery.
-    PresetGallery(PresetGalleryView& view, Actions actions);
-
-    /// From now on follows the notifications of any thumbnail.
-    void observeNotifications();
+    /// Gives the container the size of an empty gallery and follows the notifications of any thumbnail. The
+    /// gradient being edited and the view must outlive the gallery.
+    PresetGallery(Gradient& edited, PresetGalleryView& view, Actions actions);
 
     const std::vector<Preset>& presetGradient() const override { return presetGradient_; }
     std::vector<Preset> takePresets() override { return std::exchange(presetGradient_, {}); }
     void setGradientIndex(std::int64_t index) override { gradientIndex_ = index; }
 
-    /// The `index` of the next preset.
-    std::int64_t gradientIndex() const { return gradientIndex_; }
-
-    /// Rows counted at the last add: a delete deliberately leaves them, so that the container keeps its
-    /// height under the mouse.
-    std::int64_t maxPresetGradientRow() const { return maxPresetGradientRow_; }
-
-    /// From one column to the next, in points: 52, or 49 when the container is as tall as the scroll view.
-    std::int64_t presetGradientThumbDistant() const { return presetGradientThumbDistant_; }
-
     /// Where the thumbnails lie now.
     PresetSlotGeometry slots() const { return PresetSlotGeometry{presetGradientThumbDistant_}; }
-
-    /// Column and row, counting from 0, of a slot counting from 1.
-    static Point getPresetGradientItemPos(std::int64_t slot);
-
-    /// Sizes the container and, when that changes the distance of the columns or `force` is set, lays out
-    /// every thumbnail anew and makes each `index` the position in the list.
-    void redrawPresetGradientContainer(bool force);
 
     /// Appends the gradient being edited; saves the list unless `sender` is null.
     void addGradientIntoPreset(const void* sender);
@@ -59,15 +40,20 @@ class PresetGallery : public PresetList {
     /// Appends a stored preset; saves nothing.
     void addGradientIntoPreset(Gradient gradient) override;
 
+  private:
     void updateGradientNotification(const Notification& notification);
     void deletePresetGradientNotification(const Notification& notification);
 
-  private:
-    void append(Gradient gradient);
+    /// Sizes the container and, when that changes the distance of the columns or `force` is set, lays out
+    /// every thumbnail anew and makes each `index` the position in the list.
+    void redrawPresetGradientContainer(bool force);
 
+    Gradient& edited_;
     PresetGalleryView& view_;
     Actions actions_;
     std::vector<Preset> presetGradient_;
+    /// Counted at the last add: a delete deliberately leaves them, so that the container keeps its height
+    /// under the mouse.
     std::int64_t maxPresetGradientRow_ = 0;
     std::int64_t presetGradientThumbDistant_ = PresetSlotGeometry::wideThumbDistant;
     std::int64_t gradientIndex_ = 0;

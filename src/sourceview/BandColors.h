@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Color.h"
+#include "foundation/RGBAComponents.h"
 
 /// The band behind the selected lines of a code view.
 namespace tessaly::bandColor {

@@ -29,19 +29,6 @@ double GutterLayout::requiredThickness() const {
     return std::ceil(singlePrecision(std::max(width, leastThickness)));
 }
 
-std::uint64_t GutterLayout::lineNumberForLocation(float location) const {
-    const double y = singlePrecision(static_cast<double>(location) + layout_.visibleRect().y);
-    for (std::size_t line = 0; line < lines_.count(); ++line) {
-        const std::vector<Rect> rectangles = layout_.rectanglesOfEmptyRange(lines_[line]);
-        const bool hit = std::any_of(rectangles.begin(), rectangles.end(),
-                                     [&](const Rect& r) { return r.y <= y && y < r.maxY(); });
-        if (hit) {
-            return line + 1;
-        }
-    }
-    return notFound;
-}
-
 std::vector<GutterLabel> GutterLayout::labels(double width,
                                               const std::function<bool(std::size_t)>& isMarked) const {
     std::vector<GutterLabel> labels;
@@ -75,8 +62,9 @@ GutterLabel GutterLayout::labelOf(std::size_t line, const Rect& row, double widt
     return {line, text, rectangle, y, row.height, marked};
 }
 
-Point GutterLayout::markerPosition(const GutterLabel& label, double width, Size image, double imageOriginY) {
-    return {width - image.width - markerMargin, label.rowY + label.rowHeight / 2 - imageOriginY};
+Rect GutterLayout::markerRect(const GutterLabel& label, double width, Size marker) {
+    return {width - marker.width - markerMargin, label.rowY + label.rowHeight / 2 - marker.height / 2,
+            marker.width, marker.height};
 }
 
 } // namespace tessaly

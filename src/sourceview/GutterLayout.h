@@ -3,9 +3,7 @@
 #include "foundation/Geometry.h"
 #include "sourceview/LineIndices.h"
 
-#include <cstdint>
 #include <functional>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -29,22 +27,16 @@ struct GutterLabel {
 /// outlive this object. Points, y downwards from the gutter's top edge.
 class GutterLayout {
   public:
-    static constexpr std::uint64_t notFound = std::numeric_limits<std::int64_t>::max();
-
     GutterLayout(const TextLayout& layout, const LineIndices& lines) : layout_{layout}, lines_{lines} {}
 
     /// Room for the digits of the last line's number, in whole points.
     double requiredThickness() const;
 
-    /// The 1-based line whose rows lie at that height of the gutter, or `notFound`. The text's inset is not
-    /// counted, unlike in `labels`; that is deliberate. Asks for the rectangles of line after line.
-    std::uint64_t lineNumberForLocation(float location) const;
-
     /// The labels of all visible lines; `isMarked` takes 0-based lines.
     std::vector<GutterLabel> labels(double width, const std::function<bool(std::size_t)>& isMarked) const;
 
-    /// Where the top left corner of a marker's image comes, `imageOriginY` of it at the middle of the row.
-    static Point markerPosition(const GutterLabel& label, double width, Size image, double imageOriginY);
+    /// Where a marker of that size comes, centred on the row.
+    static Rect markerRect(const GutterLabel& label, double width, Size marker);
 
   private:
     GutterLabel labelOf(std::size_t line, const Rect& row, double width, bool marked) const;

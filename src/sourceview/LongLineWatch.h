@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sourceview/TextEdit.h"
+#include "foundation/TextEdit.h"
 
 #include <optional>
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Geometry.h"
-#include "model/Color.h"
+#include "foundation/RGBAComponents.h"
 
 namespace tessaly {
 

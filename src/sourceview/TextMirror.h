@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sourceview/TextEdit.h"
+#include "foundation/TextEdit.h"
 
 #include <string>
 #include <string_view>

@@ -3,7 +3,6 @@
 #include "FuzzTarget.h"
 #include "foundation/DiagnosticLog.h"
 #include "presets/SqliteConnection.h"
-#include "support/Gradients.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
 
@@ -33,7 +32,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const std::optional<std::string> before = presetsIn(support.path / "original");
     auto program = std::make_unique<PresetProgram>(support.path);
-    resetToDefaultGradient();
     program->gallery.addGradientIntoPreset(&program);
     std::vector<Preset> saved = program->presets();
     program.reset();

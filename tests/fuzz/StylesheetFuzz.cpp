@@ -1,11 +1,10 @@
 // What a user does to the stylesheet between changes of the gradient: type, delete, undo.
 
 #include "FuzzTarget.h"
-#include "codegen/WebCode.h"
+#include "codegen/DeclarationText.h"
+#include "codegen/Stylesheet.h"
 #include "foundation/DiagnosticLog.h"
-#include "sourceview/TextEdit.h"
 #include "support/FakeCodeText.h"
-#include "support/FakeWebView.h"
 #include "support/Gradients.h"
 
 using namespace tessaly;
@@ -13,15 +12,15 @@ using namespace tessaly;
 constexpr char16_t typed = u'\u03BB'; // occurs in no declaration
 
 // What an update makes of a text in which nothing but typed letters lies around the declarations.
-static std::string rewritten(const std::u16string& text, const DeclarationRanges& ranges) {
+static std::string rewritten(const std::u16string& text, const DeclarationRanges& ranges,
+                             const GlobalData& record) {
     std::string result;
     std::size_t end = 0;
     for (const Declaration declaration : allDeclarations) {
         const std::size_t start = ranges[declaration].location;
         require(end <= start && start <= text.find_first_not_of(typed, end), "no old declaration stays");
         result += toUtf8(text.substr(end, start - end));
-        result += declarationText(declaration, GlobalData::sharedData().gradient(),
-                                  GlobalData::sharedData().colorFormatType());
+        result += declarationText(declaration, record.gradient, record.colorFormatType);
         end = ranges[declaration].end();
     }
     require(end <= text.size() && text.find_first_not_of(typed, end) == text.npos, "nor at the end");
@@ -31,17 +30,16 @@ static std::string rewritten(const std::u16string& text, const DeclarationRanges
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     DiagnosticLog::exchangeSink([](auto) {});
     FuzzedDataProvider input{data, size};
-    resetToDefaultGradient();
-    FakeCodeText html, css;
-    FakeWebView web;
-    WebCode code{html, css, web, {}};
-    code.insertCSS3Code();
+    GlobalData record = defaultRecord();
+    FakeCodeText css;
+    Stylesheet stylesheet{css};
+    stylesheet.insertCSS3Code(record.gradient, record.colorFormatType);
     const auto become = [&](const std::u16string& text) {
         const TextEdit edit = TextEdit::between(css.contents, text);
         css.contents = text;
-        code.stylesheetEdited(edit.position, edit.removed, edit.added);
+        stylesheet.edited(edit);
     };
-    become(css.contents.substr(28, css.length() - 30)); // without the frame
+    become(css.contents.substr(28, css.contents.size() - 30)); // without the frame
     while (input.remaining_bytes() > 0) {
         const std::u16string before = css.contents;
         const auto [place, removed] = anyRange(input, before.size());
@@ -53,11 +51,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const std::uint8_t seed = input.ConsumeIntegral<std::uint8_t>();
         if (seed > 99) {
             std::mt19937 random{seed};
-            setRandomGradient(random, 3);
-            const std::string expected = rewritten(css.contents, code.ranges());
-            code.updateBackgroundColorDataUpdatedNotification({});
+            record = randomRecord(random, 3);
+            const std::string expected = rewritten(css.contents, stylesheet.ranges(), record);
+            stylesheet.update(record.gradient, record.colorFormatType);
             require(css.utf8() == expected, "declarations are rewritten, and what was typed stays");
-            require(rewritten(css.contents, code.ranges()) == expected, "each declaration is in its range");
+            require(rewritten(css.contents, stylesheet.ranges(), record) == expected,
+                    "each declaration is in its range");
         }
     }
     return 0;

@@ -33,15 +33,11 @@ TEST(PresetSlotGeometry, hitTestAndVisibleRangeAgreeWithTheRectangles) {
 
 class PresetGalleryTest : public testing::Test {
   protected:
-    PresetGalleryTest() {
-        resetToDefaultGradient();
-        gallery.observeNotifications();
-    }
-
     const LogCapture log;
     FakeGalleryView view;
     int applied = 0, saves = 0;
-    PresetGallery gallery{view, {[this] { ++applied; }, [this] { ++saves; }}};
+    Gradient edited = defaultRecord().gradient;
+    PresetGallery gallery{edited, view, {[this] { ++applied; }, [this] { ++saves; }}};
 };
 
 TEST_F(PresetGalleryTest, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverDeletes) {
@@ -50,7 +46,7 @@ TEST_F(PresetGalleryTest, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverD
         {0, 125, 52}, {1, 170, 52}, {6, 215, 52}, {10, 215, 52}, {11, 260, 49}};
     for (const auto& [presets, height, distant] : rows) {
         for (auto number = std::ssize(gallery.presetGradient()); number < presets; ++number) {
-            GlobalData::sharedData().gradient().setOrientation(number); // tells the presets apart
+            edited.setOrientation(number); // tells the presets apart
             gallery.addGradientIntoPreset(number < 10 ? nullptr : this);
         }
         EXPECT_EQ(view.containerSize, (Size{263, height})) << presets;
@@ -70,19 +66,16 @@ TEST_F(PresetGalleryTest, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverD
 }
 
 TEST_F(PresetGalleryTest, appliesAPresetWithoutTyingItToTheGradient) {
-    GlobalData& data = GlobalData::sharedData();
-    data.setColorFormatType(colorFormat::hsla);
     Preset preset{
         Gradient{{{0.0, Color::white(), 0.2}, {0.5, Color::black()}, {1.0}, {1.0}}, orientation::radial}};
     preset.gradient.remove(0); // what that leaves behind goes with it
     const Notification change = presetNotification::makeGradientIndexChanged(preset, &view);
     NotificationCenter::defaultCenter().post(change);
-    EXPECT_EQ(data.colorFormatType(), colorFormat::hsla) << "the notation is no part of a preset";
     gallery.addGradientIntoPreset(nullptr);
-    data.gradient().remove(1);
+    edited.remove(1);
     EXPECT_EQ(gallery.presetGradient()[0], preset);
     NotificationCenter::defaultCenter().post(change);
-    EXPECT_EQ(data.gradient(), preset.gradient);
+    EXPECT_EQ(edited, preset.gradient);
     EXPECT_EQ(applied, 2);
 }
 

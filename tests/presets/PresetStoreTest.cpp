@@ -1,5 +1,6 @@
 #include "presets/PresetStore.h"
 
+#include "presets/PresetNotification.h"
 #include "support/Gradients.h"
 #include "support/LogCapture.h"
 #include "support/PresetProgram.h"
@@ -15,8 +16,6 @@ namespace fs = std::filesystem;
 
 class PresetStoreTest : public testing::Test {
   protected:
-    PresetStoreTest() { resetToDefaultGradient(); }
-
     PresetProgram start() const { return PresetProgram{support.path / "deep"}; }
 
     // What the sqlite3 shell answers.
@@ -28,7 +27,6 @@ class PresetStoreTest : public testing::Test {
     }
 
     LogCapture log;
-    GlobalData& data = GlobalData::sharedData();
     const TemporaryFolder support;
     const fs::path folder = support.path / "deep" / "Tessaly";
     const fs::path file = folder / "localDB.sqlite3";
@@ -40,14 +38,14 @@ TEST_F(PresetStoreTest, keepsWhatIsSavedInAPrivateFileForTheShellAndTheNextRun) 
         PresetProgram program = start();
         program.gallery.addGradientIntoPreset(nullptr);
         program.gallery.addGradientIntoPreset(nullptr);
-        data.gradient() = Gradient{{{1.0 / 3, Color::black()},
-                                    {1.0, Color::calibratedRGB(1, 0, 0, 0.3), 0.5},
-                                    {0.25, Color::withoutRGBForm(), 0.75},
-                                    {0.5, Color::black(), 0.1}},
-                                   orientation::diagonalToTopRight};
-        data.gradient().remove(3); // which leaves its opacity behind
+        program.record.gradient = Gradient{{{1.0 / 3, Color::black()},
+                                            {1.0, Color::calibratedRGB(1, 0, 0, 0.3), 0.5},
+                                            {0.25, Color::withoutRGBForm(), 0.75},
+                                            {0.5, Color::black(), 0.1}},
+                                           orientation::diagonalToTopRight};
+        program.record.gradient.remove(3); // which leaves its opacity behind
         program.gallery.addGradientIntoPreset(this);
-        program.gallery.deletePresetGradientNotification({"", this, {{"index", std::int64_t{1}}}});
+        NotificationCenter::defaultCenter().post(presetNotification::makeDeleteGradient(1, this));
         EXPECT_EQ(fs::status(file).permissions(), fs::perms{0600});
         presets = program.presets();
     }
@@ -85,7 +83,7 @@ TEST_F(PresetStoreTest, readsADatabaseMadeByHand) {
     const std::vector<Preset> expected{
         {Gradient{{{1.0, Color::calibratedRGB(0, 0, 1), 0.0}}, 9}, 0}, {Gradient{}, 1}, longest};
     EXPECT_EQ(program.presets(), expected);
-    program.gallery.deletePresetGradientNotification({"", nullptr, {{"index", std::int64_t{1}}}});
+    NotificationCenter::defaultCenter().post(presetNotification::makeDeleteGradient(1, nullptr));
     EXPECT_EQ(shell("select * from MainTable; select mainIndex from AdditionalTable"),
               "0|9\n1|4\n0\n1\n1\n1\n")
         << "renumbered, and the orphans are gone";
@@ -98,10 +96,10 @@ TEST_F(PresetStoreTest, numbersRowsByIndexAndByPlaceAndGoesOnAfterAFailedMainRow
                              "create trigger b before insert on AdditionalTable when new.position=0.25 "
                              "begin select raise(abort, 'no room'); end");
     program.gallery.setGradientIndex(7);
-    data.gradient() = Gradient{{{0.5}}};
+    program.record.gradient = Gradient{{{0.5}}};
     program.gallery.addGradientIntoPreset(nullptr);
     program.gallery.addGradientIntoPreset(nullptr);
-    data.gradient() = Gradient{{{0.5}, {0.25}, {1.0}}};
+    program.record.gradient = Gradient{{{0.5}, {0.25}, {1.0}}};
     program.gallery.addGradientIntoPreset(this);
     EXPECT_TRUE(log.has("Error while inserting: no row"));
     EXPECT_TRUE(log.has("Error while inserting: no room"));

@@ -8,7 +8,6 @@ namespace tessaly {
 struct FakeWebView : WebView {
     void loadFile(const std::filesystem::path& page) override { loaded = page; }
     void reload() override { ++reloads; }
-    void redisplay() override {}
 
     std::filesystem::path loaded;
     int reloads = 0;

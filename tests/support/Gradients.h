@@ -7,13 +7,12 @@
 namespace tessaly {
 
 /// Black to white, left to right, hexadecimal: what a fresh window shows.
-inline void resetToDefaultGradient() {
-    GlobalData::sharedData() = GlobalData{};
-    GlobalData::sharedData().gradient() = Gradient{{{0.0, Color::black()}, {1.0, Color::white()}}};
+inline GlobalData defaultRecord() {
+    return {Gradient{{{0.0, Color::black()}, {1.0, Color::white()}}}};
 }
 
-/// Any gradient that the record may hold: no stops at all, unsorted ones, left-over opacities, unknown codes.
-inline void setRandomGradient(std::mt19937& random, std::size_t mostStops = 12) {
+/// Any record that there may be: no stops at all, unsorted ones, left-over opacities, unknown codes.
+inline GlobalData randomRecord(std::mt19937& random, std::size_t mostStops = 12) {
     std::uniform_real_distribution<double> fraction{0.0, 1.0};
     std::uniform_int_distribution<std::int64_t> code{-1, 5};
     std::vector<ColorStop> stops(std::uniform_int_distribution<std::size_t>{0, mostStops}(random));
@@ -24,12 +23,12 @@ inline void setRandomGradient(std::mt19937& random, std::size_t mostStops = 12) 
             stop.color = Color::withoutRGBForm();
         }
     }
-    GlobalData& data = GlobalData::sharedData() = GlobalData{};
-    data.setColorFormatType(code(random));
-    data.gradient() = Gradient{std::move(stops), code(random)};
-    if (!data.gradient().stops().empty() && fraction(random) < 0.2) {
-        data.gradient().remove(0);
+    const std::int64_t notation = code(random);
+    GlobalData record{Gradient{std::move(stops), code(random)}, notation};
+    if (!record.gradient.stops().empty() && fraction(random) < 0.2) {
+        record.gradient.remove(0);
     }
+    return record;
 }
 
 } // namespace tessaly

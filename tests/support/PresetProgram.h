@@ -3,6 +3,7 @@
 #include "presets/PresetGallery.h"
 #include "presets/PresetGalleryView.h"
 #include "presets/PresetStore.h"
+#include "support/Gradients.h"
 
 #include <filesystem>
 
@@ -32,8 +33,9 @@ struct PresetProgram {
 
     const std::vector<Preset>& presets() const { return gallery.presetGradient(); }
 
+    GlobalData record = defaultRecord();
     FakeGalleryView view;
-    PresetGallery gallery{view, {[] {}, [this] { store.insertData(); }}};
+    PresetGallery gallery{record.gradient, view, {[] {}, [this] { store.insertData(); }}};
     PresetStore store;
 };
 

@@ -2,6 +2,7 @@
 
 #include "foundation/qt/Flipped.h"
 #include "model/qt/ColorBridge.h"
+#include "raster/DiscRaster.h"
 #include "raster/GradientRaster.h"
 
 #include <QPainter>
@@ -11,23 +12,24 @@
 namespace tessaly {
 namespace {
 
-// Rounded up, so that a fractional ratio leaves no edge uncovered.
-QImage transparentImage(Size size, double ratio) {
-    QImage image(static_cast<int>(std::ceil(size.width * ratio)),
-                 static_cast<int>(std::ceil(size.height * ratio)), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::transparent);
-    return image;
+constexpr RGBAComponents black;
+constexpr RGBAComponents white{1.0, 1.0, 1.0};
+constexpr RGBAComponents grey{0.5, 0.5, 0.5};
+
+// Within a line of one point, of which the fill covers the inner half.
+void drawOval(const PixelBuffer& buffer, const Rect& rect, const RGBAComponents& fill) {
+    const double radius = rect.width / 2;
+    fillDisc(buffer, rect.center(), radius + 0.5, black);
+    fillDisc(buffer, rect.center(), radius, fill);
 }
 
-// Stroked first, then filled: the fill covers the inner half of the line.
-void drawOval(QPainter& painter, const QRectF& rect, const QColor& fill) {
-    painter.setPen(QPen{Qt::black, 1});
-    painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(rect);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(fill);
-    painter.drawEllipse(rect);
+void drawColorMarker(const PixelBuffer& buffer, const CanvasScene::Marker& marker) {
+    const auto part = [&](const Rect& within) {
+        return Rect{marker.frame.x + within.x, marker.frame.y + within.y, within.width, within.height};
+    };
+    drawOval(buffer, part(CanvasGeometry::markerRing), white);
+    drawOval(buffer, part(CanvasGeometry::markerInnerRing), grey);
+    drawOval(buffer, marker.dot, marker.color.calibratedRGB().value_or(black));
 }
 
 } // namespace
@@ -38,8 +40,11 @@ void CanvasPicture::setMedium(double devicePixelRatio, const QColor& controlColo
     }
     devicePixelRatio_ = devicePixelRatio;
     controlColor_ = controlColor;
-    backgroundOffscreenRep_ = transparentImage(geometry_.viewSize(), devicePixelRatio);
-    createColorMarker();
+    // Rounded up, so that a fractional ratio leaves no edge uncovered.
+    const auto pixels = [&](double points) { return static_cast<int>(std::ceil(points * devicePixelRatio)); };
+    const auto [width, height] = geometry_.viewSize();
+    backgroundOffscreenRep_ = QImage(pixels(width), pixels(height), QImage::Format_ARGB32_Premultiplied);
+    backgroundOffscreenRep_.setDevicePixelRatio(devicePixelRatio);
     if (scene_) {
         paintScene();
     }
@@ -52,47 +57,34 @@ void CanvasPicture::paint(const CanvasScene& scene) {
     }
 }
 
-void CanvasPicture::createColorMarker() {
-    QImage marker = transparentImage(CanvasGeometry::colorMarkerSize, devicePixelRatio_);
-    QPainter painter{&marker};
-    painter.setRenderHint(QPainter::Antialiasing);
-    const double height = CanvasGeometry::colorMarkerSize.height;
-    drawOval(painter, flipped(CanvasGeometry::markerRing, height), Qt::white);
-    drawOval(painter, flipped(CanvasGeometry::markerInnerRing, height), QColor::fromRgbF(0.5F, 0.5F, 0.5F));
-    painter.end();
-    colorMarkerImage_ = QPixmap::fromImage(marker);
+PixelBuffer CanvasPicture::buffer() {
+    QImage& picture = backgroundOffscreenRep_;
+    auto* const pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
+    const auto count = static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
+    return {std::span{pixels, count}, picture.width(), picture.height(), devicePixelRatio_,
+            geometry_.viewSize().height};
 }
 
 void CanvasPicture::paintScene() {
-    paintGradient();
-    QPainter painter{&backgroundOffscreenRep_};
-    painter.setRenderHint(QPainter::Antialiasing);
+    backgroundOffscreenRep_.fill(controlColor_);
+    if (!scene_->gradient.stops().empty()) {
+        const GradientRamp ramp{scene_->gradient.stops(), scene_->opacity,
+                                *fromQColor(controlColor_).calibratedRGB()};
+        fillGradient(buffer(), {geometry_.strip(), geometry_.radialCenter(), geometry_.radialRadius()},
+                     scene_->gradient.orientation(), ramp);
+    }
     if (scene_->guideLine) {
-        paintGuideLine(painter, *scene_->guideLine);
+        paintGuideLine(*scene_->guideLine);
     }
     for (const CanvasScene::Marker& marker : scene_->markers) {
-        drawColorMarker(painter, marker);
+        drawColorMarker(buffer(), marker);
     }
 }
 
-void CanvasPicture::paintGradient() {
-    QImage& picture = backgroundOffscreenRep_;
-    picture.fill(controlColor_);
-    if (scene_->gradient.stops().empty()) {
-        return;
-    }
-    auto* const pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
-    const auto count = static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
-    const PixelBuffer buffer{std::span{pixels, count}, picture.width(), picture.height(), devicePixelRatio_,
-                             geometry_.viewSize().height};
-    const GradientRamp ramp{scene_->gradient.stops(), scene_->opacity,
-                            *fromQColor(controlColor_).calibratedRGB()};
-    fillGradient(buffer, {geometry_.strip(), geometry_.radialCenter(), geometry_.radialRadius()},
-                 scene_->gradient.orientation(), ramp);
-}
-
-void CanvasPicture::paintGuideLine(QPainter& painter, const GuideLine& guide) const {
+void CanvasPicture::paintGuideLine(const GuideLine& guide) {
     const double height = geometry_.viewSize().height;
+    QPainter painter{&backgroundOffscreenRep_};
+    painter.setRenderHint(QPainter::Antialiasing);
     QPen pen{Qt::black, 1};
     pen.setCapStyle(Qt::FlatCap);
     pen.setDashPattern({CanvasGeometry::guideDash[0], CanvasGeometry::guideDash[1]});
@@ -101,12 +93,6 @@ void CanvasPicture::paintGuideLine(QPainter& painter, const GuideLine& guide) co
     pen.setColor(Qt::white);
     painter.setPen(pen);
     painter.drawLine(flipped(guide.white.from, height), flipped(guide.white.to, height));
-}
-
-void CanvasPicture::drawColorMarker(QPainter& painter, const CanvasScene::Marker& marker) const {
-    const double height = geometry_.viewSize().height;
-    painter.drawPixmap(flipped(marker.frame, height).topLeft(), colorMarkerImage_);
-    drawOval(painter, flipped(marker.dot, height), toQColor(marker.color));
 }
 
 } // namespace tessaly

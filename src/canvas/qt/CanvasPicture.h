@@ -1,14 +1,11 @@
 #pragma once
 
 #include "canvas/CanvasScene.h"
+#include "raster/PixelBuffer.h"
 
 #include <QColor>
 #include <QImage>
-#include <QPixmap>
-#include <QRectF>
 #include <optional>
-
-class QPainter;
 
 namespace tessaly {
 
@@ -27,17 +24,14 @@ class CanvasPicture {
     const QImage& image() const { return backgroundOffscreenRep_; }
 
   private:
-    void createColorMarker();
+    PixelBuffer buffer();
     void paintScene();
-    void paintGradient();
-    void paintGuideLine(QPainter& painter, const GuideLine& guide) const;
-    void drawColorMarker(QPainter& painter, const CanvasScene::Marker& marker) const;
+    void paintGuideLine(const GuideLine& guide);
 
     const CanvasGeometry& geometry_;
     double devicePixelRatio_ = 0.0; ///< 0 before there is a medium
     QColor controlColor_;
     QImage backgroundOffscreenRep_;
-    QPixmap colorMarkerImage_;
     std::optional<CanvasScene> scene_;
 };
 

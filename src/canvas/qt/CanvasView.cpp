@@ -1,6 +1,5 @@
 #include "canvas/qt/CanvasView.h"
 
-#include "canvas/qt/StopControlPanel.h"
 #include "foundation/NumberText.h"
 #include "foundation/qt/Flipped.h"
 #include "foundation/qt/ToQString.h"
@@ -23,11 +22,10 @@ constexpr int shiftedStep = 10; // points that an arrow key moves a marker with 
 
 } // namespace
 
-CanvasView::CanvasView(StopControlPanel& panel, QWidget* parent)
+CanvasView::CanvasView(QWidget* parent)
     : QWidget{parent},
-      panel_{panel},
-      editor_{{viewSize.width(), viewSize.height()}, *this, panel.controlSet()},
-      picture_{editor_.geometry()},
+      geometry_{Size{viewSize.width(), viewSize.height()}},
+      picture_{geometry_},
       popupMenu_{new QMenu{this}} {
     installAccessibleItems();
     setFixedSize(viewSize);
@@ -35,12 +33,7 @@ CanvasView::CanvasView(StopControlPanel& panel, QWidget* parent)
     setAccessibleName(tr("Gradient canvas"));
     setToolTip(tr("Double click to add a stop, drag to move it"));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    popupMenu_->addAction(tr("Delete Marker"), this, [this] { editor_.interaction().deleteColorMarker(); });
-}
-
-void CanvasView::awakeFromNib(const PresetSteps& presets) {
-    panel_.connectTo(editor_.controls());
-    editor_.awakeFromNib(presets);
+    popupMenu_->addAction(tr("Delete Marker"), this, [this] { editor_->interaction().deleteColorMarker(); });
 }
 
 QSize CanvasView::sizeHint() const {
@@ -88,14 +81,13 @@ void CanvasView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 QRectF CanvasView::markerRect(const ColorStop& stop) const {
-    const Rect frame =
-        editor_.geometry().markerRect(GlobalData::sharedData().gradient().orientation(), stop.position);
+    const Rect frame = geometry_.markerRect(editor_->markers().gradient().orientation(), stop.position);
     return flipped(frame, height());
 }
 
 void CanvasView::mouseDown(const QMouseEvent& event, int clickCount) {
     if (event.button() == Qt::LeftButton) {
-        editor_.interaction().mouseDown(flipped(event.position(), height()), clickCount);
+        editor_->interaction().mouseDown(flipped(event.position(), height()), clickCount);
     }
 }
 
@@ -109,34 +101,34 @@ void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton)) {
-        editor_.interaction().mouseDragged(flipped(event->position(), height()));
+        editor_->interaction().mouseDragged(flipped(event->position(), height()));
     }
 }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        editor_.interaction().mouseUp();
+        editor_->interaction().mouseUp();
     }
 }
 
 void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
-    editor_.interaction().mouseUp(); // the menu takes the mouse, and with it the end of a drag
+    editor_->interaction().mouseUp(); // the menu takes the mouse, and with it the end of a drag
     if (event->reason() == QContextMenuEvent::Keyboard) {
         openMenuOfSelected();
-    } else if (editor_.interaction().rightMouseDown(flipped(event->pos(), height()))) {
+    } else if (editor_->interaction().rightMouseDown(flipped(event->pos(), height()))) {
         popupMenu_->popup(event->globalPos());
     }
 }
 
 void CanvasView::openMenuOfSelected() {
-    if (const auto stop = editor_.markers().selectedStop()) {
+    if (const auto stop = editor_->markers().selectedStop()) {
         popupMenu_->popup(mapToGlobal(markerRect(*stop).center().toPoint()));
     }
 }
 
 void CanvasView::keyPressEvent(QKeyEvent* event) {
     const int points = event->modifiers().testFlag(Qt::ShiftModifier) ? shiftedStep : 1;
-    MarkerInteraction& interaction = editor_.interaction();
+    MarkerInteraction& interaction = editor_->interaction();
     bool handled = true;
     switch (event->key()) {
     case Qt::Key_Left:
@@ -165,11 +157,11 @@ void CanvasView::keyPressEvent(QKeyEvent* event) {
 
 bool CanvasView::focusNextPrevChild(bool next) {
     // Tab goes from stop to stop; past the last one it leaves the canvas.
-    return editor_.interaction().selectNeighbour(next ? 1 : -1) || QWidget::focusNextPrevChild(next);
+    return editor_->interaction().selectNeighbour(next ? 1 : -1) || QWidget::focusNextPrevChild(next);
 }
 
 int CanvasView::accessibleItemCount() const {
-    return static_cast<int>(GlobalData::sharedData().gradient().stops().size());
+    return static_cast<int>(editor_->markers().gradient().stops().size());
 }
 
 QString CanvasView::accessibleItemName(int item) const {
@@ -177,26 +169,26 @@ QString CanvasView::accessibleItemName(int item) const {
 }
 
 QString CanvasView::accessibleItemDescription(int item) const {
-    const ColorStop stop = GlobalData::sharedData().gradient().stopAt(item).value_or(ColorStop{});
+    const ColorStop stop = editor_->markers().gradient().stopAt(item).value_or(ColorStop{});
     return tr("Position %1, color %2")
         .arg(toQString(fixedText(stop.position, 3)), toQColor(stop.color).name());
 }
 
 QRect CanvasView::accessibleItemRect(int item) const {
-    return markerRect(GlobalData::sharedData().gradient().stopAt(item).value_or(ColorStop{})).toAlignedRect();
+    return markerRect(editor_->markers().gradient().stopAt(item).value_or(ColorStop{})).toAlignedRect();
 }
 
 int CanvasView::currentAccessibleItem() const {
-    return editor_.markers().selectedStop() ? static_cast<int>(editor_.markers().selectedColorMarkerIndex())
-                                            : -1;
+    return editor_->markers().selectedStop() ? static_cast<int>(editor_->markers().selectedColorMarkerIndex())
+                                             : -1;
 }
 
 void CanvasView::pressAccessibleItem(int item) {
-    editor_.interaction().select(item);
+    editor_->interaction().select(item);
 }
 
 void CanvasView::openAccessibleItemMenu(int item) {
-    editor_.interaction().select(item);
+    editor_->interaction().select(item);
     openMenuOfSelected();
 }
 

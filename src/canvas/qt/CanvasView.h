@@ -11,22 +11,19 @@ class QMenu;
 
 namespace tessaly {
 
-class StopControlPanel;
-
 /// The gradient editor on the screen: shows the offscreen picture and hands mouse and keys on. Its size never
 /// changes, since the geometry is taken once.
 class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems {
     Q_OBJECT
 
   public:
-    /// The panel must outlive the view.
-    explicit CanvasView(StopControlPanel& panel, QWidget* parent = nullptr);
+    explicit CanvasView(QWidget* parent = nullptr);
 
-    /// Sets the editor up; once, when the window is wired.
-    void awakeFromNib(const PresetSteps& presets);
+    /// Hands mouse and keys to an editor, which outlives the view. Before that it may be painted on, not
+    /// used.
+    void edit(GradientEditor& editor) { editor_ = &editor; }
 
-    GradientEditor& editor() { return editor_; }
-    const QImage& picture() const { return picture_.image(); }
+    const CanvasGeometry& geometry() const { return geometry_; }
 
     void paint(const CanvasScene& scene) override;
     void setNeedsDisplay() override { update(); }
@@ -61,8 +58,8 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     void updateMedium();
     void announceToAssistiveTools();
 
-    StopControlPanel& panel_;
-    GradientEditor editor_;
+    CanvasGeometry geometry_;
+    GradientEditor* editor_ = nullptr;
     CanvasPicture picture_;
     QMenu* popupMenu_;
 

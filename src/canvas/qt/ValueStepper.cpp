@@ -23,8 +23,10 @@ ValueStepper::ValueStepper(const StopValueTraits& traits, QWidget* parent) : QDo
 }
 
 void ValueStepper::setValue(double value) {
-    const QSignalBlocker notByTheUser{this};
-    QDoubleSpinBox::setValue(value);
+    if (value != QDoubleSpinBox::value()) { // the toolkit would write and read it all the same
+        const QSignalBlocker notByTheUser{this};
+        QDoubleSpinBox::setValue(value);
+    }
 }
 
 QSize ValueStepper::sizeHint() const {

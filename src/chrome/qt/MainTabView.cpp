@@ -3,7 +3,7 @@
 #include "chrome/TabNotification.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/qt/Flipped.h"
-#include "model/qt/ColorBridge.h"
+#include "foundation/qt/ToQColor.h"
 
 #include <QApplication>
 #include <QFontMetricsF>

@@ -4,8 +4,8 @@
 #include "chrome/qt/WebAddressOpener.h"
 #include "chrome/qt/WebLabelAccessible.h"
 #include "foundation/DiagnosticLog.h"
+#include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
-#include "model/qt/ColorBridge.h"
 
 #include <QEvent>
 #include <QKeyEvent>

@@ -32,7 +32,6 @@ class WebPreviewView : public QWidget, public WebView {
 
     void loadFile(const std::filesystem::path& page) override;
     void reload() override;
-    void redisplay() override { update(); }
 
   protected:
     void showEvent(QShowEvent* event) override;

@@ -1,15 +1,9 @@
 #pragma once
 
+#include "foundation/qt/ToQColor.h"
 #include "model/Color.h"
 
-#include <QColor>
-
 namespace tessaly {
-
-inline QColor toQColor(const RGBAComponents& rgb) {
-    return QColor::fromRgbF(static_cast<float>(rgb.red), static_cast<float>(rgb.green),
-                            static_cast<float>(rgb.blue), static_cast<float>(rgb.alpha));
-}
 
 /// The toolkit's colour for one of ours; transparent for a colour without RGB form.
 inline QColor toQColor(const Color& color) {
@@ -24,12 +18,6 @@ inline Color fromQColor(const QColor& color) {
     const QColor rgb = color.toRgb();
     return Color::calibratedRGB(static_cast<double>(rgb.redF()), static_cast<double>(rgb.greenF()),
                                 static_cast<double>(rgb.blueF()), static_cast<double>(rgb.alphaF()));
-}
-
-/// Whether light text belongs on it.
-inline bool isDark(const QColor& background) {
-    constexpr int middle = 128; // of 255
-    return background.lightness() < middle;
 }
 
 } // namespace tessaly

@@ -20,7 +20,7 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
   public:
     explicit PresetGradienContainerView(QWidget* parent = nullptr);
 
-    /// The gallery shown here; it must outlive the view, or be taken away before.
+    /// The gallery shown here; it must outlive the view.
     void setGallery(const PresetGallery* gallery) { gallery_ = gallery; }
 
     /// The number of thumbnails, or their places, changed.

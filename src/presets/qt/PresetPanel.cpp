@@ -59,13 +59,8 @@ PresetPanel::PresetPanel(QWidget* parent)
 
 void PresetPanel::connectTo(PresetGallery& gallery) {
     presetGradienContainerView_->setGallery(&gallery);
-    adding_ = connect(addButton_, &QPushButton::clicked, this,
-                      [this, &gallery] { gallery.addGradientIntoPreset(addButton_); });
-}
-
-void PresetPanel::disconnectFromGallery() {
-    presetGradienContainerView_->setGallery(nullptr);
-    disconnect(adding_);
+    connect(addButton_, &QPushButton::clicked, this,
+            [this, &gallery] { gallery.addGradientIntoPreset(addButton_); });
 }
 
 double PresetPanel::scrollViewHeight() const {

@@ -19,9 +19,8 @@ class PresetPanel : public QWidget, public PresetGalleryView {
   public:
     explicit PresetPanel(QWidget* parent = nullptr);
 
-    /// Shows a gallery and lets the button add to it, until the gallery is taken away again before it ends.
+    /// Shows a gallery, which outlives the panel, and lets the button add to it.
     void connectTo(PresetGallery& gallery);
-    void disconnectFromGallery();
 
     double scrollViewHeight() const override;
     void setContainerSize(Size size) override;
@@ -29,7 +28,6 @@ class PresetPanel : public QWidget, public PresetGalleryView {
 
   private:
     QPushButton* addButton_;
-    QMetaObject::Connection adding_;
     QScrollArea* presetGradienContainerScrollView_;
     PresetGradienContainerView* presetGradienContainerView_;
 };

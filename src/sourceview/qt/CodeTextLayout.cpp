@@ -13,17 +13,16 @@ Rect fromQt(const QRectF& r) {
 } // namespace
 
 std::vector<Rect> CodeTextLayout::rectanglesOfEmptyRange(std::size_t offset) const {
-    const QRectF row = view_ != nullptr ? view_->rectangleOfRowAt(offset) : QRectF{};
+    const QRectF row = view_.rectangleOfRowAt(offset);
     return row.isNull() ? std::vector<Rect>{} : std::vector{fromQt(row)};
 }
 
 TextRange CodeTextLayout::charactersIn(const Rect& rectangle) const {
-    const QRectF area{rectangle.x, rectangle.y, rectangle.width, rectangle.height};
-    return view_ != nullptr ? view_->charactersIn(area) : TextRange{};
+    return view_.charactersIn({rectangle.x, rectangle.y, rectangle.width, rectangle.height});
 }
 
 Rect CodeTextLayout::visibleRect() const {
-    return view_ != nullptr ? fromQt(view_->visibleRect()) : Rect{};
+    return fromQt(view_.visibleRect());
 }
 
 Size CodeTextLayout::sizeOf(std::string_view label) const {

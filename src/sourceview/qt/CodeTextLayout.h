@@ -8,12 +8,11 @@ namespace tessaly {
 
 class CustomTextView;
 
-/// What a text view has laid out, as the gutter asks for it. Without a view there is nothing but the
-/// measuring of labels.
+/// What a text view has laid out, as the gutter asks for it.
 class CodeTextLayout : public TextLayout {
   public:
-    /// The view may be null; it must outlive this object.
-    CodeTextLayout(const CustomTextView* view, const QFont& labelFont) : view_{view}, metrics_{labelFont} {}
+    /// The view must outlive this object.
+    CodeTextLayout(const CustomTextView& view, const QFont& labelFont) : view_{view}, metrics_{labelFont} {}
 
     std::vector<Rect> rectanglesOfEmptyRange(std::size_t offset) const override;
     TextRange charactersIn(const Rect& rectangle) const override;
@@ -24,7 +23,7 @@ class CodeTextLayout : public TextLayout {
     Size sizeOf(std::string_view label) const override;
 
   private:
-    const CustomTextView* view_;
+    const CustomTextView& view_;
     QFontMetricsF metrics_;
 };
 

@@ -1,15 +1,19 @@
 #include "sourceview/qt/CustomTextView.h"
 
+#include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
+#include "sourceview/BandColors.h"
 #include "sourceview/qt/CodeDocumentLayout.h"
 #include "sourceview/qt/ExactText.h"
 
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextLayout>
 #include <algorithm>
 #include <utility>
 
@@ -35,10 +39,6 @@ CustomTextView::CustomTextView(QWidget* parent) : QPlainTextEdit{parent} {
     connect(this, &QPlainTextEdit::textChanged, this, &CustomTextView::redisplay);
 }
 
-void CustomTextView::setText(std::u16string_view text) {
-    replaceCharacters({0, length()}, text);
-}
-
 void CustomTextView::replaceCharacters(TextRange range, std::u16string_view text) {
     const std::size_t location = std::min(range.location, length());
     const std::u16string stored = storedText(text);
@@ -62,9 +62,11 @@ void CustomTextView::replaceUnrecorded(const TextEdit& edit, std::u16string_view
         const QScopedValueRollback writing{writing_, true};
         document()->setUndoRedoEnabled(false);
         QTextCursor editor{document()};
+        editor.beginEditBlock(); // within one, the toolkit does not lay lines out to see where this cursor is
         editor.setPosition(static_cast<int>(edit.position));
         editor.setPosition(static_cast<int>(edit.position + edit.removed), QTextCursor::KeepAnchor);
         insertInto(editor, added);
+        editor.endEditBlock();
         document()->setUndoRedoEnabled(true);
     }
     QTextCursor cursor = textCursor();
@@ -77,27 +79,9 @@ void CustomTextView::replaceUnrecorded(const TextEdit& edit, std::u16string_view
     verticalScrollBar()->setValue(scroll.second);
 }
 
-void CustomTextView::insertText(std::u16string_view text) {
-    const TextRange replaced = selection();
-    replaceCharacters(replaced, text);
-    setSelection({replaced.location + storedText(text).size(), 0});
-}
-
-void CustomTextView::setSelection(TextRange selection) {
-    const auto within = [&](std::size_t offset) { return static_cast<int>(std::min(offset, length())); };
-    QTextCursor cursor = textCursor();
-    cursor.setPosition(within(selection.location));
-    cursor.setPosition(within(selection.end()), QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
-}
-
 TextRange CustomTextView::selection() const {
     const auto start = static_cast<std::size_t>(textCursor().selectionStart());
     return {start, static_cast<std::size_t>(textCursor().selectionEnd()) - start};
-}
-
-void CustomTextView::moveToBeginningOfDocument() {
-    moveCursor(QTextCursor::Start);
 }
 
 QString CustomTextView::rawText(std::size_t position, std::size_t length) const {
@@ -128,7 +112,7 @@ void CustomTextView::noteChange(int position, int removed, int added) {
 
 void CustomTextView::reportEdits() {
     if (const auto edit = std::exchange(unreported_, std::nullopt)) {
-        Q_EMIT userEdited(edit->position, edit->removed, edit->added);
+        Q_EMIT userEdited(*edit);
     }
 }
 
@@ -154,14 +138,8 @@ void CustomTextView::setWrapping(bool wrapping) {
     setFont(typeface);
 }
 
-QStringList CustomTextView::readablePasteboardTypes() {
-    return {QStringLiteral("text/plain")};
-}
-
 bool CustomTextView::canInsertFromMimeData(const QMimeData* source) const {
-    const QStringList types = readablePasteboardTypes();
-    return std::any_of(types.begin(), types.end(),
-                       [source](const QString& type) { return source->hasFormat(type); });
+    return source->hasFormat(QStringLiteral("text/plain"));
 }
 
 void CustomTextView::insertFromMimeData(const QMimeData* source) {
@@ -197,6 +175,106 @@ bool CustomTextView::leave(bool forwards) {
     const bool left = QPlainTextEdit::focusNextPrevChild(forwards);
     setTabChangesFocus(false);
     return left;
+}
+
+void CustomTextView::paintEvent(QPaintEvent* event) {
+    {
+        QPainter painter{viewport()};
+        drawViewBackgroundInRect(painter, event->rect());
+    }
+    QPlainTextEdit::paintEvent(event); // the text; the background is the viewport's own
+}
+
+void CustomTextView::drawViewBackgroundInRect(QPainter& painter, const QRectF& rectangle) const {
+    const QRectF band = highlightRectForRange(selection()).toAlignedRect();
+    if (!band.intersects(rectangle)) {
+        return;
+    }
+    painter.save();
+    painter.setOpacity(bandColor::strength(isDark(palette().color(QPalette::Base))));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(band, toQColor(bandColor::fill));
+    painter.setPen(QPen{toQColor(bandColor::border), 1});
+    painter.drawRect(band.adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
+QRectF CustomTextView::highlightRectForRange(TextRange range) const {
+    const std::size_t last = range.length == 0 ? range.location : range.end() - 1;
+    const QRectF rows = rowRectangle(range.location).united(rowRectangle(last));
+    return {0, rows.y() + contentOffset().y(), static_cast<double>(viewport()->width()), rows.height()};
+}
+
+// Lays the row's block out if it is not yet.
+QRectF CustomTextView::rowRectangle(std::size_t offset) const {
+    const int position = static_cast<int>(std::min(offset, length()));
+    const QTextBlock block = document()->findBlock(position);
+    const QRectF geometry = blockBoundingGeometry(block);
+    const QTextLine row = block.layout()->lineForTextPosition(position - block.position());
+    return row.isValid() ? row.rect().translated(geometry.topLeft()) : geometry;
+}
+
+QRectF CustomTextView::rectangleOfRowAt(std::size_t offset) const {
+    const int position = static_cast<int>(std::min(offset, length()));
+    const QTextBlock block = document()->findBlock(position);
+    const QTextLine row = block.layout()->lineForTextPosition(position - block.position());
+    // The toolkit starts no row behind NEL; the row has its number already.
+    const bool starts = row.isValid() && block.position() + row.textStart() == position;
+    return starts ? rowRectangle(offset) : QRectF{};
+}
+
+QRectF CustomTextView::visibleRect() const {
+    return {-contentOffset(), viewport()->size()};
+}
+
+TextRange CustomTextView::charactersIn(const QRectF& rectangle) const {
+    QTextBlock block = firstVisibleBlock();
+    double top = blockBoundingGeometry(block).top();
+    int from = -1;
+    int to = block.position();
+    for (; block.isValid() && top < rectangle.bottom(); block = block.next()) {
+        const double height = blockBoundingRect(block).height(); // lays the block out
+        for (int i = 0; i < block.layout()->lineCount(); ++i) {
+            const QTextLine row = block.layout()->lineAt(i);
+            const QRectF place = row.rect().translated(0, top);
+            if (place.bottom() > rectangle.top() && place.top() < rectangle.bottom()) {
+                from = from < 0 ? block.position() + row.textStart() : from;
+                to = block.position() + row.textStart() + row.textLength() +
+                     (i + 1 == block.layout()->lineCount() ? 1 : 0); // with the end of the line
+            }
+        }
+        top += height;
+    }
+    const auto start = static_cast<std::size_t>(from < 0 ? to : from);
+    return {start, std::min(static_cast<std::size_t>(to), length()) - start};
+}
+
+void CustomTextView::setVerticalRuler(QWidget* ruler, int width) {
+    ruler_ = ruler;
+    ruler->setParent(this);
+    ruler->setBackgroundRole(QPalette::Base);
+    ruler->setAutoFillBackground(true);
+    setViewportMargins(width, 0, 0, 0);
+    placeRuler();
+    ruler->show();
+}
+
+void CustomTextView::placeRuler() {
+    if (ruler_ != nullptr) {
+        const QRect area = viewport()->geometry();
+        const int width = viewportMargins().left();
+        ruler_->setGeometry(area.left() - width, area.top(), width, area.height());
+    }
+}
+
+void CustomTextView::resizeEvent(QResizeEvent* event) {
+    QPlainTextEdit::resizeEvent(event);
+    placeRuler();
+}
+
+void CustomTextView::scrollContentsBy(int dx, int dy) {
+    QPlainTextEdit::scrollContentsBy(dx, dy);
+    redisplay(); // the band does not move sideways with the text
 }
 
 } // namespace tessaly

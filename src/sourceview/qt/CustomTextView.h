@@ -4,7 +4,6 @@
 #include "sourceview/LongLineWatch.h"
 #include "sourceview/TextMirror.h"
 
-#include <QColor>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <cstdint>
@@ -26,40 +25,25 @@ class CustomTextView : public QPlainTextEdit {
   public:
     explicit CustomTextView(QWidget* parent = nullptr);
 
-    /// Gives the band its colours; without them it is not drawn.
-    void awakeFromNib();
-
-    /// -31 from the start. The view itself never reads it.
-    std::int64_t currentInsertionPoint() const { return currentInsertionPoint_; }
-    QColor textViewSelectColor() const { return textViewSelectColor_; }
-    QColor textViewSelectColorBorder() const { return textViewSelectColorBorder_; }
+    /// Always -31: kept, though nobody reads it, for whoever learns from it that the caret was never
+    /// followed.
+    static constexpr std::int64_t currentInsertionPoint = -31;
 
     /// The whole text; valid until it changes.
     std::u16string_view text() const { return mirror_.text(); }
     std::size_t length() const { return text().size(); }
-
-    /// Replaces the whole text, as `replaceCharacters` does.
-    void setText(std::u16string_view text);
 
     /// Replaces a range; what of it lies outside the text is ignored. Only the part that differs is touched,
     /// so equal text leaves the undo history alone. The caret, the selection and the scroll position stay,
     /// the first two beside the text that they stood in.
     void replaceCharacters(TextRange range, std::u16string_view text);
 
-    /// Replaces the selection and puts the caret behind the text.
-    void insertText(std::u16string_view text);
-    void setSelection(TextRange selection);
     TextRange selection() const;
-    void moveToBeginningOfDocument();
     void redisplay() { viewport()->update(); }
-
-    /// The mime types that are read from the clipboard and from drops.
-    static QStringList readablePasteboardTypes();
 
     /// The band for that selection, in the viewport's coordinates: the full width, and the rows that the
     /// range touches.
     QRectF highlightRectForRange(TextRange range) const;
-    void drawViewBackgroundInRect(QPainter& painter, const QRectF& rectangle) const;
 
     /// The rectangle of the laid-out row that starts at that offset, in the coordinates of the text; null
     /// when it is not laid out yet or no row starts there.
@@ -75,8 +59,8 @@ class CustomTextView : public QPlainTextEdit {
     void setVerticalRuler(QWidget* ruler, int width);
 
   Q_SIGNALS:
-    /// The user, not the program, replaced `removed` units at `position` by `added` others.
-    void userEdited(std::size_t position, std::size_t removed, std::size_t added);
+    /// By the user, not the program.
+    void userEdited(const tessaly::TextEdit& edit);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -98,10 +82,8 @@ class CustomTextView : public QPlainTextEdit {
     bool leave(bool forwards);
     QString rawText(std::size_t position, std::size_t length) const;
     QRectF rowRectangle(std::size_t offset) const;
+    void drawViewBackgroundInRect(QPainter& painter, const QRectF& rectangle) const;
 
-    std::int64_t currentInsertionPoint_ = -31;
-    QColor textViewSelectColor_;
-    QColor textViewSelectColorBorder_;
     TextMirror mirror_;
     LongLineWatch longLines_;
     std::optional<TextEdit> unreported_; ///< all edits since the last report, as one

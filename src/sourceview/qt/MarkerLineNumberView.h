@@ -1,28 +1,54 @@
 #pragma once
 
-#include "sourceview/qt/WendleLineNumberView.h"
+#include "sourceview/GutterLayout.h"
+#include "sourceview/LineIndices.h"
+#include "sourceview/qt/CodeTextLayout.h"
+
+#include <QTimer>
+#include <QWidget>
+#include <cstdint>
+#include <optional>
+#include <set>
 
 namespace tessaly {
 
-/// The gutter of the code views. It supplies the image of a marker, a tag as wide as the gutter. A click only
-/// redraws it.
-class MarkerLineNumberView : public WendleLineNumberView {
+class CustomTextView;
+
+/// The gutter of a code view: the numbers of its lines, counted from 1. A click only redraws it.
+class MarkerLineNumberView : public QWidget {
     Q_OBJECT
 
   public:
-    using WendleLineNumberView::WendleLineNumberView;
+    /// Becomes the ruler of that view.
+    explicit MarkerLineNumberView(CustomTextView& textView);
 
-    void setRuleThickness(double thickness) override;
+    /// In points.
+    double requiredThickness() const;
 
-    /// Made on the first request, in that size; a later request returns the same image as it is.
-    std::shared_ptr<RulerImage> markerImageWithSize(QSizeF size);
-    static void drawMarkerImageIntoRep(QPainter& painter, QSizeF size);
+    /// Lines with a tag under their number, one at most. This program marks none; it is kept, and kept
+    /// working, for a build that points at lines.
+    void setMarkers(const std::set<std::uint32_t>& lines);
+    void addMarker(std::uint32_t line);
+    void removeMarker(std::uint32_t line);
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
-    std::shared_ptr<RulerImage> markerImage_;
+    static QFont labelFont();
+
+    CodeTextLayout textLayout() const { return {textView_, labelFont()}; }
+    const LineIndices& lineIndices();
+    void textDidChange();
+    void setRuleThickness();
+    void redrawWithText(const QRect& changed, int scrolled);
+
+    CustomTextView& textView_;
+    std::optional<LineIndices> lineIndices_; ///< absent: invalid
+    std::set<std::uint32_t> markedLines_;
+    double ruleThickness_ = 0.0;
+    QTimer widthChange_; ///< on the next pass of the event loop
 };
 
 } // namespace tessaly

@@ -1,5 +1,6 @@
 #include "sourceview/qt/SourceView.h"
 
+#include "sourceview/qt/CustomTextView.h"
 #include "sourceview/qt/MarkerLineNumberView.h"
 
 #include <QVBoxLayout>
@@ -7,11 +8,8 @@
 namespace tessaly {
 
 SourceView::SourceView(const QString& accessibleName, QWidget* parent)
-    : QWidget{parent},
-      textView_{new CustomTextView{this}},
-      lineNumberView_{new MarkerLineNumberView{textView_}} {
-    lineNumberView_->install();
-    textView_->awakeFromNib();
+    : QWidget{parent}, textView_{new CustomTextView{this}} {
+    new MarkerLineNumberView{*textView_}; // which owns it
     textView_->setAccessibleName(accessibleName);
     setFocusProxy(textView_);
     auto* const layout = new QVBoxLayout{this};

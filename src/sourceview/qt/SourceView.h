@@ -5,22 +5,18 @@
 namespace tessaly {
 
 class CustomTextView;
-class MarkerLineNumberView;
 
-/// A page of the code area: a code view with its gutter, and nothing of its own.
+/// A page of the code area: a code view with its gutter.
 class SourceView : public QWidget {
     Q_OBJECT
 
   public:
-    CustomTextView* textView() const { return textView_; }
-    MarkerLineNumberView* lineNumberView() const { return lineNumberView_; }
+    explicit SourceView(const QString& accessibleName, QWidget* parent = nullptr);
 
-  protected:
-    SourceView(const QString& accessibleName, QWidget* parent);
+    CustomTextView& textView() const { return *textView_; }
 
   private:
     CustomTextView* textView_;
-    MarkerLineNumberView* lineNumberView_;
 };
 
 } // namespace tessaly

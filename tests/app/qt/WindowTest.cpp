@@ -8,11 +8,10 @@
 #include "chrome/qt/MainTabView.h"
 #include "codegen/qt/WebPreviewView.h"
 #include "foundation/Utf8.h"
-#include "sourceview/qt/Css3SourceView.h"
 #include "sourceview/qt/CustomTextView.h"
+#include "sourceview/qt/SourceView.h"
 #include "support/Eventually.h"
 #include "support/LogCapture.h"
-#include "support/NoPresets.h"
 #include "support/Palettes.h"
 #include "support/RenderProcess.h"
 #include "support/TemporaryFolder.h"
@@ -33,31 +32,26 @@ namespace {
 class WindowTest : public testing::Test {
   protected:
     WindowTest() {
-        GlobalData::sharedData() = GlobalData{};
-        window.canvasView().awakeFromNib(noPresets);
-        tessaly.awakeFromNib();
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
 
-    std::string stylesheet() const {
-        return toUtf8(std::u16string{window.css3SourceView().textView()->text()});
-    }
+    std::string stylesheet() const { return toUtf8(views.stylesheet->textView().text()); }
     std::string stylesheetFile() const { return contentsOf(temporary.path / "WebFolder0" / "styles.css"); }
 
     void dragWhiteMarker(int dx) {
-        CanvasView& canvas = window.canvasView();
+        CanvasView& canvas = *views.canvas;
         const QPoint marker = canvas.accessibleItemRect(canvas.currentAccessibleItem()).center();
         QTest::mousePress(&canvas, Qt::LeftButton, {}, marker);
         QTest::mouseMove(&canvas, marker + QPoint{dx, 0});
         QTest::mouseRelease(&canvas, Qt::LeftButton, {}, marker + QPoint{dx, 0});
     }
 
-    QWidget* shownPage() const { return window.sourceCodeContainerView().currentWidget(); }
+    QWidget* shownPage() const { return views.sourceCodeContainer->currentWidget(); }
 
     // The level of grey that the screen shows at that share of the width of the preview's box, or below it.
     int previewLevel(double share, int y = 100) const {
-        const WebPreviewView& preview = window.webPreviewView();
+        const WebPreviewView& preview = *views.preview;
         constexpr int bodyMargin = 8;
         const int x = bodyMargin + static_cast<int>((preview.width() - 2 * bodyMargin) * share);
         const QPoint place = preview.mapTo(&window, QPoint{x, y});
@@ -70,20 +64,21 @@ class WindowTest : public testing::Test {
 
     const LogCapture log;
     const TemporaryFolder temporary;
-    MainWindow window;
-    Tessaly tessaly{window, temporary.path};
+    Tessaly program{temporary.path, temporary.path};
+    MainWindow& window = program.mainWindow();
+    const MainWindow::Views& views = window.views();
 };
 
 TEST_F(WindowTest, aDraggedMarkerReachesTextFileAndPreview) {
-    EXPECT_EQ(shownPage(), &window.css3SourceView());
+    EXPECT_EQ(shownPage(), views.stylesheet);
     dragWhiteMarker(-292);
     EXPECT_NE(stylesheet().find("#ffffff 50%);"), std::string::npos) << stylesheet();
     EXPECT_EQ(stylesheetFile(), stylesheet());
 
     window.setPalette(darkPalette());
     const WId windowId = window.winId();
-    window.mainTabView().setSelectIndex(2);
-    EXPECT_EQ(shownPage(), &window.webPreviewView());
+    views.tabs->setSelectIndex(2);
+    EXPECT_EQ(shownPage(), views.preview);
     EXPECT_TRUE(previewComesToShow(0.25, 127));
     EXPECT_EQ(previewLevel(0.5, 270), 255) << "a page's white, on a dark desktop too";
     for (const int pause : {0, 5, 10, 15, 20, 25, 30, 40}) { // mostly shorter than the page takes to load
@@ -105,21 +100,21 @@ TEST_F(WindowTest, aDraggedMarkerReachesTextFileAndPreview) {
 TEST_F(WindowTest, thePreviewReadsItsOwnTwoFilesAndNothingElse) {
     const auto secret = temporary.path / "secret.css";
     std::ofstream{secret} << "div{background:red !important}";
-    window.css3SourceView().textView()->textCursor().insertText(QStringLiteral("@import '../secret.css';\n"));
+    views.stylesheet->textView().textCursor().insertText(QStringLiteral("@import '../secret.css';\n"));
     dragWhiteMarker(-292);
-    window.mainTabView().setSelectIndex(2);
+    views.tabs->setSelectIndex(2);
     EXPECT_TRUE(previewComesToShow(0.25, 127));
 }
 
 TEST_F(WindowTest, listensToItsOwnTabsAndKeepsWhatTheUserTyped) {
     const int stranger = 0;
     NotificationCenter::defaultCenter().post({"SelectIndexChanged", &stranger, {{"Index", std::int64_t{1}}}});
-    EXPECT_EQ(shownPage(), &window.css3SourceView());
-    QTest::mouseClick(&window.copyButton(), Qt::LeftButton);
-    EXPECT_TRUE(window.copyButton().text().startsWith(QStringLiteral("Copied")));
+    EXPECT_EQ(shownPage(), views.stylesheet);
+    QTest::mouseClick(views.copy, Qt::LeftButton);
+    EXPECT_TRUE(views.copy->text().startsWith(QStringLiteral("Copied")));
 
     const std::string before = stylesheet();
-    auto& view = *window.css3SourceView().textView();
+    auto& view = views.stylesheet->textView();
     view.setFocus();
     QTest::keyClicks(&view, QStringLiteral("a"));
     QTest::keyClick(&view, Qt::Key_End, Qt::ControlModifier);

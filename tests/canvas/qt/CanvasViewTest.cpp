@@ -4,7 +4,6 @@
 #include "canvas/qt/StopControlPanel.h"
 #include "canvas/qt/ValueStepper.h"
 #include "support/LogCapture.h"
-#include "support/NoPresets.h"
 
 #include <QAccessible>
 #include <QColorDialog>
@@ -22,20 +21,20 @@ using Positions = std::vector<double>;
 class CanvasViewTest : public testing::Test {
   protected:
     CanvasViewTest() {
-        GlobalData::sharedData() = GlobalData{};
         window.addWidget(canvas);
         window.addWidget(panel);
-        canvas->awakeFromNib(noPresets);
+        canvas->edit(editor);
+        panel->connectTo(editor.controls());
+        editor.awakeFromNib();
         canvas->setFocus();
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    static Gradient& gradient() { return GlobalData::sharedData().gradient(); }
-    static Positions positions() {
+    Positions positions() const {
         Positions all;
-        std::ranges::transform(gradient().stops(), std::back_inserter(all), &ColorStop::position);
+        std::ranges::transform(data.gradient.stops(), std::back_inserter(all), &ColorStop::position);
         return all;
     }
 
@@ -58,7 +57,9 @@ class CanvasViewTest : public testing::Test {
     const LogCapture log;
     QSplitter window;
     StopControlPanel* panel = new StopControlPanel;
-    CanvasView* canvas = new CanvasView{*panel};
+    CanvasView* canvas = new CanvasView;
+    GlobalData data;
+    GradientEditor editor{data, canvas->geometry(), *canvas, panel->controlSet()};
 };
 
 TEST_F(CanvasViewTest, dragsAddsAndDeletesWithTheMouse) {
@@ -117,10 +118,10 @@ TEST_F(CanvasViewTest, steppersAndListsAct) {
         EXPECT_EQ(text("Red"), shown);
     }
     QTest::keyClick(&named<QComboBox>("Orientation"), Qt::Key_Down);
-    EXPECT_EQ(gradient().orientation(), orientation::bottomToTop);
+    EXPECT_EQ(data.gradient.orientation(), orientation::bottomToTop);
     EXPECT_FALSE(named<ValueStepper>("Opacity stepper").isEnabled());
     QTest::keyClicks(&named<QComboBox>("Color notation"), QStringLiteral("HSLA"));
-    EXPECT_EQ(GlobalData::sharedData().colorFormatType(), colorFormat::hsla);
+    EXPECT_EQ(data.colorFormatType, colorFormat::hsla);
     EXPECT_TRUE(named<ValueStepper>("Opacity stepper").isEnabled());
 }
 
@@ -136,13 +137,13 @@ TEST_F(CanvasViewTest, theWellReportsEachPickOfItsPanel) {
     colorPanel->setCurrentColor(Qt::blue);
     EXPECT_EQ(text("Blue"), "256");
     const Color fine = Color::calibratedRGB(0.3001, 0, 0);
-    gradient().replace(0, {0.0, fine});
+    data.gradient.replace(0, {0.0, fine});
     canvas->pressAccessibleItem(0);
     EXPECT_EQ(colorPanel->currentColor().blue(), 0) << "the open panel follows the selection";
-    EXPECT_EQ(gradient(), (Gradient{{{0.0, fine}, {1.0, Color::calibratedRGB(0, 0, 1)}}}))
+    EXPECT_EQ(data.gradient, (Gradient{{{0.0, fine}, {1.0, Color::calibratedRGB(0, 0, 1)}}}))
         << "rounding nothing";
     well.setBackgroundColor(Color::withoutRGBForm()); // cannot be shown, and is announced as another
-    const Color announced = gradient().stops()[0].color;
+    const Color announced = data.gradient.stops()[0].color;
     EXPECT_TRUE(announced.calibratedRGB() && announced != fine);
 }
 
@@ -154,11 +155,12 @@ TEST_F(CanvasViewTest, assistiveToolsSeeTheStops) {
     EXPECT_EQ(stop->text(QAccessible::Description), QStringLiteral("Position 0.000, color #000000"));
     stop->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(stop->state().selected);
-    gradient() = Gradient{{{0.5, Color::black()}, {0.5, Color::white()}}}; // the second lies under the first
+    data.gradient =
+        Gradient{{{0.5, Color::black()}, {0.5, Color::white()}}}; // the second lies under the first
     view->child(1)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
     canvas->findChild<QMenu*>()->actions().first()->trigger();
-    EXPECT_EQ(gradient().stops(), (std::vector<ColorStop>{{0.5, Color::black()}}));
-    gradient() = {};
+    EXPECT_EQ(data.gradient.stops(), (std::vector<ColorStop>{{0.5, Color::black()}}));
+    data.gradient = {};
     EXPECT_TRUE(stop->state().invalid);
 }
 

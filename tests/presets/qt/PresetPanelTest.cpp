@@ -18,38 +18,35 @@ namespace {
 class PresetPanelTest : public testing::Test {
   protected:
     PresetPanelTest() {
-        resetToDefaultGradient();
-        panel.connectTo(gallery);
-        gallery.observeNotifications();
-        panel.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
+        panel->connectTo(gallery);
+        panel->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(panel.get()));
         container.setFocus();
     }
-    void TearDown() override { panel.disconnectFromGallery(); }
-
-    std::int64_t orientationType() const { return GlobalData::sharedData().gradient().orientation(); }
+    void TearDown() override { panel.reset(); }
 
     const LogCapture log;
-    PresetPanel panel;
-    PresetGradienContainerView& container = *panel.findChild<PresetGradienContainerView*>();
+    std::unique_ptr<PresetPanel> panel = std::make_unique<PresetPanel>();
+    PresetGradienContainerView& container = *panel->findChild<PresetGradienContainerView*>();
     int applied = 0, saved = 0;
-    PresetGallery gallery{panel, {[this] { ++applied; }, [this] { ++saved; }}};
+    Gradient edited = defaultRecord().gradient;
+    PresetGallery gallery{edited, *panel, {[this] { ++applied; }, [this] { ++saved; }}};
 };
 
 TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     for (const std::int64_t orientation : {0, 1, 2, 3, 4, 0}) {
-        GlobalData::sharedData().gradient().setOrientation(orientation);
-        QTest::mouseClick(panel.findChild<QPushButton*>(), Qt::LeftButton);
+        edited.setOrientation(orientation);
+        QTest::mouseClick(panel->findChild<QPushButton*>(), Qt::LeftButton);
     }
     EXPECT_EQ(container.size(), QSize(263, 215));
     QTest::mouseClick(&container, Qt::LeftButton, {}, container.accessibleItemRect(2).center());
-    EXPECT_EQ(orientationType(), 2);
+    EXPECT_EQ(edited.orientation(), 2);
     QTest::mouseClick(&container, Qt::LeftButton, {}, {5, 5});
     EXPECT_EQ(applied, 1) << "beside the thumbnails";
     for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Space}) { // below it is none
         QTest::keyClick(&container, key);
     }
-    EXPECT_EQ(orientationType(), 3);
+    EXPECT_EQ(edited.orientation(), 3);
     QTest::keyClick(&container, Qt::Key_Delete);
     EXPECT_EQ(gallery.presetGradient()[3].gradient.orientation(), 4);
 
@@ -66,7 +63,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
 
     EXPECT_EQ(list->child(3)->text(QAccessible::Name), QStringLiteral("Preset 4"));
     list->child(3)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(orientationType(), 0);
+    EXPECT_EQ(edited.orientation(), 0);
 }
 
 TEST_F(PresetPanelTest, theKeyboardScrollsThroughThousandsAndAClickDoesNotScroll) {

@@ -1,8 +1,7 @@
-#include "codegen/WebCode.h"
+#include "codegen/Stylesheet.h"
 
-#include "sourceview/TextEdit.h"
+#include "codegen/DeclarationText.h"
 #include "support/FakeCodeText.h"
-#include "support/FakeWebView.h"
 #include "support/Gradients.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryFolder.h"
@@ -16,40 +15,33 @@ namespace {
 const std::filesystem::path data{TESSALY_TEST_DATA}; // the expected texts, byte by byte
 const std::string radialCss = contentsOf(data / "radial.css");
 
-class WebCodeTest : public testing::Test {
+class StylesheetTest : public testing::Test {
   protected:
-    WebCodeTest() {
-        resetToDefaultGradient();
-        code->insertHTML5Code();
-        code->insertCSS3Code();
-    }
+    StylesheetTest() { stylesheet.insertCSS3Code(record.gradient, record.colorFormatType); }
 
-    void update(std::int64_t orientation = GlobalData::sharedData().gradient().orientation()) {
-        GlobalData::sharedData().gradient().setOrientation(orientation);
-        code->updateBackgroundColorDataUpdatedNotification({});
+    bool update() { return stylesheet.update(record.gradient, record.colorFormatType); }
+    bool update(std::int64_t orientation) {
+        record.gradient.setOrientation(orientation);
+        return update();
     }
 
     // What the user does in the stylesheet view, and what the view reports of it.
     void become(const std::u16string& text) {
         const TextEdit edit = TextEdit::between(css.contents, text);
         css.contents = text;
-        code->stylesheetEdited(edit.position, edit.removed, edit.added);
+        stylesheet.edited(edit);
     }
     void edit(TextRange range, const std::u16string& added) {
         become(std::u16string{css.contents}.replace(range.location, range.length, added));
     }
 
     const LogCapture log;
-    const TemporaryFolder temporary;
-    FakeCodeText html;
+    GlobalData record = defaultRecord();
     FakeCodeText css;
-    FakeWebView web;
-    std::optional<WebCode> code{std::in_place, html, css, web, temporary.path};
+    Stylesheet stylesheet{css};
 };
 
-TEST_F(WebCodeTest, writesThePageAndTheStylesheetOfEveryOrientation) {
-    EXPECT_EQ(html.utf8(), contentsOf(data / "default.html"));
-    EXPECT_TRUE(css.editable && html.editable && css.caret == 0);
+TEST_F(StylesheetTest, isWrittenForEveryOrientation) {
     const std::array<const char*, 3> rows[] = {
         {"linear-gradient((null)", "linear-gradient((null)", "(null)"},
         {"linear-gradient(to top", "linear-gradient(bottom", "linear, left bottom, left top"},
@@ -70,15 +62,16 @@ TEST_F(WebCodeTest, writesThePageAndTheStylesheetOfEveryOrientation) {
     }
 }
 
-TEST_F(WebCodeTest, rewritesChangedDeclarationsAndKeepsWhatTheUserAddsAroundThem) {
+TEST_F(StylesheetTest, rewritesChangedDeclarationsAndKeepsWhatTheUserAddsAroundThem) {
     edit({0, 0},
          u"/* \U0001F308 */ p {\n\tbackground: #000000;\n}\n"); // with a copy of the first declaration
-    edit({code->ranges().backgroundColorOldIndex(), 0}, u"\tcolor: red;\n");
-    edit({css.length() - 2, 0}, u"\tmargin: 0;\n");
-    edit({code->ranges().backgroundColorIndex() + 5, 3}, u"oops");     // inside the standard one
-    edit(code->ranges()[Declaration::OldWebKit], u"");                 // a whole one
-    edit({code->ranges().backgroundColorOperaIndex() - 10, 20}, u"x"); // across an edge: the x is the user's
-    GlobalData::sharedData().gradient().replace(0, {0.0, Color::white()});
+    edit({stylesheet.ranges()[Declaration::Old].location, 0}, u"\tcolor: red;\n");
+    edit({css.contents.size() - 2, 0}, u"\tmargin: 0;\n");
+    edit({stylesheet.ranges()[Declaration::Standard].location + 5, 3}, u"oops"); // inside the standard one
+    edit(stylesheet.ranges()[Declaration::OldWebKit], u"");                      // a whole one
+    edit({stylesheet.ranges()[Declaration::Opera].location - 10, 20},
+         u"x"); // across an edge: the x is the user's
+    record.gradient.replace(0, {0.0, Color::white()});
     update(orientation::radial);
     const std::string fresh = std::regex_replace(radialCss, std::regex{"#000000"}, "#ffffff");
     std::string expected = fresh;
@@ -86,12 +79,12 @@ TEST_F(WebCodeTest, rewritesChangedDeclarationsAndKeepsWhatTheUserAddsAroundThem
     expected.insert(expected.find("\tbackground: -o-"), "x");
     expected.insert(expected.find("\tbackground"), "\tcolor: red;\n");
     EXPECT_EQ(css.utf8(), "/* \xF0\x9F\x8C\x88 */ p {\n\tbackground: #000000;\n}\n" + expected);
-    edit({0, css.length()}, u"");
+    edit({0, css.contents.size()}, u"");
     update();
     EXPECT_EQ(css.utf8(), fresh.substr(28, fresh.size() - 30)) << "all eight, without the frame";
 }
 
-TEST_F(WebCodeTest, findsDeclarationsAfterAnUndoAndPastDraggedText) {
+TEST_F(StylesheetTest, findsDeclarationsAfterAnUndoAndPastDraggedText) {
     const std::u16string line = u"\tcolor: red;\n";
     const std::u16string plain{css.text()};
     const auto survive = [&](const std::u16string& first, const std::u16string& second) {
@@ -120,11 +113,11 @@ TEST_F(WebCodeTest, findsDeclarationsAfterAnUndoAndPastDraggedText) {
     }
 }
 
-TEST_F(WebCodeTest, tellsItsDeclarationsFromTheUsersCopiesAndNewLines) {
+TEST_F(StylesheetTest, tellsItsDeclarationsFromTheUsersCopiesAndNewLines) {
     const std::u16string plain{css.text()}, box = u".box {\n\tbackground: #000000;\n}\n",
                                             line = u"\tcolor: red;\n";
-    const std::size_t first = code->ranges().backgroundColorOldIndex();
-    const TextRange last = code->ranges()[Declaration::MSFilter];
+    const std::size_t first = stylesheet.ranges()[Declaration::Old].location;
+    const TextRange last = stylesheet.ranges()[Declaration::MSFilter];
     const std::vector<std::function<std::string()>> rows{
         [&] { // a letter within the first declaration, below a copy of it
             edit({0, 0}, box);
@@ -146,43 +139,43 @@ TEST_F(WebCodeTest, tellsItsDeclarationsFromTheUsersCopiesAndNewLines) {
         [&] { // a line typed below a changed one
             edit({first + 21, 0}, u" /* x */");
             css.contents.insert(first + 29, u"\n");
-            code->stylesheetEdited(first + 29, 0, 1);
+            stylesheet.edited({first + 29, 0, 1});
             edit({first + 30, 0}, u"\tcolor: red;");
             return std::string{radialCss}.insert(first + 22, toUtf8(line));
         }};
     for (const auto& row : rows) {
-        GlobalData::sharedData().gradient().setOrientation(orientation::leftToRight);
-        code->insertCSS3Code();
+        record.gradient.setOrientation(orientation::leftToRight);
+        stylesheet.insertCSS3Code(record.gradient, record.colorFormatType);
         const std::string expected = row();
         update(orientation::radial);
         EXPECT_EQ(css.utf8(), expected);
     }
 }
 
-TEST_F(WebCodeTest, anyChangeAmongRandomEditsWritesEveryDeclaration) {
+TEST_F(StylesheetTest, anyChangeAmongRandomEditsWritesEveryDeclaration) {
     std::mt19937 random{2};
     const auto upTo = [&](std::size_t most) {
         return std::uniform_int_distribution<std::size_t>{0, most}(random);
     };
     for (int i = 0; i < 1000; ++i) {
         for (std::size_t edits = upTo(3); edits > 0; --edits) {
-            const std::u16string dragged = css.contents.substr(upTo(css.length()), upTo(1) * upTo(200));
+            const std::u16string dragged =
+                css.contents.substr(upTo(css.contents.size()), upTo(1) * upTo(200));
             std::u16string text = css.contents;
             text.erase(text.find(dragged), dragged.size());
             become(text.insert(upTo(text.size()), dragged));
-            const std::size_t place = upTo(css.length());
-            edit({place, upTo(std::min(css.length() - place, upTo(1) * 400))},
+            const std::size_t place = upTo(css.contents.size());
+            edit({place, upTo(std::min(css.contents.size() - place, upTo(1) * 400))},
                  std::u16string(upTo(40), u'u'));
         }
-        setRandomGradient(random);
+        record = randomRecord(random);
         update();
         std::size_t end = 0;
         for (const Declaration declaration : allDeclarations) {
-            const TextRange range = code->ranges()[declaration];
+            const TextRange range = stylesheet.ranges()[declaration];
             ASSERT_LE(end, range.location) << "change " << i;
             ASSERT_EQ(toUtf8(css.contents.substr(range.location, range.length)),
-                      declarationText(declaration, GlobalData::sharedData().gradient(),
-                                      GlobalData::sharedData().colorFormatType()));
+                      declarationText(declaration, record.gradient, record.colorFormatType));
             end = range.end();
         }
     }
@@ -191,75 +184,23 @@ TEST_F(WebCodeTest, anyChangeAmongRandomEditsWritesEveryDeclaration) {
     EXPECT_TRUE(css.rangesInBounds);
 }
 
-TEST_F(WebCodeTest, writesThePreviewIntoTheFirstFreeFolderAndTakesItAwayAtTheEnd) {
-    std::filesystem::create_directory(temporary.path / "WebFolder0");
-    std::filesystem::create_symlink("nowhere", temporary.path / "WebFolder1");
-    const auto folder = temporary.path / "WebFolder2";
-    code->createHTMLIndexFile();
-    EXPECT_EQ(GlobalData::sharedData().tempFolderPath(), folder.native());
-    EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
-    EXPECT_EQ(contentsOf(folder / "styles.css"), contentsOf(data / "default.css"));
-    EXPECT_EQ(web.loaded, folder / "index.html");
-    html.contents = u"edited by hand";
-    for (const std::int64_t orientation : {orientation::radial, orientation::bottomToTop}) {
-        update(orientation);
-        EXPECT_EQ(contentsOf(folder / "styles.css"), css.utf8());
+TEST_F(StylesheetTest, isWrittenOnceForAChangeThatIsAnnouncedTwice) {
+    const std::function<void()> changes[] = {
+        [&] { record.gradient.setOrientation(orientation::radial); },
+        [&] { record.colorFormatType = colorFormat::hsla; },
+        [&] {
+            edit({30, 3}, u"oops");
+        },
+        [&] { css.contents.pop_back(); }, // without a word
+    };
+    EXPECT_FALSE(update()) << "as inserted";
+    for (const auto& change : changes) {
+        change();
+        css.replacements = 0;
+        EXPECT_TRUE(update());
+        EXPECT_FALSE(update());
+        EXPECT_EQ(css.replacements, 8);
     }
-    EXPECT_EQ(web.reloads, 2);
-    EXPECT_EQ(contentsOf(folder / "index.html"), contentsOf(data / "default.html")) << "never rewritten";
-    code.reset();
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator{temporary.path}, {}), 2)
-        << "its folder goes, others stay";
-}
-
-TEST_F(WebCodeTest, goesOnWithoutAPreviewWhenTheDiskRefuses) {
-    WebCode{html, css, web, temporary.path / "missing"}.createHTMLIndexFile();
-    EXPECT_EQ(log.messages.back().rfind("No preview folder: ", 0), 0U);
-    EXPECT_EQ(web.loaded, "");
-    code->createHTMLIndexFile();
-    const auto theirs = code->folderPath() / "styles.css" / "theirs";
-    std::filesystem::remove(code->folderPath() / "styles.css");
-    std::filesystem::create_directories(theirs);
-    update();
-    EXPECT_EQ(log.messages.back().rfind("Preview file not written: ", 0), 0U);
-    EXPECT_EQ(css.utf8(), contentsOf(data / "default.css"));
-    code.reset();
-    EXPECT_TRUE(std::filesystem::exists(theirs));
-}
-
-TEST_F(WebCodeTest, makesAFolderThatWasTakenAwayAnewAndTouchesNothingThatStandsInItsPlace) {
-    code->createHTMLIndexFile();
-    const auto first = code->folderPath(), elsewhere = temporary.path / "elsewhere";
-    std::filesystem::create_directory(elsewhere);
-    const auto theirs = {elsewhere / "styles.css", elsewhere / "index.html"};
-    for (const auto& file : theirs) {
-        std::ofstream{file} << "theirs";
-    }
-    std::filesystem::rename(first, temporary.path / "moved");
-    std::filesystem::create_symlink(elsewhere, first);
-    const std::filesystem::path away{temporary.path.native() + "-away"};
-    std::filesystem::rename(temporary.path, away);
-    update();
-    EXPECT_EQ(log.messages.back().rfind("No preview folder: ", 0), 0U)
-        << "and tried again at the next change";
-    std::filesystem::rename(away, temporary.path);
-    for (const std::int64_t orientation : {orientation::radial, orientation::bottomToTop}) {
-        update(orientation);
-        EXPECT_EQ(contentsOf(temporary.path / "WebFolder1" / "styles.css"), css.utf8());
-    }
-    EXPECT_EQ(contentsOf(temporary.path / "WebFolder1" / "index.html"), contentsOf(data / "default.html"));
-    EXPECT_EQ(web.loaded, temporary.path / "WebFolder1" / "index.html");
-    EXPECT_EQ(GlobalData::sharedData().tempFolderPath(), code->folderPath().native());
-    std::filesystem::remove_all(code->folderPath());
-    update();
-    EXPECT_EQ(web.loaded, temporary.path / "WebFolder1" / "index.html") << "the first free one again";
-    std::filesystem::rename(code->folderPath(), temporary.path / "moved again");
-    std::filesystem::create_directory(temporary.path / "WebFolder1");
-    code.reset();
-    for (const auto& file : theirs) {
-        EXPECT_EQ(contentsOf(file), "theirs");
-    }
-    EXPECT_TRUE(std::filesystem::exists(temporary.path / "WebFolder1")) << "that of another";
 }
 
 } // namespace

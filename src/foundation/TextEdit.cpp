@@ -1,4 +1,4 @@
-#include "sourceview/TextEdit.h"
+#include "foundation/TextEdit.h"
 
 #include "foundation/Utf16.h"
 

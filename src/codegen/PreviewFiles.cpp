@@ -1,0 +1,52 @@
+#include "codegen/PreviewFiles.h"
+
+#include "codegen/CodeText.h"
+#include "codegen/WebView.h"
+#include "foundation/DiagnosticLog.h"
+#include "foundation/Utf8.h"
+
+#include <utility>
+
+namespace tessaly {
+
+PreviewFiles::PreviewFiles(const CodeText& page, const CodeText& stylesheet, WebView& webView,
+                           std::filesystem::path temporaryDirectory)
+    : page_{page},
+      stylesheet_{stylesheet},
+      webView_{webView},
+      temporaryDirectory_{std::move(temporaryDirectory)} {}
+
+void PreviewFiles::createHTMLIndexFile() {
+    std::optional<PreviewFolder> folder = PreviewFolder::create(temporaryDirectory_);
+    if (!folder) {
+        return;
+    }
+    folder_ = std::move(folder);
+    const std::filesystem::path htmlPath = folder_->path() / PreviewFolder::pageName;
+    folder_->write(PreviewFolder::pageName, toUtf8(page_.text()));
+    writeStylesheet();
+    DiagnosticLog::write("htmlPath: " + htmlPath.native());
+    webView_.loadFile(htmlPath);
+}
+
+void PreviewFiles::writeStylesheet() {
+    folder_->write(PreviewFolder::stylesheetName, toUtf8(stylesheet_.text()));
+    written_ = folder_->stateOf(PreviewFolder::stylesheetName);
+}
+
+void PreviewFiles::writeCSSFile() {
+    if (folder_ && !folder_->isInPlace()) {
+        createHTMLIndexFile(); // tried at each change until it can be done
+        return;
+    }
+    if (folder_) {
+        writeStylesheet();
+    }
+    webView_.reload();
+}
+
+bool PreviewFiles::isAsWritten() const {
+    return !folder_ || (folder_->isInPlace() && folder_->stateOf(PreviewFolder::stylesheetName) == written_);
+}
+
+} // namespace tessaly

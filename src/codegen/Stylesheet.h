@@ -1,0 +1,60 @@
+#pragma once
+
+#include "codegen/DeclarationRanges.h"
+#include "foundation/TextEdit.h"
+#include "model/Gradient.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace tessaly {
+
+class CodeText;
+
+/// Keeps the stylesheet in its code view current: writes it once whole, and from then on rewrites it
+/// declaration by declaration, in place, whatever the user types, deletes and drags between them.
+class Stylesheet {
+  public:
+    /// The view must outlive the object.
+    explicit Stylesheet(CodeText& view) : view_{view} {}
+
+    /// Writes the whole text.
+    void insertCSS3Code(const Gradient& gradient, std::int64_t notation);
+
+    /// Rewrites every declaration. False: they stand there already, and nothing was done.
+    bool update(const Gradient& gradient, std::int64_t notation);
+
+    /// The user, not this object, edited the text. To be told of before the text changes again.
+    void edited(const TextEdit& edit);
+
+    const DeclarationRanges& ranges() const { return ranges_; }
+
+  private:
+    /// What the text was last written from, and how long it was then.
+    struct Written {
+        Gradient gradient;
+        std::int64_t notation;
+        std::size_t length;
+
+        bool operator==(const Written&) const = default;
+    };
+
+    void written(const Gradient& gradient, std::int64_t notation);
+    void keepLineFeedsApart(const DeclarationRanges& before, std::size_t typedAt);
+    void findDeclarations(const DeclarationRanges& before, const TextEdit& edit);
+    TextRange found(Declaration declaration, const TextRange& before, const TextEdit& edit,
+                    TextRange room) const;
+
+    CodeText& view_;
+    PerDeclaration<std::string> texts_;
+    DeclarationRanges ranges_;
+    std::optional<Written> written_; ///< none once the user edited the text
+    /// The ranges in every text since the last update, by the text's hash: an undo brings back both.
+    std::unordered_map<std::size_t, DeclarationRanges> rangesOfTexts_;
+};
+
+} // namespace tessaly
