@@ -17,7 +17,8 @@ declare -A packages=(
     [icons]="librsvg2-bin"
     [bench]="libbenchmark-dev sqlite3 python3"
     [systems]="debootstrap util-linux git"
-    [check]="clang clang-format clang-tidy cppcheck libclang-rt-dev llvm"
+    [check]="clang clang-format clang-tidy cppcheck libclang-rt-dev llvm
+             universal-ctags python3"
 )
 
 missing=()

@@ -41,10 +41,8 @@ class CanvasGeometry {
     Size viewSize() const { return viewSize_; }
     Size backgroundSize() const { return {strip().width, strip().height}; }
 
-    /// Extents of the strip cut to whole points: across, up, and along the diagonal.
+    /// Extent of the strip across, cut to whole points.
     std::int64_t maxColorMarkerPosX() const { return extentX_; }
-    std::int64_t maxColorMarkerPosY() const { return extentY_; }
-    std::int64_t maxColorMarkerPosDiagonal() const { return extentDiagonal_; }
 
     /// Slopes of the diagonals that start at the bottom left and at the top left corner.
     double diagonalBottomGradient() const { return backgroundSize().height / backgroundSize().width; }

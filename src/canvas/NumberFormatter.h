@@ -1,6 +1,7 @@
 #pragma once
 
-#include <optional>
+#include "canvas/StopValue.h"
+
 #include <string>
 #include <string_view>
 
@@ -10,23 +11,24 @@ namespace tessaly {
 /// text is read as a scanner would: leading white space is skipped, nothing may stand behind the number.
 class NumberFormatter {
   public:
-    virtual ~NumberFormatter() = default;
+    /// Of decimals, with a point and with or without an exponent; else of whole numbers, where one that does
+    /// not fit 32 bits is read as the nearest that does.
+    explicit constexpr NumberFormatter(bool decimal) : decimal_{decimal} {}
+
+    /// Of the field of a value.
+    explicit constexpr NumberFormatter(StopValue value) : NumberFormatter{traitsOf(value).decimal} {}
 
     /// Whether the field may show `text` while it is edited: it is empty or wholly a number.
-    bool isPartialStringValid(std::string_view text) const { return text.empty() || scanned(text); }
+    bool isPartialStringValid(std::string_view text) const;
 
     /// The number that `text` stands for; 0 where it is none.
-    double value(std::string_view text) const { return scanned(text).value_or(0.0); }
+    double value(std::string_view text) const;
 
-    /// How the field shows a number.
-    virtual std::string text(double value) const = 0;
-
-  protected:
-    /// Takes the longest number off the front of `text`; none when it does not start with one.
-    virtual std::optional<double> scan(std::string_view& text) const = 0;
+    /// How the field shows a number: decimals rounded to tenths, others cut.
+    std::string text(double value) const;
 
   private:
-    std::optional<double> scanned(std::string_view text) const;
+    bool decimal_;
 };
 
 } // namespace tessaly

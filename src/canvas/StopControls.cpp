@@ -1,7 +1,7 @@
 #include "canvas/StopControls.h"
 
+#include "canvas/NumberFormatter.h"
 #include "canvas/OrientationItems.h"
-#include "canvas/StopFormatter.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
@@ -53,20 +53,20 @@ void StopControls::handle(const std::function<void()>& change) {
 void StopControls::updateTextFieldValue(StopValue value) {
     handle([&] {
         const auto& [field, stepper] = pair(value);
-        double number = formatterOf(value).value(field->text());
+        double number = NumberFormatter{value}.value(field->text());
         if (!traitsOf(value).decimal) {
             number = static_cast<double>(static_cast<float>(number));
         }
         stepper->setValue(number);
         const bool inRange = number >= stepper->minimum() && number <= stepper->maximum();
-        field->setText(formatterOf(value).text(inRange ? number : stepper->value()));
+        field->setText(NumberFormatter{value}.text(inRange ? number : stepper->value()));
         apply(value);
     });
 }
 
 void StopControls::updateStepperValue(StopValue value) {
     handle([&] {
-        pair(value).field->setText(formatterOf(value).text(pair(value).stepper->value()));
+        pair(value).field->setText(NumberFormatter{value}.text(pair(value).stepper->value()));
         apply(value);
     });
 }
@@ -149,7 +149,7 @@ std::int64_t StopControls::stepperInteger(StopValue value) const {
 void StopControls::setNumber(StopValue value, double number) {
     // The field may show what its stepper cannot hold: a full channel reads 256 beside 255.
     pair(value).stepper->setValue(number);
-    pair(value).field->setText(formatterOf(value).text(number));
+    pair(value).field->setText(NumberFormatter{value}.text(number));
 }
 
 void StopControls::setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue) {

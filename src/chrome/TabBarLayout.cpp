@@ -64,7 +64,7 @@ DrawnTabs TabBarLayout::drawn(Size frame, std::int64_t selectIndex) const {
             x += halfGap;
         }
     }
-    tabs.trackingPath = {start, y, x - start, frame.height - static_cast<double>(textHeight_)};
+    tabs.trackingArea = {start, y, x - start, frame.height - static_cast<double>(textHeight_)};
     return tabs;
 }
 

@@ -19,7 +19,7 @@ struct DrawnTabs {
     std::vector<Point> titles; ///< bottom left corner of each title
     std::optional<Rect> selectedBox;
     std::vector<TabSeparator> separators;
-    Rect trackingPath; ///< around the whole group
+    Rect trackingArea; ///< around the whole group
 };
 
 /// Places a row of tab titles, centred as a group. Points, y upwards.
@@ -49,17 +49,11 @@ class TabBarLayout {
     const std::vector<Size>& textSizes() const { return textSizes_; }
     const std::vector<Rect>& hitRectangles() const { return hitRectangles_; }
 
-    /// Width of the group in whole points; every addition to it is cut, not rounded.
-    std::int64_t totalWidth() const { return totalWidth_; }
-
-    /// Height of the title added last, cut to whole points.
-    std::int64_t textHeight() const { return textHeight_; }
-
   private:
     std::vector<Size> textSizes_;
     std::vector<Rect> hitRectangles_;
-    std::int64_t totalWidth_ = 0;
-    std::int64_t textHeight_ = 0;
+    std::int64_t totalWidth_ = 0; ///< of the group; every addition to it is cut, not rounded
+    std::int64_t textHeight_ = 0; ///< of the title added last, cut
 };
 
 } // namespace tessaly

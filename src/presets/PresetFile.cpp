@@ -3,7 +3,6 @@
 #include "foundation/Descriptor.h"
 #include "presets/PrivateFile.h"
 #include "presets/SetAside.h"
-#include "presets/SqliteBackup.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -27,7 +26,7 @@ std::filesystem::path resolved(const std::filesystem::path& path) {
 SqliteResult writeTo(const std::filesystem::path& file, const SqliteConnection& database) {
     const SqliteConnection disk = SqliteConnection::open(file);
     disk.execute("pragma journal_mode=off; pragma synchronous=off"); // nobody reads it before it is whole
-    return SqliteBackup{database, disk}.run();
+    return database.copyTo(disk);
 }
 
 } // namespace
@@ -82,7 +81,7 @@ SqliteResult PresetFile::copyInto(SqliteConnection& memory, const SqliteConnecti
     disk.execute("pragma journal_mode=delete");
     disk.execute("begin; " + firstRead); // keeps writers out until the version is known
     memory = SqliteConnection::openInMemory();
-    SqliteResult result = SqliteBackup{disk, memory}.run();
+    SqliteResult result = disk.copyTo(memory);
     const std::optional<Version> version = versionOf(path_);
     if (result.code == SQLITE_OK && !version) {
         result = {SQLITE_IOERR, "it cannot be looked at"};

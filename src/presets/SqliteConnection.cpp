@@ -122,6 +122,15 @@ SqliteResult SqliteConnection::queryTable(const std::string& query, int& columns
     return {code, takeMessage(message)};
 }
 
+SqliteResult SqliteConnection::copyTo(const SqliteConnection& other) const {
+    constexpr int allPages = -1;
+    sqlite3_backup* const backup =
+        isOpen() && other.isOpen() ? sqlite3_backup_init(other.handle(), "main", handle(), "main") : nullptr;
+    const int stepped = backup != nullptr ? sqlite3_backup_step(backup, allPages) : SQLITE_CANTOPEN;
+    sqlite3_backup_finish(backup);
+    return stepped == SQLITE_DONE ? SqliteResult{} : SqliteResult{stepped, sqlite3_errstr(stepped)};
+}
+
 std::optional<std::string> SqliteConnection::value(const std::string& query) const {
     SqliteStatement statement = SqliteStatement::prepare(*this, query);
     return statement.step() == SQLITE_ROW ? std::optional{statement.text(0)} : std::nullopt;

@@ -12,7 +12,7 @@ constexpr std::uint32_t whole = 256; // of a pixel
 std::uint32_t pixelOf(const RGBAComponents& color) {
     std::uint32_t pixel = 0xFF;
     for (const double channel : {color.red, color.green, color.blue}) {
-        pixel = pixel << 8U | static_cast<std::uint32_t>(channel * 255 + 0.5);
+        pixel = pixel << 8U | static_cast<std::uint32_t>(std::lround(channel * 255));
     }
     return pixel;
 }

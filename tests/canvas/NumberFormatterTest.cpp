@@ -1,8 +1,8 @@
-#include "canvas/OnlyDecimalValueFormatter.h"
-#include "canvas/OnlyIntegerValueFormatter.h"
+#include "canvas/NumberFormatter.h"
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <optional>
 
 namespace tessaly {
 namespace {
@@ -10,8 +10,8 @@ namespace {
 TEST(NumberFormatter, judgesWhatIsTypedOrPasted) {
     constexpr double most = std::numeric_limits<double>::max();
     constexpr auto none = std::nullopt;
-    const OnlyIntegerValueFormatter integer;
-    const OnlyDecimalValueFormatter decimal;
+    constexpr NumberFormatter integer{false};
+    constexpr NumberFormatter decimal{true};
     const struct {
         std::string_view text;
         std::optional<double> whole, number; ///< whole: none where an integer field refuses it

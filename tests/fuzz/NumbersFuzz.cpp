@@ -1,8 +1,7 @@
 // Keystrokes and pastes in the number fields: what they accept, and what becomes of it.
 
 #include "FuzzTarget.h"
-#include "canvas/OnlyDecimalValueFormatter.h"
-#include "canvas/OnlyIntegerValueFormatter.h"
+#include "canvas/NumberFormatter.h"
 #include "support/FakeControls.h"
 #include "support/Gradients.h"
 
@@ -10,17 +9,15 @@ using namespace tessaly;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     constexpr double largest = std::numeric_limits<double>::max();
-    const OnlyIntegerValueFormatter integers;
-    const OnlyDecimalValueFormatter decimals;
     FuzzedDataProvider input{data, size};
-    resetToDefaultGradient();
+    GlobalData record = defaultRecord();
     FakeControls controls;
-    ColorMarkers markers;
-    StopControls form{controls.set, markers, [] {}, [] {}};
-    form.setFormReady(true);
+    ColorMarkers markers{record.gradient};
+    StopControls form{controls.set, record, markers, [] {}, [] {}};
+    form.setFormReady();
     while (input.remaining_bytes() > 0) {
         const auto& [value, name, decimal, maximum, step] = input.PickValueInArray(stopValues);
-        const NumberFormatter& formatter = decimal ? static_cast<const NumberFormatter&>(decimals) : integers;
+        const NumberFormatter formatter{value};
         std::string& field = controls.fields[static_cast<std::size_t>(value)].shown;
         const auto [place, removed] = anyRange(input, field.size());
         std::string text = field;

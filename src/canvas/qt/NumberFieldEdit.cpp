@@ -13,7 +13,7 @@ namespace {
 
 class FormatterValidator : public QValidator {
   public:
-    FormatterValidator(const NumberFormatter& formatter, QObject* parent)
+    FormatterValidator(NumberFormatter formatter, QObject* parent)
         : QValidator{parent}, formatter_{formatter} {}
 
     State validate(QString& text, int& /*position*/) const override {
@@ -21,7 +21,7 @@ class FormatterValidator : public QValidator {
     }
 
   private:
-    const NumberFormatter& formatter_;
+    NumberFormatter formatter_;
 };
 
 constexpr int pageSteps = 10;
@@ -43,7 +43,7 @@ int stepsFor(int key) {
 
 } // namespace
 
-NumberFieldEdit::NumberFieldEdit(const NumberFormatter& formatter, int digits, QWidget* parent)
+NumberFieldEdit::NumberFieldEdit(NumberFormatter formatter, int digits, QWidget* parent)
     : QLineEdit{parent}, digits_{digits} {
     setValidator(new FormatterValidator{formatter, this});
     setAlignment(Qt::AlignRight);

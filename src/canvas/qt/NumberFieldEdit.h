@@ -13,8 +13,7 @@ class NumberFieldEdit : public QLineEdit, public NumberField {
     Q_OBJECT
 
   public:
-    /// The formatter must outlive the field.
-    NumberFieldEdit(const NumberFormatter& formatter, int digits, QWidget* parent = nullptr);
+    NumberFieldEdit(NumberFormatter formatter, int digits, QWidget* parent = nullptr);
 
     std::string text() const override { return QLineEdit::text().toStdString(); }
     void setText(std::string_view text) override;

@@ -1,7 +1,6 @@
 #include "canvas/qt/StopControlPanel.h"
 
 #include "canvas/OrientationItems.h"
-#include "canvas/StopFormatter.h"
 #include "canvas/qt/ColorPickerImageView.h"
 #include "canvas/qt/NumberFieldEdit.h"
 #include "canvas/qt/TitledComboBox.h"
@@ -80,7 +79,8 @@ void StopControlPanel::addPair(QGridLayout& grid, const StopValueTraits& traits,
     constexpr int integerDigits = 4;
     constexpr int decimalDigits = 5;
     auto& [field, stepper] = pairs_[static_cast<std::size_t>(traits.value)];
-    field = new NumberFieldEdit{formatterOf(traits.value), traits.decimal ? decimalDigits : integerDigits};
+    field =
+        new NumberFieldEdit{NumberFormatter{traits.value}, traits.decimal ? decimalDigits : integerDigits};
     field->setAccessibleName(toQString(traits.name));
     stepper = new ValueStepper{traits};
     stepper->setAccessibleName(tr("%1 stepper").arg(toQString(traits.name)));

@@ -50,7 +50,7 @@ About::About(QWidget* mainWindow) : QDialog{mainWindow} {
     auto* const link = new WebLabel{toQString(LinkAddress::labelText(product::homepage()))};
     auto* const close = new QPushButton{tr("&Close")};
     close->setDefault(true);
-    connect(close, &QPushButton::clicked, this, &About::closeWindow);
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* const column = new QVBoxLayout{this};
     column->setContentsMargins(3 * space, 3 * space, 3 * space, 2 * space);
@@ -64,10 +64,6 @@ About::About(QWidget* mainWindow) : QDialog{mainWindow} {
     column->addSpacing(space);
     column->addWidget(close, 0, Qt::AlignHCenter);
     close->setFocus();
-}
-
-void About::closeWindow() {
-    done(Accepted);
 }
 
 } // namespace tessaly

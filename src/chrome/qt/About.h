@@ -5,14 +5,12 @@
 namespace tessaly {
 
 /// The About sheet: icon, name, version, what the program is for, and a link to its homepage. Shown with
-/// `open()`, closed with `closeWindow()`, and kept for the next showing.
+/// `open()`, and kept for the next showing.
 class About : public QDialog {
     Q_OBJECT
 
   public:
     explicit About(QWidget* mainWindow = nullptr);
-
-    void closeWindow();
 };
 
 } // namespace tessaly

@@ -47,34 +47,14 @@ void MainTabView::setSelectIndex(std::int64_t index) {
     selectIndex_ = index;
     update();
     announceCurrentAccessibleItem(*this, *this);
-    sendMessage(selectIndex_);
-}
-
-void MainTabView::sendMessage(std::int64_t index) const {
     NotificationCenter::defaultCenter().post(tabNotification::makeSelectIndexChanged(index, this));
 }
 
 void MainTabView::pressTab(std::int64_t index) {
-    highlightIndex_ = index;
     update();
     if (index != selectIndex_) {
         setSelectIndex(index);
     }
-}
-
-QRectF MainTabView::tabRectangle(std::int64_t index) const {
-    const auto& rectangles = layout_.hitRectangles();
-    const auto position = static_cast<std::size_t>(index);
-    return index >= 0 && position < rectangles.size() ? flipped(rectangles[position], height()) : QRectF{};
-}
-
-std::int64_t MainTabView::tabAt(QPointF position) const {
-    return layout_.tabAt(flipped(position, height())).value_or(-1);
-}
-
-void MainTabView::updateTrackingAreas() {
-    trackingArea_ = {};
-    setTrackingAreas();
 }
 
 QSize MainTabView::sizeHint() const {
@@ -104,8 +84,7 @@ void MainTabView::paintEvent(QPaintEvent* /*event*/) {
     for (std::size_t i = 0; i < drawn.titles.size(); ++i) {
         drawTab(painter, i, drawn);
     }
-    trackingPath_ = flipped(drawn.trackingPath, height());
-    updateTrackingAreas();
+    trackingArea_ = flipped(drawn.trackingArea, height());
     if (hasFocus()) {
         drawFocusFrame(painter, drawn);
     }
@@ -151,8 +130,8 @@ void MainTabView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) {
         return;
     }
-    if (const std::int64_t index = tabAt(event->position()); index >= 0) {
-        pressTab(index);
+    if (const auto index = layout_.tabAt(flipped(event->position(), height()))) {
+        pressTab(*index);
     }
 }
 
@@ -186,7 +165,7 @@ QString MainTabView::accessibleItemName(int item) const {
 }
 
 QRect MainTabView::accessibleItemRect(int item) const {
-    return tabRectangle(item).toAlignedRect();
+    return flipped(layout_.hitRectangles()[static_cast<std::size_t>(item)], height()).toAlignedRect();
 }
 
 int MainTabView::currentAccessibleItem() const {

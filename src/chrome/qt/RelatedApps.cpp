@@ -66,22 +66,22 @@ QWidget* pageOf(const RelatedToolGroup& group) {
 
 } // namespace
 
-RelatedApps::RelatedApps(QWidget* mainWindow)
-    : QDialog{mainWindow}, tabView_{new MainTabView{tabTitles()}}, pages_{new QStackedWidget} {
+RelatedApps::RelatedApps(QWidget* mainWindow) : QDialog{mainWindow}, pages_{new QStackedWidget} {
+    auto* const tabView = new MainTabView{tabTitles()};
     setWindowTitle(tr("Related Applications"));
     setWindowModality(Qt::WindowModal);
-    tabView_->setAccessibleName(windowTitle());
+    tabView->setAccessibleName(windowTitle());
     for (const RelatedToolGroup& group : relatedTools) {
         pages_->addWidget(pageOf(group));
     }
     tabChange_ = NotificationCenter::defaultCenter().addObserver(
-        tabNotification::selectIndexChanged, tabView_, [this](const Notification& change) {
+        tabNotification::selectIndexChanged, tabView, [this](const Notification& change) {
             pages_->setCurrentIndex(static_cast<int>(tabNotification::indexOf(change).value_or(0)));
         });
 
     auto* const close = new QPushButton{tr("&Close")};
     close->setDefault(true);
-    connect(close, &QPushButton::clicked, this, &RelatedApps::closeWindow);
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
     auto* const footer = new QHBoxLayout;
     footer->setContentsMargins(3 * space, 0, 3 * space, 2 * space);
     footer->addStretch();
@@ -91,13 +91,9 @@ RelatedApps::RelatedApps(QWidget* mainWindow)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    column->addWidget(tabView_);
+    column->addWidget(tabView);
     column->addWidget(pages_);
     column->addLayout(footer);
-}
-
-void RelatedApps::closeWindow() {
-    done(Accepted);
 }
 
 } // namespace tessaly

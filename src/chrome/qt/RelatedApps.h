@@ -8,8 +8,6 @@ class QStackedWidget;
 
 namespace tessaly {
 
-class MainTabView;
-
 /// A sheet that names free tools, in two tabs of its own strip; each has a button that opens its page in the
 /// default browser. Its strip posts the same notification as that of the main window, from its own object.
 class RelatedApps : public QDialog {
@@ -18,11 +16,7 @@ class RelatedApps : public QDialog {
   public:
     explicit RelatedApps(QWidget* mainWindow = nullptr);
 
-    MainTabView& tabView() { return *tabView_; }
-    void closeWindow();
-
   private:
-    MainTabView* tabView_;
     QStackedWidget* pages_;
     NotificationCenter::Observation tabChange_;
 };

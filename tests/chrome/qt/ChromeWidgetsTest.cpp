@@ -96,7 +96,7 @@ TEST_F(LinksTest, theSheetsAreKeptWhenTheyCloseAndLinkHomeAndToEveryTool) {
         for (auto* const button : pages.currentWidget()->findChildren<QPushButton*>()) {
             button->click();
         }
-        relatedApps.tabView().setSelectIndex(1);
+        relatedApps.findChild<MainTabView*>()->setSelectIndex(1);
     }
     EXPECT_EQ(opened, expected);
 }
@@ -108,7 +108,7 @@ class MainTabViewTest : public testing::Test {
         window.show();
         QCoreApplication::processEvents();
     }
-    QPoint centerOf(int tab) const { return bar.tabRectangle(tab).center().toPoint(); }
+    QPoint centerOf(int tab) const { return bar.accessibleItemRect(tab).center(); }
 
     QWidget window;
     MainTabView bar{{u"CSS 3"_s, u"HTML"_s, u"Web Preview"_s}, &window};
@@ -147,21 +147,21 @@ TEST_F(MainTabViewTest, assistiveToolsSeePageTabsThatCanBePressed) {
 }
 
 TEST_F(MainTabViewTest, keepsItsHitRectanglesAtTheBottomUntilAnyWindowIsResized) {
-    const QRectF tab = bar.tabRectangle(0);
+    const QRect tab = bar.accessibleItemRect(0);
     bar.resize(700, 64);
     QCoreApplication::processEvents();
-    EXPECT_EQ(bar.tabRectangle(0), tab.translated(0, 32));
+    EXPECT_EQ(bar.accessibleItemRect(0), tab.translated(0, 32));
     QWidget{}.show();
     QCoreApplication::processEvents();
-    EXPECT_EQ(bar.tabRectangle(0), tab.translated(100, 32));
+    EXPECT_EQ(bar.accessibleItemRect(0), tab.translated(100, 32));
 }
 
 TEST_F(MainTabViewTest, paintsItsOwnColoursOnEveryDesktop) {
     const QImage light = bar.grab().toImage();
     bar.setPalette(darkPalette());
     EXPECT_EQ(bar.grab().toImage(), light);
-    const int box = static_cast<int>(bar.tabRectangle(0).left()) + 3;
-    const int separator = static_cast<int>(bar.tabRectangle(1).right()) + 3;
+    const int box = bar.accessibleItemRect(0).left() + 3;
+    const int separator = bar.accessibleItemRect(1).right() + 3;
     const std::vector<std::array<int, 3>> levels{
         {2, 31, 179}, {2, 0, 220}, {box, 16, 169}, {separator, 16, 85}, {separator + 1, 16, 255}};
     for (const auto& [x, y, level] : levels) {
