@@ -42,7 +42,8 @@ class MarkerInteraction {
     /// Selects the stop so many places on; without a selected stop the first, or the last when going back.
     bool selectNeighbour(std::int64_t places);
 
-    /// 1 when the last drag step went to a greater position, else 0.
+    /// 1 when the last drag step went to a greater position, else 0. Nothing in the program asks; kept for a
+    /// picture of the marker that leans into its way.
     std::int64_t markerDragOrientation() const { return markerDragOrientation_; }
 
   private:

@@ -22,6 +22,7 @@ class ColorPickerImageView : public QAbstractButton, public ColorWell {
     void setBackgroundColor(const Color& color) override;
     void setEnabled(bool enabled) override { QWidget::setEnabled(enabled); }
 
+    /// Crosses the swatch out. Nothing in the program sets it; kept for a stop that has no colour of its own.
     bool isColorNotSet() const { return isColorNotSet_; }
     void setIsColorNotSet(bool notSet) { isColorNotSet_ = notSet; }
 
@@ -39,7 +40,7 @@ class ColorPickerImageView : public QAbstractButton, public ColorWell {
     void colorUpdate(const QColor& color);
 
     Color backgroundColor_;
-    bool isColorNotSet_ = false; ///< crosses the swatch out; nothing sets it yet
+    bool isColorNotSet_ = false;
     QColorDialog* colorPanel_ = nullptr;
 };
 
