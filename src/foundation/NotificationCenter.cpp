@@ -9,27 +9,14 @@ struct NotificationCenter::Observer {
     std::string name;
     const void* object;
     Handler handler;
-    bool active = true;
+    std::weak_ptr<const void> observation;
 
+    bool isActive() const { return !observation.expired(); }
     bool wants(const Notification& notification) const {
-        return active && name == notification.name && (object == nullptr || object == notification.object);
+        return isActive() && name == notification.name &&
+               (object == nullptr || object == notification.object);
     }
 };
-
-NotificationCenter::Observation& NotificationCenter::Observation::operator=(Observation&& other) noexcept {
-    if (this != &other) {
-        reset();
-        observer_ = std::move(other.observer_);
-    }
-    return *this;
-}
-
-void NotificationCenter::Observation::reset() {
-    if (const auto observer = observer_.lock()) {
-        observer->active = false;
-    }
-    observer_.reset();
-}
 
 NotificationCenter& NotificationCenter::defaultCenter() {
     static NotificationCenter center;
@@ -38,9 +25,11 @@ NotificationCenter& NotificationCenter::defaultCenter() {
 
 NotificationCenter::Observation NotificationCenter::addObserver(std::string name, const void* object,
                                                                 Handler handler) {
-    std::erase_if(observers_, [](const auto& observer) { return !observer->active; });
-    observers_.push_back(std::make_shared<Observer>(Observer{std::move(name), object, std::move(handler)}));
-    return Observation{observers_.back()};
+    std::erase_if(observers_, [](const auto& observer) { return !observer->isActive(); });
+    Observation observation = std::make_shared<char>(); // an identity alone: the centre owns the observer
+    observers_.push_back(
+        std::make_shared<Observer>(Observer{std::move(name), object, std::move(handler), observation}));
+    return observation;
 }
 
 void NotificationCenter::post(const Notification& notification) {
@@ -49,7 +38,7 @@ void NotificationCenter::post(const Notification& notification) {
     std::copy_if(observers_.begin(), observers_.end(), std::back_inserter(receivers),
                  [&](const auto& observer) { return observer->wants(notification); });
     for (const auto& receiver : receivers) {
-        if (receiver->active) {
+        if (receiver->isActive()) {
             receiver->handler(notification);
         }
     }

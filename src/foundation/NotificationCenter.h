@@ -13,29 +13,11 @@ namespace tessaly {
 /// A handler may post, add and remove: an observer removed during a delivery is no longer called by it, one
 /// added during a delivery is first called by the next.
 class NotificationCenter {
-    struct Observer;
-
   public:
     using Handler = std::function<void(const Notification&)>;
 
-    /// Ends its observation when it dies or is reset. May outlive the centre.
-    class Observation {
-      public:
-        Observation() = default;
-        Observation(Observation&&) noexcept = default;
-        Observation& operator=(Observation&& other) noexcept;
-        Observation(const Observation&) = delete;
-        Observation& operator=(const Observation&) = delete;
-        ~Observation() { reset(); }
-
-        void reset();
-
-      private:
-        friend class NotificationCenter;
-        explicit Observation(std::weak_ptr<Observer> observer) : observer_{std::move(observer)} {}
-
-        std::weak_ptr<Observer> observer_;
-    };
+    /// Ends when it is dropped or reset. May outlive the centre.
+    using Observation = std::shared_ptr<const void>;
 
     /// The one centre that all rooms of the program share.
     static NotificationCenter& defaultCenter();
@@ -46,6 +28,8 @@ class NotificationCenter {
     void post(const Notification& notification);
 
   private:
+    struct Observer;
+
     std::vector<std::shared_ptr<Observer>> observers_;
 };
 
