@@ -12,14 +12,9 @@ void writeToStandardError(std::string_view message) {
     std::string line;
     line.reserve(message.size() + 1);
     for (const char c : message) {
-        switch (c) {
-        case '\n':
-            line += "\\n";
-            break;
-        case '\r':
-            line += "\\r";
-            break;
-        default:
+        if (c == '\n' || c == '\r') {
+            line += c == '\n' ? "\\n" : "\\r";
+        } else {
             line += c;
         }
     }

@@ -3,6 +3,7 @@
 #include "foundation/Utf16.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tessaly {
 namespace {
@@ -24,23 +25,13 @@ char32_t takeCodePoint(std::u16string_view& text) {
 }
 
 void append(std::string& out, char32_t codePoint) {
-    const auto continuation = [&](unsigned shift) {
+    constexpr std::array leads{0x00U, 0xC0U, 0xE0U, 0xF0U}; // by the number of bytes that follow
+    const unsigned following = codePoint < 0x80 ? 0 : codePoint < 0x800 ? 1 : codePoint < 0x10000 ? 2 : 3;
+    unsigned shift = 6 * following;
+    out += static_cast<char>(leads[following] | (codePoint >> shift));
+    while (shift > 0) {
+        shift -= 6;
         out += static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
-    };
-    if (codePoint < 0x80) {
-        out += static_cast<char>(codePoint);
-    } else if (codePoint < 0x800) {
-        out += static_cast<char>(0xC0U | (codePoint >> 6U));
-        continuation(0);
-    } else if (codePoint < 0x10000) {
-        out += static_cast<char>(0xE0U | (codePoint >> 12U));
-        continuation(6);
-        continuation(0);
-    } else {
-        out += static_cast<char>(0xF0U | (codePoint >> 18U));
-        continuation(12);
-        continuation(6);
-        continuation(0);
     }
 }
 
