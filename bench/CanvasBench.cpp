@@ -3,8 +3,8 @@
 #include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
-#include "foundation/NotificationCenter.h"
-#include "presets/PresetNotification.h"
+#include "presets/qt/PresetGradienContainerView.h"
+#include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
 
 #include <QMouseEvent>
@@ -45,9 +45,13 @@ void createBackground(benchmark::State& state) {
 // runs.
 void dragStep(benchmark::State& state) {
     const TemporaryFolder temporary;
+    {
+        PresetProgram before{temporary.path};
+        before.gallery.addGradientIntoPreset(gradientOf(orientation::leftToRight, state.range(0)));
+        before.store.insertData();
+    }
     Tessaly program{temporary.path, temporary.path};
-    const Preset preset{gradientOf(orientation::leftToRight, state.range(0))};
-    NotificationCenter::defaultCenter().post(presetNotification::makeGradientIndexChanged(preset, nullptr));
+    program.mainWindow().findChild<PresetGradienContainerView*>()->pressAccessibleItem(0);
     CanvasView& canvas = *program.mainWindow().views().canvas;
     const Rect marker = canvas.geometry().markerRect(orientation::leftToRight, 0.0);
     const double y = canvas.height() - marker.center().y;

@@ -2,7 +2,6 @@
 // disk. The log goes to a file, as a desktop session keeps it.
 
 #include "Measure.h"
-#include "presets/PresetNotification.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
 
@@ -41,9 +40,8 @@ void fill(PresetProgram& program, std::int64_t count) {
         gradient.append({fraction, Color::calibratedRGB(fraction, 1.0 - fraction, fraction * fraction),
                          1.0 - fraction * 0.5});
     }
-    program.record.gradient = gradient;
     for (std::int64_t i = 0; i < count; ++i) {
-        program.gallery.addGradientIntoPreset(nullptr);
+        program.gallery.addGradientIntoPreset(gradient);
     }
     program.store.insertData();
 }
@@ -54,14 +52,13 @@ void addPreset(benchmark::State& state) {
     PresetProgram program{folder.path};
     fill(program, state.range(0));
     const auto deleteLast = [&] {
-        NotificationCenter::defaultCenter().post(
-            presetNotification::makeDeleteGradient(state.range(0), nullptr));
+        program.gallery.deletePreset(static_cast<std::size_t>(state.range(0)));
         if (program.presets().size() != static_cast<std::size_t>(state.range(0))) {
             state.SkipWithError("the list has another length");
         }
     };
     measure(
-        state, [&](std::size_t /*number*/) { program.gallery.addGradientIntoPreset(&program); }, deleteLast);
+        state, [&](std::size_t /*number*/) { program.gallery.addGradientIntoPreset(); }, deleteLast);
 }
 
 void readPresets(benchmark::State& state) {

@@ -39,8 +39,7 @@ Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem
       store_{gallery_, applicationSupport} {
     lendToViews();
     // The stored presets come before the gradient that is to be edited, and the code is written from that.
-    store_.openWithTables();
-    store_.readData();
+    store_.openDB();
     editor_.awakeFromNib();
     observe();
     writeCode();

@@ -3,7 +3,7 @@
 #include "foundation/DiagnosticLog.h"
 #include "presets/PresetTable.h"
 #include "presets/PrivateFile.h"
-#include "presets/SafetyCopy.h"
+#include "presets/SetAside.h"
 
 #include <sqlite3.h>
 #include <utility>
@@ -13,7 +13,36 @@ namespace {
 
 // Stands in front of the table of the same name while all presets are read: each of them asks for its stops
 // by a query of its own, and would go through the whole table.
-const std::string indexedCopy = std::string{"temp."} + presetTable::additional;
+const std::string indexedCopy = "temp." + presetTable::additional;
+
+// -1 for what is no sound database of presets.
+std::int64_t rowsIn(SqliteConnection database) {
+    database.limitToSize();
+    const std::optional<std::string> rows =
+        database.value("select (select count(*) from " + presetTable::main + ") + (select count(*) from " +
+                       presetTable::additional + ")");
+    return rows && database.value("pragma quick_check(1)") == "ok" ? std::stoll(*rows) : -1;
+}
+
+// Up to version 0.1 a copy of the database stood beside it while a save was under way. One that holds more
+// than the database, which a save then emptied, takes its place once; any other is set aside.
+void takeOverSafetyCopy(const std::filesystem::path& database) {
+    const std::filesystem::path copy = withSuffix(database, ".safety");
+    std::error_code error;
+    std::filesystem::remove(withSuffix(database, ".safety-unfinished"), error); // of a save that crashed
+    if (!std::filesystem::exists(copy, error)) {
+        return;
+    }
+    const std::int64_t stored =
+        std::filesystem::exists(database, error) ? rowsIn(SqliteConnection::open(database)) : -1;
+    const bool holdsMore = rowsIn(SqliteConnection::openImmutable(copy)) > stored;
+    if (!holdsMore) {
+        setAside(copy);
+    } else if (setAside(database)) {
+        std::filesystem::rename(copy, database, error);
+        DiagnosticLog::write("The last save did not finish: presets restored");
+    }
+}
 
 } // namespace
 
@@ -44,7 +73,7 @@ bool PresetDatabase::write() {
 
 void PresetDatabase::beginReading() {
     memory_.limitToSize();
-    memory_.execute("pragma temp_store=memory; create temp table " + std::string{presetTable::additional} +
+    memory_.execute("pragma temp_store=memory; create temp table " + presetTable::additional +
                     " as select * from main." + presetTable::additional + "; create index temp.byPreset on " +
                     presetTable::additional + " (mainIndex)");
 }
@@ -53,9 +82,8 @@ void PresetDatabase::endReading(bool complete) {
     complete = memory_.execute("drop table " + indexedCopy).code == SQLITE_OK && complete;
     memory_.liftLimit();
     // A view would be read and could never be saved to.
-    const std::string tables =
-        std::string{"select count(*) from sqlite_master where type='table' and name in ('"} +
-        presetTable::main + "', '" + presetTable::additional + "')";
+    const std::string tables = "select count(*) from sqlite_master where type='table' and name in ('" +
+                               presetTable::main + "', '" + presetTable::additional + "')";
     usable_ = complete && !memory_.isReadOnly() && memory_.value(tables) == "2";
 }
 

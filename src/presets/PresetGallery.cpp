@@ -2,84 +2,62 @@
 
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
-#include "foundation/Truncation.h"
 #include "presets/PresetGalleryView.h"
-#include "presets/PresetNotification.h"
 
 namespace tessaly {
 namespace {
 
-// Column and row, counting from 0, of a slot counting from 1.
-Point getPresetGradientItemPos(std::int64_t slot) {
-    DiagnosticLog::write("Index: " + std::to_string(slot));
-    const Point pos = PresetSlotGeometry::itemPos(slot);
+void logItemPos(std::size_t position) {
+    const Point pos = PresetSlotGeometry::itemPos(position);
+    DiagnosticLog::write("Index: " + std::to_string(position + 1));
     DiagnosticLog::write("PosX: " + fixedText(pos.x, 6) + "; PosY: " + fixedText(pos.y, 6));
-    return pos;
 }
 
 } // namespace
 
 PresetGallery::PresetGallery(Gradient& edited, PresetGalleryView& view, Actions actions)
     : edited_{edited}, view_{view}, actions_{std::move(actions)} {
-    view_.setContainerSize(PresetSlotGeometry::containerSize(maxPresetGradientRow_));
-    NotificationCenter& center = NotificationCenter::defaultCenter();
-    observations_ = {center.addObserver(presetNotification::gradientIndexChanged, nullptr,
-                                        [this](const auto& n) { updateGradientNotification(n); }),
-                     center.addObserver(presetNotification::deleteGradient, nullptr,
-                                        [this](const auto& n) { deletePresetGradientNotification(n); })};
+    view_.setContainerSize(PresetSlotGeometry::containerSize(room_));
 }
 
 void PresetGallery::redrawPresetGradientContainer(bool force) {
-    const std::int64_t before = presetGradientThumbDistant_;
-    const Size size = PresetSlotGeometry::containerSize(maxPresetGradientRow_);
+    const Size size = PresetSlotGeometry::containerSize(room_);
     view_.setContainerSize(size);
-    presetGradientThumbDistant_ = PresetSlotGeometry::thumbDistantFor(size.height, view_.scrollViewHeight());
+    const double before =
+        std::exchange(presetGradientThumbDistant_,
+                      PresetSlotGeometry::thumbDistantFor(size.height, view_.scrollViewHeight()));
     if (presetGradientThumbDistant_ == before && !force) {
         return;
     }
-    for (std::size_t i = 0; i < presetGradient_.size(); ++i) {
-        const auto position = static_cast<std::int64_t>(i);
-        getPresetGradientItemPos(position + 1); // for the log: the places follow from the position alone
-        presetGradient_[i].index = position;
+    for (std::size_t position = 0; position < presetGradient_.size(); ++position) {
+        logItemPos(position);
     }
-    gradientIndex_ = static_cast<std::int64_t>(presetGradient_.size());
     view_.thumbnailsChanged();
 }
 
 void PresetGallery::addGradientIntoPreset(Gradient gradient) {
-    const Point pos = getPresetGradientItemPos(static_cast<std::int64_t>(presetGradient_.size()) + 1);
-    presetGradient_.push_back({std::move(gradient), gradientIndex_++});
-    maxPresetGradientRow_ = truncated(pos.y + 1);
+    logItemPos(presetGradient_.size());
+    presetGradient_.push_back(std::move(gradient));
+    room_ = presetGradient_.size();
     redrawPresetGradientContainer(false);
     view_.thumbnailsChanged();
 }
 
-void PresetGallery::addGradientIntoPreset(const void* sender) {
+void PresetGallery::addGradientIntoPreset() {
     addGradientIntoPreset(edited_);
-    if (sender != nullptr) {
-        actions_.insertData();
-    }
+    actions_.insertData();
 }
 
-void PresetGallery::updateGradientNotification(const Notification& notification) {
+void PresetGallery::applyPreset(std::size_t position) {
     DiagnosticLog::write("updateGradientNotification");
-    if (const Gradient* const gradient = presetNotification::gradientOf(notification)) {
-        edited_ = *gradient;
-        actions_.presetApplied();
-    }
+    edited_ = presetGradient_[position];
+    actions_.presetApplied();
 }
 
-void PresetGallery::deletePresetGradientNotification(const Notification& notification) {
+void PresetGallery::deletePreset(std::size_t position) {
     DiagnosticLog::write("deletePresetGradientNotification");
-    const std::optional<std::int64_t> index = presetNotification::indexOf(notification);
-    if (!index) {
-        return;
-    }
-    DiagnosticLog::write("index: " + std::to_string(*index));
-    if (*index < 0 || *index >= static_cast<std::int64_t>(presetGradient_.size())) {
-        return;
-    }
-    presetGradient_.erase(presetGradient_.begin() + *index);
+    DiagnosticLog::write("index: " + std::to_string(position));
+    presetGradient_.erase(presetGradient_.begin() + static_cast<std::ptrdiff_t>(position));
     redrawPresetGradientContainer(true);
     actions_.insertData();
 }

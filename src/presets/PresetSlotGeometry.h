@@ -3,7 +3,6 @@
 #include "foundation/Geometry.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 
 namespace tessaly {
@@ -12,8 +11,8 @@ namespace tessaly {
 /// at the container's top left corner, y downwards.
 class PresetSlotGeometry {
   public:
-    static constexpr std::int64_t wideThumbDistant = 52;
-    static constexpr std::int64_t narrowThumbDistant = 49; ///< leaves room for a vertical scroller
+    static constexpr double wideThumbDistant = 52.0;
+    static constexpr double narrowThumbDistant = 49.0; ///< leaves room for a vertical scroller
     static constexpr std::size_t thumbnailsPerRow = 5;
     static constexpr double thumbnailSize = 40.0;
     static constexpr double containerWidth = 263.0;
@@ -27,14 +26,14 @@ class PresetSlotGeometry {
     };
 
     /// `thumbDistant`: from one column to the next.
-    explicit PresetSlotGeometry(std::int64_t thumbDistant)
-        : thumbDistant_{static_cast<double>(thumbDistant)} {}
+    explicit PresetSlotGeometry(double thumbDistant) : thumbDistant_{thumbDistant} {}
 
-    /// Column and row, counting from 0, of a slot counting from 1.
-    static Point itemPos(std::int64_t slot);
+    /// Column and row, counting from 0.
+    static Point itemPos(std::size_t position);
 
-    static Size containerSize(std::int64_t rows);
-    static std::int64_t thumbDistantFor(double containerHeight, double scrollViewHeight);
+    /// With `count` thumbnails.
+    static Size containerSize(std::size_t count);
+    static double thumbDistantFor(double containerHeight, double scrollViewHeight);
 
     Rect thumbnailRect(std::size_t position) const;
 

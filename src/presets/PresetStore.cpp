@@ -1,19 +1,33 @@
 #include "presets/PresetStore.h"
 
 #include "foundation/DiagnosticLog.h"
+#include "presets/PresetGallery.h"
 #include "presets/PresetTable.h"
 #include "presets/PrivateFile.h"
 #include "presets/SqliteStatement.h"
 
 #include <algorithm>
+#include <array>
 #include <sqlite3.h>
 #include <utility>
 
 namespace tessaly {
 namespace {
 
-const std::string mainTable = presetTable::main;
-const std::string additionalTable = presetTable::additional;
+const std::string& mainTable = presetTable::main;
+const std::string& additionalTable = presetTable::additional;
+
+struct Table {
+    std::string name;
+    std::string creation;
+};
+
+const std::array tables{
+    Table{mainTable,
+          "create table " + mainTable + " (mainIndex INTEGER PRIMARY KEY, orientationType INTEGER);"},
+    Table{additionalTable, "create table " + additionalTable +
+                               " (additionalIndex INTEGER PRIMARY KEY, mainIndex INTEGER, position FLOAT,"
+                               " red FLOAT, green FLOAT, blue FLOAT, opacity FLOAT);"}};
 
 const std::string stopsQuery =
     "select position, red, green, blue, opacity from " + additionalTable + " where mainIndex=";
@@ -30,10 +44,15 @@ void logStatement(const std::string& sql) {
 
 } // namespace
 
-PresetStore::PresetStore(PresetList& presets, const std::filesystem::path& applicationSupport)
+struct PresetStore::MainRow {
+    std::int64_t mainIndex;
+    std::int64_t orientationType;
+};
+
+PresetStore::PresetStore(PresetGallery& presets, const std::filesystem::path& applicationSupport)
     : presets_{presets}, database_{applicationSupport / "Tessaly"} {}
 
-bool PresetStore::openDB() {
+void PresetStore::openDB() {
     const std::filesystem::path& folder = database_.folder();
     DiagnosticLog::write("userpath");
     std::error_code error;
@@ -41,11 +60,11 @@ bool PresetStore::openDB() {
         DiagnosticLog::write("Error: Create folder failed " + folder.native());
     }
     DiagnosticLog::write("userpath: " + database_.file().native());
-    if (!database_.open(lockPatience)) {
-        return false;
+    if (database_.open(lockPatience)) {
+        DiagnosticLog::write("Success!");
     }
-    DiagnosticLog::write("Success!");
-    return true;
+    makeMissingTables();
+    readData();
 }
 
 void PresetStore::closeDB() {
@@ -55,41 +74,18 @@ void PresetStore::closeDB() {
     database_.close();
 }
 
-void PresetStore::openWithTables() {
-    openDB();
-    makeMissingTables();
-}
-
 void PresetStore::makeMissingTables() {
     complete_ = true;
     bool made = false;
-    if (!isTableExists(mainTable)) {
-        createMainTable();
-        made = true;
-    }
-    if (!isTableExists(additionalTable)) {
-        createAdditionalTable();
-        made = true;
+    for (const Table& table : tables) {
+        if (!isTableExists(table.name)) {
+            createTable(table.creation);
+            made = true;
+        }
     }
     if (made && complete_) {
         database_.write();
     }
-}
-
-bool PresetStore::isTableExists(const std::string& name) {
-    const std::string sql = "select name from sqlite_master where name='" + name + "'";
-    logStatement(sql);
-    return isRecordFound(sql);
-}
-
-void PresetStore::createMainTable() {
-    createTable("create table " + mainTable + " (mainIndex INTEGER PRIMARY KEY, orientationType INTEGER);");
-}
-
-void PresetStore::createAdditionalTable() {
-    createTable("create table " + additionalTable +
-                " (additionalIndex INTEGER PRIMARY KEY, mainIndex INTEGER, position FLOAT, red FLOAT,"
-                " green FLOAT, blue FLOAT, opacity FLOAT);");
 }
 
 void PresetStore::createTable(const std::string& statement) {
@@ -98,43 +94,42 @@ void PresetStore::createTable(const std::string& statement) {
     }
 }
 
-void PresetStore::readData() {
-    readMainData();
+bool PresetStore::isTableExists(const std::string& name) const {
+    const std::string sql = "select name from sqlite_master where name='" + name + "'";
+    logStatement(sql);
+    return database_.connection().value(sql).has_value();
 }
 
-void PresetStore::readMainData() {
-    struct MainRow {
-        std::int64_t mainIndex;
-        std::int64_t orientationType;
-    };
+void PresetStore::readData() {
     database_.beginReading();
-    const std::string sql = "select mainIndex, orientationType from " + mainTable;
-    logStatement(sql);
-    std::vector<MainRow> rows;
-    {
-        SqliteStatement statement = SqliteStatement::prepareFirstGeneration(database_.connection(), sql);
-        int result = statement.step();
-        presets_.setGradientIndex(0);
-        for (; result == SQLITE_ROW; result = statement.step()) {
-            rows.push_back({statement.integer(0), statement.integer(1)});
-        }
-        complete_ = result == SQLITE_DONE;
-        if (result == SQLITE_INTERRUPT) { // a view that never ends
-            rows.clear();
-        }
-    }
+    const std::vector<MainRow> rows = readMainData();
     SqliteStatement query = SqliteStatement::prepareFirstGeneration(database_.connection(), stopsQuery + '?');
     for (const MainRow& row : rows) {
         DiagnosticLog::write("mainIndex: " + std::to_string(row.mainIndex));
-        readAdditionalData(query, row.mainIndex, row.orientationType);
+        readAdditionalData(query, row);
     }
     database_.endReading(complete_);
 }
 
-void PresetStore::readAdditionalData(SqliteStatement& query, std::int64_t mainIndex,
-                                     std::int64_t orientationType) {
-    logStatement(stopsQuery + std::to_string(mainIndex));
-    query.bind(1, mainIndex);
+std::vector<PresetStore::MainRow> PresetStore::readMainData() {
+    const std::string sql = "select mainIndex, orientationType from " + mainTable;
+    logStatement(sql);
+    SqliteStatement statement = SqliteStatement::prepareFirstGeneration(database_.connection(), sql);
+    std::vector<MainRow> rows;
+    int result = statement.step();
+    for (; result == SQLITE_ROW; result = statement.step()) {
+        rows.push_back({statement.integer(0), statement.integer(1)});
+    }
+    complete_ = result == SQLITE_DONE;
+    if (result == SQLITE_INTERRUPT) { // a view that never ends
+        rows.clear();
+    }
+    return rows;
+}
+
+void PresetStore::readAdditionalData(SqliteStatement& query, const MainRow& row) {
+    logStatement(stopsQuery + std::to_string(row.mainIndex));
+    query.bind(row.mainIndex);
     std::vector<ColorStop> stops;
     int result = query.step();
     for (; result == SQLITE_ROW; result = query.step()) {
@@ -143,7 +138,7 @@ void PresetStore::readAdditionalData(SqliteStatement& query, std::int64_t mainIn
     }
     query.reset();
     complete_ = complete_ && result == SQLITE_DONE;
-    presets_.addGradientIntoPreset(Gradient{std::move(stops), orientationType});
+    presets_.addGradientIntoPreset(Gradient{std::move(stops), row.orientationType});
 }
 
 // The presets of this run stand behind those that were stored all along.
@@ -152,10 +147,10 @@ void PresetStore::readBeforeSaving() {
         makeMissingTables();
     }
     if (!database_.isUnread()) {
-        const std::vector<Preset> added = presets_.takePresets();
+        const std::vector<Gradient> added = presets_.takePresets();
         readData();
-        for (const Preset& preset : added) {
-            presets_.addGradientIntoPreset(preset.gradient);
+        for (const Gradient& gradient : added) {
+            presets_.addGradientIntoPreset(gradient);
         }
     }
 }
@@ -166,58 +161,40 @@ void PresetStore::insertData() {
     }
     complete_ = true;
     if (database_.beginSave()) {
-        createMainTable();
-        createAdditionalTable();
+        std::ranges::for_each(tables, [this](const Table& table) { createTable(table.creation); });
     }
-    emptyTable(mainTable);
-    emptyTable(additionalTable);
+    for (const Table& table : tables) {
+        if (!executeSQL("delete from " + table.name + ";")) {
+            DiagnosticLog::write("Error delete data!");
+        }
+    }
     insertAllPresets();
     database_.endSave(complete_);
-}
-
-void PresetStore::emptyTable(const std::string& table) {
-    if (!executeSQL("delete from " + table + ";")) {
-        DiagnosticLog::write("Error delete data!");
-    }
 }
 
 void PresetStore::insertAllPresets() {
     SqliteStatement mainRow = SqliteStatement::prepare(database_.connection(), insertMainRow);
     SqliteStatement stopRow = SqliteStatement::prepare(database_.connection(), insertStopRow);
-    const std::vector<Preset>& presets = presets_.presetGradient();
-    for (std::size_t i = 0; i < presets.size(); ++i) {
-        // The main row takes the preset's own index and the stops its place in the list, deliberately: it is
-        // the list that keeps the two equal.
-        insertMainData(mainRow, static_cast<std::int32_t>(presets[i].index),
-                       static_cast<std::int32_t>(presets[i].gradient.orientation()));
-        const bool allInserted = std::ranges::all_of(presets[i].gradient.stops(), [&](const ColorStop& stop) {
-            return insertStop(stopRow, static_cast<std::int32_t>(i), stop);
+    std::int64_t index = 0;
+    for (const Gradient& gradient : presets_.presetGradient()) {
+        const std::int64_t orientation =
+            static_cast<std::int32_t>(gradient.orientation()); // of 32 bits there
+        mainRow.bind(index, orientation);
+        insert(mainRow, insertMainRow);
+        const bool allInserted = std::ranges::all_of(gradient.stops(), [&](const ColorStop& stop) {
+            const RGBAComponents color = stop.color.calibratedRGB().value_or(RGBAComponents{});
+            stopRow.bind(index, stop.position, color.red, color.green, color.blue, stop.opacity);
+            return insert(stopRow, insertStopRow);
         });
         if (!allInserted) {
             return;
         }
+        ++index;
     }
 }
 
-void PresetStore::insertMainData(SqliteStatement& row, std::int32_t mainIndex, std::int32_t orientationType) {
-    logStatement(insertMainRow);
-    row.bind(1, std::int64_t{mainIndex});
-    row.bind(2, std::int64_t{orientationType});
-    insert(row);
-}
-
-bool PresetStore::insertStop(SqliteStatement& row, std::int32_t mainIndex, const ColorStop& stop) {
-    logStatement(insertStopRow);
-    const RGBAComponents color = stop.color.calibratedRGB().value_or(RGBAComponents{});
-    row.bind(1, std::int64_t{mainIndex});
-    int parameter = 2;
-    for (const double value : {stop.position, color.red, color.green, color.blue, stop.opacity}) {
-        row.bind(parameter++, value);
-    }
-    return insert(row);
-}
-
-bool PresetStore::insert(SqliteStatement& row) {
+bool PresetStore::insert(SqliteStatement& row, const std::string& sql) {
+    logStatement(sql);
     const bool done = row.step() == SQLITE_DONE;
     if (!done) {
         DiagnosticLog::write("Error while inserting: " + database_.connection().errorText());
@@ -250,18 +227,6 @@ bool PresetStore::executeSQL(const std::string& query, std::vector<std::vector<s
         rowData.push_back(std::move(row));
     }
     return true;
-}
-
-bool PresetStore::isRecordFound(const std::string& query) {
-    int columns = 0;
-    const SqliteResult result = database_.connection().queryTable(query, columns);
-    if (result.code == SQLITE_OK) {
-        return columns > 0;
-    }
-    if (result.message) {
-        LastError_ = database_.connection().errorText();
-    }
-    return false;
 }
 
 } // namespace tessaly

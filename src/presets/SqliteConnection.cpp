@@ -8,15 +8,6 @@
 namespace tessaly {
 namespace {
 
-std::optional<std::string> takeMessage(char* message) {
-    if (message == nullptr) {
-        return std::nullopt;
-    }
-    std::string text = message;
-    sqlite3_free(message);
-    return text;
-}
-
 // A path as it stands in a "file:" address.
 std::string escapedPath(const std::filesystem::path& path) {
     std::string text;
@@ -106,20 +97,12 @@ SqliteResult SqliteConnection::execute(const std::string& statement) const {
         return {SQLITE_CANTOPEN, errorText()};
     }
     char* message = nullptr;
-    const int code = sqlite3_exec(handle(), statement.c_str(), nullptr, nullptr, &message);
-    return {code, takeMessage(message)};
-}
-
-SqliteResult SqliteConnection::queryTable(const std::string& query, int& columns) const {
-    columns = 0;
-    if (!isOpen()) {
-        return {SQLITE_CANTOPEN, errorText()};
+    SqliteResult result{sqlite3_exec(handle(), statement.c_str(), nullptr, nullptr, &message), std::nullopt};
+    if (message != nullptr) {
+        result.message = message;
+        sqlite3_free(message);
     }
-    char** table = nullptr;
-    char* message = nullptr;
-    const int code = sqlite3_get_table(handle(), query.c_str(), &table, nullptr, &columns, &message);
-    sqlite3_free_table(table);
-    return {code, takeMessage(message)};
+    return result;
 }
 
 SqliteResult SqliteConnection::copyTo(const SqliteConnection& other) const {

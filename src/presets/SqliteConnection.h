@@ -58,9 +58,6 @@ class SqliteConnection {
     /// Runs a statement and drops its rows.
     SqliteResult execute(const std::string& statement) const;
 
-    /// Runs a query; `columns` is then the number of its columns, 0 when there were no rows.
-    SqliteResult queryTable(const std::string& query, int& columns) const;
-
     /// Copies the whole database over another in one transaction, through SQLite's backup interface: it
     /// respects the locks and logs of both, and on failure the other stays as it was. What lies broken in a
     /// page is copied as it is.

@@ -40,11 +40,11 @@ SqliteStatement SqliteStatement::prepareFirstGeneration(const SqliteConnection& 
     return SqliteStatement{handle};
 }
 
-void SqliteStatement::bind(int parameter, std::int64_t value) {
+void SqliteStatement::bindAt(int parameter, std::int64_t value) {
     sqlite3_bind_int64(handle_.get(), parameter, value);
 }
 
-void SqliteStatement::bind(int parameter, double value) {
+void SqliteStatement::bindAt(int parameter, double value) {
     sqlite3_bind_double(handle_.get(), parameter, value);
 }
 

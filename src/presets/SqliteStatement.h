@@ -22,9 +22,12 @@ class SqliteStatement {
     static SqliteStatement prepareFirstGeneration(const SqliteConnection& connection,
                                                   const std::string& text);
 
-    /// Parameters count from 1.
-    void bind(int parameter, std::int64_t value);
-    void bind(int parameter, double value);
+    /// To the parameters from the first on: std::int64_t or double.
+    template <typename... Values>
+    void bind(Values... values) {
+        int parameter = 0;
+        (bindAt(++parameter, values), ...);
+    }
 
     /// SQLITE_ROW, SQLITE_DONE or an error code.
     int step();
@@ -44,6 +47,9 @@ class SqliteStatement {
     };
 
     explicit SqliteStatement(sqlite3_stmt* handle) : handle_{handle} {}
+
+    void bindAt(int parameter, std::int64_t value);
+    void bindAt(int parameter, double value);
 
     std::unique_ptr<sqlite3_stmt, Finalizer> handle_;
 };

@@ -32,11 +32,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const std::optional<std::string> before = presetsIn(support.path / "original");
     auto program = std::make_unique<PresetProgram>(support.path);
-    program->gallery.addGradientIntoPreset(&program);
-    std::vector<Preset> saved = program->presets();
+    program->gallery.addGradientIntoPreset();
+    std::vector<Gradient> saved = program->presets();
     program.reset();
-    for (Preset& preset : saved) {
-        preset.gradient.setOrientation(static_cast<std::int32_t>(preset.gradient.orientation())); // as stored
+    for (Gradient& gradient : saved) {
+        gradient.setOrientation(static_cast<std::int32_t>(gradient.orientation())); // as stored
     }
     require(PresetProgram{support.path}.presets() == saved, "a save brings the list back after a restart");
     const auto tables =

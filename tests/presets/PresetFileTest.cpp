@@ -1,10 +1,9 @@
 // What no crash, no full disk, no lock, no damage and no other program may do: cost the user a preset.
 
-#include "presets/PresetStore.h"
-
 #include "support/FailingDisk.h"
 #include "support/FileSizeLimit.h"
 #include "support/LogCapture.h"
+#include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
 
 #include <functional>
@@ -19,40 +18,23 @@ using Disk = FailingDisk;
 namespace fs = std::filesystem;
 
 /// The list of presets number 27 has seven, those of the others follow whole from their numbers too.
-std::vector<Preset> listOf(std::initializer_list<std::int64_t> numbers) {
-    std::vector<Preset> list;
+std::vector<Gradient> listOf(std::initializer_list<std::int64_t> numbers) {
+    std::vector<Gradient> list;
     for (const std::int64_t number : numbers) {
         for (std::int64_t i = 0; i <= number % 7; ++i) {
-            list.push_back({Gradient{{{0.5, Color::white()}, {1.0, Color{}, static_cast<double>(i)}}, number},
-                            std::ssize(list)});
+            list.push_back(Gradient{{{0.5, Color::white()}, {1.0, Color{}, static_cast<double>(i)}}, number});
         }
     }
     return list;
 }
 
-class ProgramRun : public PresetList {
-  public:
-    explicit ProgramRun(const fs::path& support) : store_{*this, support} {
-        store_.openWithTables();
-        store_.readData();
+void save(PresetProgram& program, std::int64_t number) {
+    program.gallery.takePresets();
+    for (const Gradient& gradient : listOf({number})) {
+        program.gallery.addGradientIntoPreset(gradient);
     }
-
-    void save(std::int64_t number) {
-        presets_ = listOf({number});
-        store_.insertData();
-    }
-
-    const std::vector<Preset>& presetGradient() const override { return presets_; }
-    std::vector<Preset> takePresets() override { return std::exchange(presets_, {}); }
-    void setGradientIndex(std::int64_t /*index*/) override {}
-    void addGradientIntoPreset(Gradient gradient) override {
-        presets_.push_back({std::move(gradient), std::ssize(presets_)});
-    }
-
-  private:
-    std::vector<Preset> presets_;
-    PresetStore store_;
-};
+    program.store.insertData();
+}
 
 class PresetFileTest : public testing::Test {
   protected:
@@ -66,8 +48,11 @@ class PresetFileTest : public testing::Test {
     static std::string countIn(const fs::path& database) {
         return SqliteConnection::open(database).value("select count(*) from MainTable").value_or("none");
     }
-    void save(std::int64_t number) const { ProgramRun{support.path}.save(number); }
-    std::vector<Preset> stored() const { return ProgramRun{support.path}.presetGradient(); }
+    void saveAlone(std::int64_t number) const {
+        PresetProgram program{support.path};
+        save(program, number);
+    }
+    std::vector<Gradient> stored() const { return PresetProgram{support.path}.presets(); }
 
     /// Runs in a process of its own. True: it came to the call at which its disk fails.
     static bool isStruck(const std::function<void()>& run) {
@@ -121,7 +106,7 @@ TEST_F(PresetFileTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAsid
          }}};
     for (const auto& [name, damage] : rows) {
         fs::remove_all(folder);
-        save(27);
+        saveAlone(27);
         damage();
         const bool isDamaged = &name != &rows[0].first;
         const std::string bytes = contentsOf(file);
@@ -141,14 +126,14 @@ TEST_F(PresetFileTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAsid
                 std::ofstream{file, std::ios::binary} << bytes;
                 struck = isStruck([&] {
                     Disk::failAt(call, failure);
-                    ProgramRun run{support.path};
-                    run.save(22);
-                    run.save(22);
+                    PresetProgram program{support.path};
+                    save(program, 22);
+                    save(program, 22);
                 });
                 const bool mayBeOld = failure.error == 0 || failure.lasting;
-                const std::vector<Preset> found = stored();
+                const std::vector<Gradient> found = stored();
                 ASSERT_TRUE(found == listOf({22}) || (mayBeOld && (isDamaged || found == listOf({27}))));
-                save(23);
+                saveAlone(23);
                 ASSERT_EQ(stored(), listOf({23}));
                 const auto kept = setAside();
                 ASSERT_TRUE(isDamaged ? std::any_of(kept.begin(), kept.end(), isKept) : kept.empty());
@@ -167,26 +152,27 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
         const char* name;
         std::function<void()> before;    ///< what is done to a file with list 27
         std::function<void()> meanwhile; ///< the program runs, and then saves list 22, or ends
-        std::vector<Preset> expected = listOf({22});
         std::vector<std::string> presetsSetAside{};
+        std::vector<Gradient> expected = listOf({22});
     };
     const std::vector<Row> rows{
         {"nothing", nothing, nothing},
-        {"copied over", nothing, copyOverFile, listOf({22}), {"4"}},
-        {"moved over", nothing, [&] { fs::rename(elsewhere, file); }, listOf({22}), {"4"}},
+        {"copied over", nothing, copyOverFile, {"4"}},
+        {"moved over", nothing, [&] { fs::rename(elsewhere, file); }, {"4"}},
         {"removed", nothing, [&] { fs::remove(file); }},
         {"written to by another program",
          nothing,
          [&] { other("insert into MainTable values (99, 0)"); },
-         listOf({22}),
          {"8"}},
         {"kept open by another program, with a log",
          nothing,
          [&] { held = other("pragma journal_mode=wal; insert into MainTable values (99, 0)"); },
-         listOf({22}),
          {"8"}},
         {"read by another program", nothing, [&] { held = other("begin; select * from MainTable"); }},
-        {"locked at the start", [&] { held = other("begin exclusive"); }, [&] { held.reset(); },
+        {"locked at the start",
+         [&] { held = other("begin exclusive"); },
+         [&] { held.reset(); },
+         {},
          listOf({27, 22})},
         {"no room", nothing, [&] { held = limitFileSize(0); }},
         {"a link",
@@ -215,31 +201,21 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
              other("delete from MainTable where mainIndex > 0");
          },
          nothing,
-         listOf({22}),
          {"1"}},
-        {"a safety copy that holds no more",
-         [&] { fs::copy_file(file, safetyCopy); },
-         nothing,
-         listOf({22}),
-         {"7"}},
-        {"an empty safety copy", [&] { std::ofstream{safetyCopy}; }, nothing, listOf({22}), {"none"}},
-        {"a broken safety copy",
-         [&] { std::ofstream{safetyCopy} << "neither is this"; },
-         nothing,
-         listOf({22}),
-         {"none"}},
-    };
+        {"a safety copy that holds no more", [&] { fs::copy_file(file, safetyCopy); }, nothing, {"7"}},
+        {"an empty safety copy", [&] { std::ofstream{safetyCopy}; }, nothing, {"none"}},
+        {"a broken safety copy", [&] { std::ofstream{safetyCopy} << "neither is this"; }, nothing, {"none"}}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         fs::remove_all(folder);
-        save(24);
+        saveAlone(24);
         fs::copy_file(file, elsewhere, fs::copy_options::overwrite_existing);
-        save(27);
+        saveAlone(27);
         row.before();
         {
-            ProgramRun run{support.path};
+            PresetProgram program{support.path};
             row.meanwhile();
-            run.save(22);
+            save(program, 22);
             held.reset();
         }
         EXPECT_EQ(stored(), row.expected);

@@ -1,7 +1,5 @@
 #include "presets/PresetStore.h"
 
-#include "presets/PresetNotification.h"
-#include "support/Gradients.h"
 #include "support/LogCapture.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
@@ -33,23 +31,23 @@ class PresetStoreTest : public testing::Test {
 };
 
 TEST_F(PresetStoreTest, keepsWhatIsSavedInAPrivateFileForTheShellAndTheNextRun) {
-    std::vector<Preset> presets;
+    std::vector<Gradient> presets;
     {
         PresetProgram program = start();
-        program.gallery.addGradientIntoPreset(nullptr);
-        program.gallery.addGradientIntoPreset(nullptr);
+        program.gallery.addGradientIntoPreset(program.record.gradient);
+        program.gallery.addGradientIntoPreset(program.record.gradient);
         program.record.gradient = Gradient{{{1.0 / 3, Color::black()},
                                             {1.0, Color::calibratedRGB(1, 0, 0, 0.3), 0.5},
                                             {0.25, Color::withoutRGBForm(), 0.75},
                                             {0.5, Color::black(), 0.1}},
                                            orientation::diagonalToTopRight};
         program.record.gradient.remove(3); // which leaves its opacity behind
-        program.gallery.addGradientIntoPreset(this);
-        NotificationCenter::defaultCenter().post(presetNotification::makeDeleteGradient(1, this));
+        program.gallery.addGradientIntoPreset();
+        program.gallery.deletePreset(1);
         EXPECT_EQ(fs::status(file).permissions(), fs::perms{0600});
         presets = program.presets();
     }
-    presets[1].gradient = Gradient{
+    presets[1] = Gradient{
         {{1.0 / 3, Color::black()}, {1.0, Color::calibratedRGB(1, 0, 0), 0.5}, {0.25, Color::black(), 0.75}},
         orientation::diagonalToTopRight};
     EXPECT_EQ(start().presets(), presets) << "every double as it was";
@@ -77,30 +75,26 @@ TEST_F(PresetStoreTest, readsADatabaseMadeByHand) {
           "(6, NULL, 0.5, 1, 1, 1, 1), (7, 'three', 0.5, 1, 1, 1, 1), (8, 3.5, 0.5, 1, 1, 1, 1)");
     PresetProgram program = start();
     const Color red = Color::calibratedRGB(1, 0, 0);
-    const Preset longest{
-        Gradient{{{0.5, Color::calibratedRGB(0, 1, 0)}, {0.0, red}, {0.75, red, 0.5}}, orientation::radial},
-        2};
-    const std::vector<Preset> expected{
-        {Gradient{{{1.0, Color::calibratedRGB(0, 0, 1), 0.0}}, 9}, 0}, {Gradient{}, 1}, longest};
+    const std::vector<Gradient> expected{
+        Gradient{{{1.0, Color::calibratedRGB(0, 0, 1), 0.0}}, 9}, Gradient{},
+        Gradient{{{0.5, Color::calibratedRGB(0, 1, 0)}, {0.0, red}, {0.75, red, 0.5}}, orientation::radial}};
     EXPECT_EQ(program.presets(), expected);
-    NotificationCenter::defaultCenter().post(presetNotification::makeDeleteGradient(1, nullptr));
+    program.gallery.deletePreset(1);
     EXPECT_EQ(shell("select * from MainTable; select mainIndex from AdditionalTable"),
               "0|9\n1|4\n0\n1\n1\n1\n")
         << "renumbered, and the orphans are gone";
 }
 
-TEST_F(PresetStoreTest, numbersRowsByIndexAndByPlaceAndGoesOnAfterAFailedMainRowAlone) {
+TEST_F(PresetStoreTest, goesOnAfterAFailedMainRowAlone) {
     PresetProgram program = start();
-    program.store.executeSQL("create trigger a before insert on MainTable when new.mainIndex=8 "
+    program.store.executeSQL("create trigger a before insert on MainTable when new.mainIndex=1 "
                              "begin select raise(abort, 'no row'); end;"
                              "create trigger b before insert on AdditionalTable when new.position=0.25 "
                              "begin select raise(abort, 'no room'); end");
-    program.gallery.setGradientIndex(7);
-    program.record.gradient = Gradient{{{0.5}}};
-    program.gallery.addGradientIntoPreset(nullptr);
-    program.gallery.addGradientIntoPreset(nullptr);
+    program.gallery.addGradientIntoPreset(Gradient{{{0.5}}});
+    program.gallery.addGradientIntoPreset(Gradient{{{0.5}}});
     program.record.gradient = Gradient{{{0.5}, {0.25}, {1.0}}};
-    program.gallery.addGradientIntoPreset(this);
+    program.gallery.addGradientIntoPreset();
     EXPECT_TRUE(log.has("Error while inserting: no row"));
     EXPECT_TRUE(log.has("Error while inserting: no room"));
     EXPECT_EQ(log.messages.back(), "Presets not saved: no room");
@@ -109,13 +103,13 @@ TEST_F(PresetStoreTest, numbersRowsByIndexAndByPlaceAndGoesOnAfterAFailedMainRow
     program.store.executeSQL("select group_concat(mainIndex) from AdditionalTable", rows);
     EXPECT_EQ(rows, (std::vector<std::vector<std::string>>{{"0,1,2"}}));
     EXPECT_TRUE(program.store.executeSQL("select NULL, '\xC3\xA9', mainIndex from MainTable ", rows));
-    EXPECT_EQ(rows, (std::vector<std::vector<std::string>>{{"", "\xC3\xA9", "7"}, {"", "\xC3\xA9", "9"}}));
+    EXPECT_EQ(rows, (std::vector<std::vector<std::string>>{{"", "\xC3\xA9", "0"}, {"", "\xC3\xA9", "2"}}));
 }
 
 TEST_F(PresetStoreTest, worksOnWithoutADatabase) {
     std::ofstream{support.path / "deep"} << "in the way";
     PresetProgram program = start();
-    program.gallery.addGradientIntoPreset(this);
+    program.gallery.addGradientIntoPreset();
     EXPECT_TRUE(log.has("Error: Create folder failed " + folder.native()));
     EXPECT_EQ(log.count("Error create table!"), 2);
     EXPECT_EQ(log.count("Error delete data!"), 2);

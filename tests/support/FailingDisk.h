@@ -2,7 +2,7 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdarg>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/syscall.h>
 #include <unistd.h>

@@ -9,12 +9,6 @@
 
 namespace tessaly {
 
-/// What the program does with its store before the first event.
-inline void start(PresetStore& store) {
-    store.openWithTables();
-    store.readData();
-}
-
 /// A container of thumbnails without a toolkit.
 class FakeGalleryView : public PresetGalleryView {
   public:
@@ -29,9 +23,9 @@ class FakeGalleryView : public PresetGalleryView {
 
 /// The gallery and its store, wired and started as the program does it.
 struct PresetProgram {
-    explicit PresetProgram(const std::filesystem::path& support) : store{gallery, support} { start(store); }
+    explicit PresetProgram(const std::filesystem::path& support) : store{gallery, support} { store.openDB(); }
 
-    const std::vector<Preset>& presets() const { return gallery.presetGradient(); }
+    const std::vector<Gradient>& presets() const { return gallery.presetGradient(); }
 
     GlobalData record = defaultRecord();
     FakeGalleryView view;

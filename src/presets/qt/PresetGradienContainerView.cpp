@@ -1,7 +1,8 @@
 #include "presets/qt/PresetGradienContainerView.h"
 
+#include "foundation/DiagnosticLog.h"
 #include "presets/PresetGallery.h"
-#include "presets/qt/PresetGradienView.h"
+#include "presets/qt/PresetThumbnail.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -75,7 +76,7 @@ void PresetGradienContainerView::paintEvent(QPaintEvent* event) {
     const auto visible = PresetSlotGeometry::positionsBetween(area.top(), area.bottom() + 1, count());
     for (std::size_t position = visible.first; position < visible.last; ++position) {
         const QRect place = placeOf(position);
-        PresetGradienView{gallery_->presetGradient()[position]}.drawRect(painter, place.topLeft());
+        drawPresetThumbnail(painter, gallery_->presetGradient()[position], place.topLeft());
         if (hasFocus() && position == current_) {
             painter.setPen(QPen{palette().color(QPalette::Highlight), 2});
             painter.drawRoundedRect(place.adjusted(-2, -2, 2, 2), 5, 5);
@@ -93,15 +94,11 @@ void PresetGradienContainerView::mousePressEvent(QMouseEvent* event) {
 void PresetGradienContainerView::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() == QContextMenuEvent::Keyboard) {
         if (current_ < count()) {
-            popUpMenu(current_);
+            openAccessibleItemMenu(currentAccessibleItem());
         }
     } else if (const auto position = positionAt(event->pos())) {
         popUpMenu(*position, event->globalPos());
     }
-}
-
-void PresetGradienContainerView::popUpMenu(std::size_t position) {
-    popUpMenu(position, mapToGlobal(placeOf(position).center()));
 }
 
 void PresetGradienContainerView::popUpMenu(std::size_t position, QPoint globalPosition) {
@@ -160,12 +157,14 @@ void PresetGradienContainerView::setCurrent(std::size_t position) {
 
 void PresetGradienContainerView::apply(std::size_t position) {
     setCurrent(position);
-    PresetGradienView{gallery_->presetGradient()[position]}.mouseDown();
+    DiagnosticLog::write("mouseDown");
+    gallery_->applyPreset(position);
 }
 
 void PresetGradienContainerView::remove(std::size_t position) {
     if (position < count()) {
-        PresetGradienView{gallery_->presetGradient()[position]}.deletePresetGradientItem();
+        DiagnosticLog::write("deletePresetGradientItem");
+        gallery_->deletePreset(position);
     }
 }
 
@@ -183,6 +182,10 @@ int PresetGradienContainerView::currentAccessibleItem() const {
 
 void PresetGradienContainerView::pressAccessibleItem(int item) {
     apply(static_cast<std::size_t>(item));
+}
+
+void PresetGradienContainerView::openAccessibleItemMenu(int item) {
+    popUpMenu(static_cast<std::size_t>(item), mapToGlobal(accessibleItemRect(item).center()));
 }
 
 } // namespace tessaly

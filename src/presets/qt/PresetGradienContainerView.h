@@ -21,7 +21,7 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     explicit PresetGradienContainerView(QWidget* parent = nullptr);
 
     /// The gallery shown here; it must outlive the view.
-    void setGallery(const PresetGallery* gallery) { gallery_ = gallery; }
+    void setGallery(PresetGallery* gallery) { gallery_ = gallery; }
 
     /// The number of thumbnails, or their places, changed.
     void thumbnailsChanged();
@@ -34,7 +34,7 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     int currentAccessibleItem() const override;
     void pressAccessibleItem(int item) override;
     bool accessibleItemsHaveMenu() const override { return true; }
-    void openAccessibleItemMenu(int item) override { popUpMenu(static_cast<std::size_t>(item)); }
+    void openAccessibleItemMenu(int item) override;
 
   Q_SIGNALS:
     /// A key moved on to the thumbnail that is there, in this widget's coordinates.
@@ -55,10 +55,9 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     void moveCurrent(int by);
     void apply(std::size_t position);
     void remove(std::size_t position);
-    void popUpMenu(std::size_t position);
     void popUpMenu(std::size_t position, QPoint globalPosition);
 
-    const PresetGallery* gallery_ = nullptr;
+    PresetGallery* gallery_ = nullptr;
     std::size_t current_ = 0; ///< has the keyboard when the view has it; may lie past the end
     QMenu* menu_;
 };

@@ -59,8 +59,7 @@ PresetPanel::PresetPanel(QWidget* parent)
 
 void PresetPanel::connectTo(PresetGallery& gallery) {
     presetGradienContainerView_->setGallery(&gallery);
-    connect(addButton_, &QPushButton::clicked, this,
-            [this, &gallery] { gallery.addGradientIntoPreset(addButton_); });
+    connect(addButton_, &QPushButton::clicked, this, [this, &gallery] { gallery.addGradientIntoPreset(); });
 }
 
 double PresetPanel::scrollViewHeight() const {

@@ -1,7 +1,7 @@
 #include "presets/qt/PresetPanel.h"
 #include "presets/PresetGallery.h"
 #include "presets/qt/PresetGradienContainerView.h"
-#include "presets/qt/PresetGradienView.h"
+#include "presets/qt/PresetThumbnail.h"
 #include "support/Gradients.h"
 #include "support/LogCapture.h"
 
@@ -48,7 +48,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     }
     EXPECT_EQ(edited.orientation(), 3);
     QTest::keyClick(&container, Qt::Key_Delete);
-    EXPECT_EQ(gallery.presetGradient()[3].gradient.orientation(), 4);
+    EXPECT_EQ(gallery.presetGradient()[3].orientation(), 4);
 
     QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&container);
     list->child(0)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
@@ -58,7 +58,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     popup->actions().first()->trigger();
     popup->hide();
     EXPECT_TRUE(log.has("mouseDown") && log.has("deletePresetGradientItem"));
-    EXPECT_EQ(gallery.presetGradient()[0].gradient.orientation(), 1);
+    EXPECT_EQ(gallery.presetGradient()[0].orientation(), 1);
     EXPECT_EQ(saved, 8);
 
     EXPECT_EQ(list->child(3)->text(QAccessible::Name), QStringLiteral("Preset 4"));
@@ -68,7 +68,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
 
 TEST_F(PresetPanelTest, theKeyboardScrollsThroughThousandsAndAClickDoesNotScroll) {
     for (int i = 0; i < 10'000; ++i) {
-        gallery.addGradientIntoPreset(nullptr);
+        gallery.addGradientIntoPreset(edited);
     }
     for (int i = 0; i < 21; ++i) {
         QTest::keyClick(&container, Qt::Key_Down);
@@ -80,26 +80,28 @@ TEST_F(PresetPanelTest, theKeyboardScrollsThroughThousandsAndAClickDoesNotScroll
     EXPECT_EQ(applied, 1);
 }
 
-TEST(PresetGradienView, drawsTheGradientInTwoLines) {
+TEST(PresetThumbnail, drawsTheGradientInTwoLines) {
     const ColorStop black{0.0, Color::black()}, red{1.0, Color::calibratedRGB(1, 0, 0)},
         faint{1.0, Color::calibratedRGB(1, 0, 0), 0.5};
     for (const double ratio : {1.0, 2.0}) {
-        const auto colorAt = [&](const Preset& preset, double x, double y) {
+        const auto colorAt = [&](const Gradient& gradient, double x, double y) {
             QImage image(QSize{60, 60} * ratio, QImage::Format_ARGB32_Premultiplied);
             image.setDevicePixelRatio(ratio);
             image.fill(Qt::blue);
             QPainter painter{&image};
-            PresetGradienView{preset}.drawRect(painter, {10, 10});
+            drawPresetThumbnail(painter, gradient, {10, 10});
             return image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
         };
-        const Preset radial{Gradient{{black, red}, orientation::radial}};
-        const Preset rising{Gradient{{black, faint}, orientation::bottomToTop}};
+        const Gradient radial{{black, red}, orientation::radial};
+        const Gradient rising{{black, faint}, orientation::bottomToTop};
         EXPECT_LT(colorAt(radial, 30, 30).red(), 12) << "black in the middle";
         EXPECT_EQ(colorAt(radial, 15, 15), QColor(Qt::red)) << "the last colour in the corners";
         EXPECT_LT(colorAt(rising, 30, 46).red(), 20) << "black at the bottom";
         EXPECT_NEAR(colorAt(rising, 30, 14).blue(), 128, 12) << "what is behind shows through";
-        EXPECT_EQ(colorAt({}, 11 + 0.5 / ratio, 30), QColor(128, 128, 128)) << "one crisp line of grey";
-        EXPECT_EQ(colorAt({}, 11 + 1.5 / ratio, 30), QColor(Qt::white)) << "and one of white behind it";
+        EXPECT_EQ(colorAt(Gradient{}, 11 + 0.5 / ratio, 30), QColor(128, 128, 128))
+            << "one crisp line of grey";
+        EXPECT_EQ(colorAt(Gradient{}, 11 + 1.5 / ratio, 30), QColor(Qt::white))
+            << "and one of white behind it";
     }
 }
 

@@ -1,11 +1,10 @@
-#include "presets/qt/PresetGradienView.h"
+#include "presets/qt/PresetThumbnail.h"
 
-#include "foundation/DiagnosticLog.h"
-#include "foundation/NotificationCenter.h"
-#include "presets/PresetNotification.h"
+#include "model/Gradient.h"
 #include "presets/PresetSlotGeometry.h"
 #include "raster/GradientRaster.h"
 
+#include <QImage>
 #include <QPainter>
 #include <cmath>
 #include <span>
@@ -28,13 +27,11 @@ QPointF onPixels(const QPainter& painter, QPointF place) {
     return toDevice.inverted().map(QPointF{std::round(pixel.x()), std::round(pixel.y())});
 }
 
-} // namespace
-
-QImage PresetGradienView::gradientPicture(double devicePixelRatio) const {
+// In device pixels.
+QImage gradientPicture(const Gradient& gradient, double devicePixelRatio) {
     const int pixels = static_cast<int>(std::ceil(size * devicePixelRatio));
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    const Gradient& gradient = preset_.gradient;
     if (gradient.stops().empty()) {
         return image;
     }
@@ -47,16 +44,18 @@ QImage PresetGradienView::gradientPicture(double devicePixelRatio) const {
     return image;
 }
 
-void PresetGradienView::drawRect(QPainter& painter, QPointF origin) const {
+} // namespace
+
+void drawPresetThumbnail(QPainter& painter, const Gradient& gradient, QPointF origin) {
     const double ratio = painter.device()->devicePixelRatioF();
     const auto wholePixels = [&](double points) { return std::round(points * ratio) / ratio; };
     const QPointF corner = onPixels(painter, origin);
     const double outer = wholePixels(outerInset);
     painter.setRenderHint(QPainter::Antialiasing);
-    QBrush gradient{gradientPicture(ratio)};
-    gradient.setTransform(QTransform::fromTranslate(corner.x(), corner.y()).scale(1 / ratio, 1 / ratio));
+    QBrush picture{gradientPicture(gradient, ratio)};
+    picture.setTransform(QTransform::fromTranslate(corner.x(), corner.y()).scale(1 / ratio, 1 / ratio));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(gradient);
+    painter.setBrush(picture);
     painter.drawRoundedRect(inset(corner, outer), cornerRadius, cornerRadius);
 
     // Of the grey line only the inner half is to be seen, half a point, and the white one starts behind it;
@@ -71,20 +70,6 @@ void PresetGradienView::drawRect(QPainter& painter, QPointF origin) const {
     };
     drawLine(QColor::fromRgbF(0.5F, 0.5F, 0.5F), outer, grey);
     drawLine(Qt::white, outer + grey, white);
-}
-
-void PresetGradienView::mouseDown() const {
-    DiagnosticLog::write("mouseDown");
-    sendUpdateDataNotification();
-}
-
-void PresetGradienView::sendUpdateDataNotification() const {
-    NotificationCenter::defaultCenter().post(presetNotification::makeGradientIndexChanged(preset_, &preset_));
-}
-
-void PresetGradienView::deletePresetGradientItem() const {
-    DiagnosticLog::write("deletePresetGradientItem");
-    NotificationCenter::defaultCenter().post(presetNotification::makeDeleteGradient(preset_.index, &preset_));
 }
 
 } // namespace tessaly
