@@ -12,14 +12,15 @@ constexpr double freeHeight = 125.0; // container height with no row at all
 
 double rowsOf(std::size_t count) {
     constexpr std::size_t perRow = PresetSlotGeometry::thumbnailsPerRow;
-    return static_cast<double>((count + perRow - 1) / perRow);
+    const std::size_t rows = (count + perRow - 1) / perRow; // the last one may be short
+    return static_cast<double>(rows);
 }
 
 } // namespace
 
 Point PresetSlotGeometry::itemPos(std::size_t position) {
-    return {static_cast<double>(position % thumbnailsPerRow),
-            static_cast<double>(position / thumbnailsPerRow)};
+    const std::size_t row = position / thumbnailsPerRow;
+    return {static_cast<double>(position % thumbnailsPerRow), static_cast<double>(row)};
 }
 
 Size PresetSlotGeometry::containerSize(std::size_t count) {
