@@ -57,9 +57,13 @@ void fillOutwards(std::span<std::uint32_t> pixels, double x, double step, double
     }
 }
 
-} // namespace
+// The way of a linear gradient: across, up or at 45 degrees.
+struct Direction {
+    int x;
+    int y;
+};
 
-GradientDirection gradientDirection(std::int64_t orientation) {
+Direction directionOf(std::int64_t orientation) {
     switch (orientation) {
     case orientation::bottomToTop:
         return {0, 1};
@@ -72,8 +76,7 @@ GradientDirection gradientDirection(std::int64_t orientation) {
     }
 }
 
-void fillLinear(const PixelBuffer& buffer, const Rect& box, GradientDirection direction,
-                const GradientRamp& ramp) {
+void fillLinear(const PixelBuffer& buffer, const Rect& box, Direction direction, const GradientRamp& ramp) {
     const PixelSpan columns{box.x * buffer.scale, box.maxX() * buffer.scale, buffer.width};
     const PixelSpan rows{(buffer.top - box.maxY()) * buffer.scale, (buffer.top - box.y) * buffer.scale,
                          buffer.height};
@@ -122,12 +125,14 @@ void fillRadial(const PixelBuffer& buffer, Point center, double radius, const Gr
     }
 }
 
+} // namespace
+
 void fillGradient(const PixelBuffer& buffer, const GradientPlace& place, std::int64_t orientation,
                   const GradientRamp& ramp) {
     if (orientation == orientation::radial) {
         fillRadial(buffer, place.center, place.radius, ramp);
     } else {
-        fillLinear(buffer, place.box, gradientDirection(orientation), ramp);
+        fillLinear(buffer, place.box, directionOf(orientation), ramp);
     }
 }
 

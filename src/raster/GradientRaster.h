@@ -8,34 +8,15 @@
 
 namespace tessaly {
 
-/// The way of a linear gradient: {1, 0} left to right, {0, 1} bottom to top, {1, 1} and {-1, 1} at 45 and 135
-/// degrees. Every linear orientation is one of these.
-struct GradientDirection {
-    int x = 1;
-    int y = 0;
-
-    bool operator==(const GradientDirection&) const = default;
-};
-
-/// The direction of a linear orientation code; any other code counts as left to right.
-GradientDirection gradientDirection(std::int64_t orientation);
-
-/// Fills the pixels whose middles lie in `box` (points). Positions 0 and 1 are on the lines square to the
-/// direction through the outermost corners of the box.
-void fillLinear(const PixelBuffer& buffer, const Rect& box, GradientDirection direction,
-                const GradientRamp& ramp);
-
-/// Fills the whole buffer: position 0 at `center`, position 1 at `radius` points around it.
-void fillRadial(const PixelBuffer& buffer, Point center, double radius, const GradientRamp& ramp);
-
 /// Where a gradient lies in a picture, in points.
 struct GradientPlace {
-    Rect box;     ///< of a linear one
-    Point center; ///< of a radial one
-    double radius;
+    Rect box;      ///< of a linear one: positions 0 and 1 are on the lines through its outermost corners
+    Point center;  ///< of a radial one: where position 0 is
+    double radius; ///< where position 1 is
 };
 
-/// Fills the buffer as the orientation code says.
+/// Fills the pixels whose middles lie in the box; of a radial gradient, the whole buffer. A code that is no
+/// orientation counts as left to right.
 void fillGradient(const PixelBuffer& buffer, const GradientPlace& place, std::int64_t orientation,
                   const GradientRamp& ramp);
 

@@ -32,8 +32,8 @@ std::vector<std::uint32_t> expectedPixels(const Gradient& gradient, std::int64_t
             pixels[static_cast<std::size_t>(i)] = ramp.pixelAt(std::hypot(x, y) * std::sqrt(2.0));
         }
     } else {
-        fillLinear({pixels, width, height, 1.0, height}, {0, 0, width, height},
-                   gradientDirection(gradient.orientation()), ramp);
+        fillGradient({pixels, width, height, 1.0, height}, {{0, 0, width, height}, {}, 1},
+                     gradient.orientation(), ramp);
     }
     return pixels;
 }
