@@ -9,11 +9,8 @@ class CanvasSurface {
   public:
     virtual ~CanvasSurface() = default;
 
-    /// Paints the whole offscreen picture.
+    /// Paints the whole offscreen picture, and shows it as soon as it can.
     virtual void paint(const CanvasScene& scene) = 0;
-
-    /// Asks that the picture be shown.
-    virtual void setNeedsDisplay() = 0;
 };
 
 } // namespace tessaly

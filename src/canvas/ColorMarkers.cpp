@@ -7,17 +7,31 @@
 #include <string>
 
 namespace tessaly {
+namespace {
 
-void ColorMarkers::addColorMarker(const Color& color, double position, double opacity, std::int64_t index) {
-    if (index == insertSorted) {
-        DiagnosticLog::write("addColorMarker: " + std::to_string(index));
-        select(gradient_.insertSorted({position, color, opacity}));
-        logPlace();
-    } else if (index == append) {
-        gradient_.append({position, color, opacity});
-        select(std::ssize(gradient_.stops()) - 1);
+void logNumber(const std::string& name, std::int64_t number) {
+    DiagnosticLog::write(name + ": " + std::to_string(number));
+}
+
+} // namespace
+
+void ColorMarkers::append(const ColorStop& stop) {
+    gradient_.append(stop);
+    select(std::ssize(gradient_.stops()) - 1);
+    logNumber("selectedColorMarkerIndex", selectedColorMarkerIndex_);
+}
+
+void ColorMarkers::insertSorted(const ColorStop& stop) {
+    selectSorted(gradient_.insertSorted(stop));
+}
+
+void ColorMarkers::selectSorted(std::int64_t index) {
+    select(index);
+    logNumber("addColorMarker", -2); // the number under which a sorted place has always been logged
+    if (index < std::ssize(gradient_.stops()) - 1) { // of one at the end nothing is said
+        logNumber("position", index);
     }
-    logSelection();
+    logNumber("selectedColorMarkerIndex", index);
 }
 
 void ColorMarkers::deleteColorMarker() {
@@ -29,21 +43,8 @@ void ColorMarkers::deleteColorMarker() {
 
 void ColorMarkers::moveSelected(double position) {
     if (selectedStop()) {
-        DiagnosticLog::write("addColorMarker: " + std::to_string(insertSorted));
-        select(gradient_.move(selectedColorMarkerIndex_, position));
-        logPlace();
-        logSelection();
+        selectSorted(gradient_.move(selectedColorMarkerIndex_, position));
     }
-}
-
-void ColorMarkers::logPlace() const {
-    if (selectedColorMarkerIndex_ < std::ssize(gradient_.stops()) - 1) { // of one at the end nothing is said
-        DiagnosticLog::write("position: " + std::to_string(selectedColorMarkerIndex_));
-    }
-}
-
-void ColorMarkers::logSelection() const {
-    DiagnosticLog::write("selectedColorMarkerIndex: " + std::to_string(selectedColorMarkerIndex_));
 }
 
 std::optional<ColorStop> ColorMarkers::selectedStop() const {

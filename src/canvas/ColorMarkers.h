@@ -16,13 +16,9 @@ class ColorMarkers {
 
     const Gradient& gradient() const { return gradient_; }
 
-    /// Modes of `addColorMarker`.
-    static constexpr std::int64_t append = -1;
-    static constexpr std::int64_t insertSorted = -2;
-
-    /// Adds a stop and selects it: at the end, or before the first stop whose position is greater. Any other
-    /// `index` changes nothing. Neither redraws nor notifies.
-    void addColorMarker(const Color& color, double position, double opacity, std::int64_t index);
+    /// Add a stop and select it: at the end, or before the first stop whose position is greater.
+    void append(const ColorStop& stop);
+    void insertSorted(const ColorStop& stop);
 
     /// Removes the selected stop and selects the one before it.
     void deleteColorMarker();
@@ -40,8 +36,7 @@ class ColorMarkers {
     void changeSelected(const std::function<void(ColorStop&)>& change);
 
   private:
-    void logPlace() const;
-    void logSelection() const;
+    void selectSorted(std::int64_t index);
 
     Gradient& gradient_;
     std::int64_t selectedColorMarkerIndex_ = 0;

@@ -24,8 +24,6 @@ class Stepper {
     virtual ~Stepper() = default;
     virtual double value() const = 0;
     virtual void setValue(double value) = 0;
-    virtual double minimum() const = 0;
-    virtual double maximum() const = 0;
     virtual void setEnabled(bool enabled) = 0;
 };
 

@@ -11,43 +11,30 @@ GradientEditor::GradientEditor(GlobalData& record, const CanvasGeometry& geometr
     : record_{record},
       geometry_{geometry},
       surface_{surface},
-      well_{controls.selectedColor},
       markers_{record.gradient},
-      interaction_{geometry_, hitAreas_, markers_, [this] { repaint(); }},
-      controls_{controls, record, markers_, [this] { repaint(); }, [this] { announce(); }} {}
+      interaction_{geometry_, markers_, [this] { createBackground(); }},
+      controls_{controls, record, markers_, [this] { createBackground(); }, [this] { announce(); }},
+      colorChanged_{NotificationCenter::defaultCenter().addObserver(
+          canvasNotification::colorChanged, controls.selectedColor,
+          [this](const Notification& /*notification*/) { controls_.colorChanged(); })} {}
 
 void GradientEditor::awakeFromNib() {
-    controls_.updateOrientationTypeComboBox();
-    controls_.updateColorFormatTypeComboBox();
-    record_.gradient.setOrientation(orientation::leftToRight);
-    markers_.addColorMarker(Color::black(), 0.0, 1.0, ColorMarkers::append);
-    markers_.addColorMarker(Color::white(), 1.0, 1.0, ColorMarkers::append);
-    repaint();
-    colorChanged_ = NotificationCenter::defaultCenter().addObserver(
-        canvasNotification::colorChanged, well_,
-        [this](const Notification& /*notification*/) { controls_.colorChanged(); });
-    controls_.updateRGBFromColorBox();
-    controls_.updateHSLFromColorBox();
-    controls_.setFormReady(); // last: what was written above is no user input
+    markers_.append({0.0, Color::black()});
+    markers_.append({1.0, Color::white()});
+    gradientReplaced();
+    controls_.showColor();
 }
 
 void GradientEditor::createBackground() {
-    const CanvasScene scene{geometry_, record_, markers_.selectedColorMarkerIndex()};
-    hitAreas_.rebuild(scene);
-    surface_.paint(scene);
+    surface_.paint({geometry_, record_, markers_.selectedColorMarkerIndex()});
     controls_.updateEnabledState();
     controls_.showSelectedStop();
     announce();
 }
 
-void GradientEditor::repaint() {
-    createBackground();
-    surface_.setNeedsDisplay();
-}
-
 void GradientEditor::gradientReplaced() {
-    controls_.updateOrientationTypeComboBox();
-    repaint();
+    controls_.showChoices();
+    createBackground();
 }
 
 void GradientEditor::announce() const {

@@ -2,7 +2,6 @@
 
 #include "canvas/CanvasGeometry.h"
 #include "canvas/ColorMarkers.h"
-#include "canvas/MarkerHitAreas.h"
 #include "canvas/MarkerInteraction.h"
 #include "canvas/StopControls.h"
 #include "foundation/NotificationCenter.h"
@@ -25,12 +24,9 @@ class GradientEditor {
     /// Sets the editor up with the default gradient; once, when everything is wired.
     void awakeFromNib();
 
-    /// Repaints the picture, refreshes the controls of the selected stop and announces the change. From an
-    /// idle form the refreshed colour well makes it run once more, nested.
+    /// Paints and shows the picture, refreshes the controls of the selected stop and announces the change.
+    /// From an idle form the refreshed colour well makes it run once more, nested.
     void createBackground();
-
-    /// The same, and asks that the picture be shown.
-    void repaint();
 
     /// The gradient was replaced as a whole.
     void gradientReplaced();
@@ -45,8 +41,6 @@ class GradientEditor {
     GlobalData& record_;
     const CanvasGeometry& geometry_;
     CanvasSurface& surface_;
-    const ColorWell* well_;
-    MarkerHitAreas hitAreas_;
     ColorMarkers markers_;
     MarkerInteraction interaction_;
     StopControls controls_;

@@ -13,15 +13,29 @@
 
 namespace tessaly {
 
-MarkerInteraction::MarkerInteraction(const CanvasGeometry& geometry, const MarkerHitAreas& hitAreas,
-                                     ColorMarkers& markers, std::function<void()> repaint)
-    : geometry_{geometry}, hitAreas_{hitAreas}, markers_{markers}, repaint_{std::move(repaint)} {}
+MarkerInteraction::MarkerInteraction(const CanvasGeometry& geometry, ColorMarkers& markers,
+                                     std::function<void()> repaint)
+    : geometry_{geometry}, markers_{markers}, repaint_{std::move(repaint)} {}
+
+// Of overlapping markers it is the one with the lowest index, although the highest is drawn on top.
+std::optional<std::int64_t> MarkerInteraction::markerAt(Point point) const {
+    constexpr double radius = CanvasGeometry::colorMarkerSize.width / 2;
+    const auto isGrabbed = [&](const ColorStop& stop) {
+        const Point center = geometry_.markerRect(orientation(), stop.position).center();
+        const double x = (point.x - center.x) / radius;
+        const double y = (point.y - center.y) / radius;
+        return x * x + y * y <= 1;
+    };
+    const auto& stops = markers_.gradient().stops();
+    const auto hit = std::ranges::find_if(stops, isGrabbed);
+    return hit == stops.end() ? std::nullopt : std::optional{hit - stops.begin()};
+}
 
 void MarkerInteraction::mouseDown(Point point, int clickCount) {
     if (clickCount == 2 && !addAt(point)) {
         return;
     }
-    if (const auto marker = hitAreas_.markerAt(point)) {
+    if (const auto marker = markerAt(point)) {
         grab(*marker, point);
     }
 }
@@ -48,7 +62,7 @@ bool MarkerInteraction::addAt(Point point) {
 }
 
 void MarkerInteraction::addBlackStop(double position) {
-    markers_.addColorMarker(Color::black(), position, 1.0, ColorMarkers::insertSorted);
+    markers_.insertSorted({position});
     repaint_();
 }
 
@@ -94,7 +108,7 @@ void MarkerInteraction::moveSelectedTo(double offset) {
 }
 
 bool MarkerInteraction::rightMouseDown(Point point) {
-    const auto marker = hitAreas_.markerAt(point);
+    const auto marker = markerAt(point);
     if (marker) {
         markers_.select(*marker);
     }

@@ -2,20 +2,18 @@
 
 #include "canvas/CanvasGeometry.h"
 #include "canvas/ColorMarkers.h"
-#include "canvas/MarkerHitAreas.h"
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace tessaly {
 
 /// What mouse and keyboard do to the markers. Points are those of the canvas, y upwards.
 class MarkerInteraction {
   public:
-    /// `repaint` repaints the canvas and announces the change; it brings `hitAreas` up to date. All must
-    /// outlive the object.
-    MarkerInteraction(const CanvasGeometry& geometry, const MarkerHitAreas& hitAreas, ColorMarkers& markers,
-                      std::function<void()> repaint);
+    /// `repaint` repaints the canvas and announces the change. All must outlive the object.
+    MarkerInteraction(const CanvasGeometry& geometry, ColorMarkers& markers, std::function<void()> repaint);
 
     void mouseDown(Point point, int clickCount);
     void mouseDragged(Point point);
@@ -47,6 +45,7 @@ class MarkerInteraction {
     std::int64_t markerDragOrientation() const { return markerDragOrientation_; }
 
   private:
+    std::optional<std::int64_t> markerAt(Point point) const;
     bool addAt(Point point);
     void addBlackStop(double position);
     void grab(std::int64_t marker, Point point);
@@ -54,7 +53,6 @@ class MarkerInteraction {
     std::int64_t orientation() const { return markers_.gradient().orientation(); }
 
     const CanvasGeometry& geometry_;
-    const MarkerHitAreas& hitAreas_;
     ColorMarkers& markers_;
     std::function<void()> repaint_;
 

@@ -4,20 +4,18 @@
 #include "canvas/OrientationItems.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
-#include "foundation/Truncation.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tessaly {
 namespace {
 
-// From channels 0 ... 255, computed in single precision.
-Color generateSelectedColor(std::int64_t red, std::int64_t green, std::int64_t blue) {
-    const auto component = [](std::int64_t channel) {
-        return static_cast<double>(static_cast<float>(channel) / 255.0F);
-    };
-    return Color::calibratedRGB(component(red), component(green), component(blue));
+Color colorOf(const RGBValue& rgb) {
+    const auto [red, green, blue, alpha] =
+        rgbOfBytes(static_cast<float>(rgb.red), static_cast<float>(rgb.green), static_cast<float>(rgb.blue));
+    return Color::calibratedRGB(red, green, blue, alpha);
 }
 
 void logConversion(const HSLValue& hsl, const RGBValue& rgb) {
@@ -40,44 +38,38 @@ StopControls::StopControls(const StopControlSet& controls, GlobalData& record, C
       repaint_{std::move(repaint)},
       announce_{std::move(announce)} {}
 
-void StopControls::handle(const std::function<void()>& change) {
+bool StopControls::handle(const std::function<void()>& change) {
     if (!formReady_) {
-        return;
+        return false;
     }
     formReady_ = false;
     change();
     repaint_();
     formReady_ = true;
+    return true;
 }
 
 void StopControls::updateTextFieldValue(StopValue value) {
     handle([&] {
         const auto& [field, stepper] = pair(value);
-        double number = NumberFormatter{value}.value(field->text());
-        if (!traitsOf(value).decimal) {
-            number = static_cast<double>(static_cast<float>(number));
-        }
-        stepper->setValue(number);
-        const bool inRange = number >= stepper->minimum() && number <= stepper->maximum();
-        field->setText(NumberFormatter{value}.text(inRange ? number : stepper->value()));
-        apply(value);
+        stepper->setValue(NumberFormatter{value}.value(field->text()));
+        takeStepper(value);
     });
 }
 
 void StopControls::updateStepperValue(StopValue value) {
-    handle([&] {
-        pair(value).field->setText(NumberFormatter{value}.text(pair(value).stepper->value()));
-        apply(value);
-    });
+    handle([&] { takeStepper(value); });
 }
 
-void StopControls::apply(StopValue value) {
+void StopControls::takeStepper(StopValue value) {
+    const double number = pair(value).stepper->value();
+    pair(value).field->setText(NumberFormatter{value}.text(number));
     switch (value) {
     case StopValue::Red:
     case StopValue::Green:
     case StopValue::Blue:
         updateColorBoxFromRGB();
-        updateHSLFromColorBox();
+        showHSL();
         break;
     case StopValue::Hue:
     case StopValue::Saturation:
@@ -85,10 +77,10 @@ void StopControls::apply(StopValue value) {
         updateColorBoxFromHSL();
         break;
     case StopValue::Position:
-        markers_.changeSelected([&](ColorStop& stop) { stop.position = pair(value).stepper->value(); });
+        markers_.changeSelected([&](ColorStop& stop) { stop.position = number; });
         break;
     case StopValue::Opacity:
-        markers_.changeSelected([&](ColorStop& stop) { stop.opacity = pair(value).stepper->value(); });
+        markers_.changeSelected([&](ColorStop& stop) { stop.opacity = number; });
         break;
     }
 }
@@ -103,47 +95,38 @@ void StopControls::updateOrientationComboBoxValue() {
 }
 
 void StopControls::updateColorFormatComboBoxValue() {
-    if (!formReady_) {
-        return;
-    }
-    handle([&] {
+    const bool handled = handle([&] {
         const std::int64_t item = controls_.selectedColorFormatComboBox->indexOfSelectedItem();
         if (colorFormat::isKnown(item)) {
             record_.colorFormatType = item;
         }
-        updateEnabledState();
     });
-    announce_(); // once more than the repaint did: deliberate, listeners hear a change of notation twice
+    if (handled) {
+        announce_(); // once more than the repaint did: deliberate, listeners hear a change of notation twice
+    }
 }
 
 void StopControls::colorChanged() {
     handle([&] {
         DiagnosticLog::write("colorChangedNotification");
         takeColorBox();
-        updateRGBFromColorBox();
-        updateHSLFromColorBox();
+        showColor();
     });
 }
 
-void StopControls::updateOrientationTypeComboBox() {
-    const std::int64_t code = record_.gradient.orientation();
-    const auto item = std::find_if(orientationItems.begin(), orientationItems.end(),
-                                   [&](const OrientationItem& candidate) { return candidate.code == code; });
+void StopControls::showChoices() {
+    const auto item =
+        std::ranges::find(orientationItems, record_.gradient.orientation(), &OrientationItem::code);
     if (item != orientationItems.end()) {
         controls_.selectedOrientationComboBox->selectItemAtIndex(item - orientationItems.begin());
     }
-}
-
-void StopControls::updateColorFormatTypeComboBox() {
-    const std::int64_t code = record_.colorFormatType;
-    if (colorFormat::isKnown(code)) {
-        controls_.selectedColorFormatComboBox->selectItemAtIndex(code);
+    if (colorFormat::isKnown(record_.colorFormatType)) {
+        controls_.selectedColorFormatComboBox->selectItemAtIndex(record_.colorFormatType);
     }
-    updateEnabledState();
 }
 
-std::int64_t StopControls::stepperInteger(StopValue value) const {
-    return truncated(pair(value).stepper->value());
+std::int32_t StopControls::stepperInteger(StopValue value) const {
+    return static_cast<std::int32_t>(pair(value).stepper->value());
 }
 
 void StopControls::setNumber(StopValue value, double number) {
@@ -152,8 +135,8 @@ void StopControls::setNumber(StopValue value, double number) {
     pair(value).field->setText(NumberFormatter{value}.text(number));
 }
 
-void StopControls::setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue) {
-    controls_.selectedColor->setBackgroundColor(generateSelectedColor(red, green, blue));
+void StopControls::setColorBox(const RGBValue& rgb) {
+    controls_.selectedColor->setBackgroundColor(colorOf(rgb));
     takeColorBox();
 }
 
@@ -163,18 +146,18 @@ void StopControls::takeColorBox() {
 }
 
 void StopControls::updateColorBoxFromRGB() {
-    setColorBox(stepperInteger(StopValue::Red), stepperInteger(StopValue::Green),
-                stepperInteger(StopValue::Blue));
+    setColorBox(
+        {stepperInteger(StopValue::Red), stepperInteger(StopValue::Green), stepperInteger(StopValue::Blue)});
 }
 
 void StopControls::updateColorBoxFromHSL() {
-    const HSLValue hsl{static_cast<double>(stepperInteger(StopValue::Hue)),
-                       static_cast<double>(stepperInteger(StopValue::Saturation)),
-                       static_cast<double>(stepperInteger(StopValue::Lightness))};
+    const HSLValue hsl{std::trunc(pair(StopValue::Hue).stepper->value()),
+                       std::trunc(pair(StopValue::Saturation).stepper->value()),
+                       std::trunc(pair(StopValue::Lightness).stepper->value())};
     const RGBValue rgb = hslToRGB(hsl);
     logConversion(hsl, rgb);
     showRGB(rgb);
-    setColorBox(rgb.red, rgb.green, rgb.blue);
+    setColorBox(rgb);
 }
 
 void StopControls::showRGB(const RGBValue& rgb) {
@@ -183,15 +166,16 @@ void StopControls::showRGB(const RGBValue& rgb) {
     setNumber(StopValue::Blue, rgb.blue);
 }
 
-void StopControls::updateRGBFromColorBox() {
-    showRGB(rgbValueOfAnNSColor(controls_.selectedColor->backgroundColor()));
+void StopControls::showHSL() {
+    const HSLValue hsl = hslValueOfAnNSColor(controls_.selectedColor->backgroundColor());
+    setNumber(StopValue::Hue, std::trunc(hsl.hue));
+    setNumber(StopValue::Saturation, std::trunc(hsl.saturation));
+    setNumber(StopValue::Lightness, std::trunc(hsl.lightness));
 }
 
-void StopControls::updateHSLFromColorBox() {
-    const HSLValue hsl = hslValueOfAnNSColor(controls_.selectedColor->backgroundColor());
-    setNumber(StopValue::Hue, static_cast<double>(truncated(hsl.hue)));
-    setNumber(StopValue::Saturation, static_cast<double>(truncated(hsl.saturation)));
-    setNumber(StopValue::Lightness, static_cast<double>(truncated(hsl.lightness)));
+void StopControls::showColor() {
+    showRGB(rgbValueOfAnNSColor(controls_.selectedColor->backgroundColor()));
+    showHSL();
 }
 
 void StopControls::showSelectedStop() {
@@ -211,12 +195,9 @@ void StopControls::showSelectedStop() {
 
 void StopControls::updateEnabledState() {
     const bool anyStop = markers_.selectedStop().has_value();
-    const std::int64_t code = record_.colorFormatType;
-    if (colorFormat::isKnown(code)) {
-        opacityEditable_ = colorFormat::carriesOpacity(code);
-    }
+    const bool anyOpacity = colorFormat::carriesOpacity(record_.colorFormatType);
     for (const StopValueTraits& traits : stopValues) {
-        const bool enabled = anyStop && (traits.value != StopValue::Opacity || opacityEditable_);
+        const bool enabled = anyStop && (traits.value != StopValue::Opacity || anyOpacity);
         pair(traits.value).field->setEnabled(enabled);
         pair(traits.value).stepper->setEnabled(enabled);
     }

@@ -25,7 +25,8 @@ struct StopControlSet {
 };
 
 /// Carries what is typed, stepped or chosen into the gradient, and shows the selected stop. A handler does
-/// nothing while `formReady` is down, which it is while the controls are being written to.
+/// nothing while `formReady` is down, which it is before a stop was shown and while the controls are being
+/// written to.
 class StopControls {
   public:
     /// `repaint` repaints the canvas; `announce` tells that the code is to be written anew. Record and
@@ -43,14 +44,11 @@ class StopControls {
     /// The colour well has a new colour.
     void colorChanged();
 
-    /// Selects the item of the gradient's orientation, or nothing new for an unknown code.
-    void updateOrientationTypeComboBox();
-    /// Selects the item of the gradient's notation and enables the opacity accordingly.
-    void updateColorFormatTypeComboBox();
+    /// Selects the items of orientation and notation in the lists, or nothing new for an unknown code.
+    void showChoices();
 
-    /// Show the colour well's colour in the fields.
-    void updateRGBFromColorBox();
-    void updateHSLFromColorBox();
+    /// Shows the colour well's colour in the fields.
+    void showColor();
 
     /// Shows colour, position and opacity of the selected stop, if there is one, and then raises `formReady`.
     void showSelectedStop();
@@ -58,29 +56,26 @@ class StopControls {
     /// carries it.
     void updateEnabledState();
 
-    /// From now on what the controls report is user input.
-    void setFormReady() { formReady_ = true; }
-
   private:
     const StopControlSet::Pair& pair(StopValue value) const {
         return controls_.pairs[static_cast<std::size_t>(value)];
     }
-    void handle(const std::function<void()>& change);
-    void apply(StopValue value);
+    bool handle(const std::function<void()>& change);
+    void takeStepper(StopValue value); ///< into the field beside it and the gradient
     void updateColorBoxFromRGB();
     void updateColorBoxFromHSL();
     void showRGB(const RGBValue& rgb);
+    void showHSL();
     void setNumber(StopValue value, double number);
-    void setColorBox(std::int64_t red, std::int64_t green, std::int64_t blue);
+    void setColorBox(const RGBValue& rgb);
     void takeColorBox(); ///< into the gradient
-    std::int64_t stepperInteger(StopValue value) const;
+    std::int32_t stepperInteger(StopValue value) const;
 
     StopControlSet controls_;
     GlobalData& record_;
     ColorMarkers& markers_;
     std::function<void()> repaint_;
     std::function<void()> announce_;
-    bool opacityEditable_ = true;
     bool formReady_ = false;
 };
 

@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FakeControls controls;
     ColorMarkers markers{record.gradient};
     StopControls form{controls.set, record, markers, [] {}, [] {}};
-    form.setFormReady();
+    form.showSelectedStop();
     while (input.remaining_bytes() > 0) {
         const auto& [value, name, decimal, maximum, step] = input.PickValueInArray(stopValues);
         const NumberFormatter formatter{value};

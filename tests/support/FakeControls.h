@@ -26,8 +26,6 @@ struct FakeField : FakeControl<NumberField> {
 struct FakeStepper : FakeControl<Stepper> {
     double value() const override { return held; }
     void setValue(double value) override { held = std::clamp(value, 0.0, most); }
-    double minimum() const override { return 0.0; }
-    double maximum() const override { return most; }
     double held = 0.0;
     double most = 1.0;
 };
@@ -50,9 +48,7 @@ struct FakeComboBox : ComboBox {
 
 struct FakeSurface : CanvasSurface {
     void paint(const CanvasScene& shown) override { ++paints, scene = shown; }
-    void setNeedsDisplay() override { ++redraws; }
     int paints = 0;
-    int redraws = 0;
     std::optional<CanvasScene> scene;
 };
 

@@ -36,10 +36,6 @@ CanvasView::CanvasView(QWidget* parent)
     popupMenu_->addAction(tr("Delete Marker"), this, [this] { editor_->interaction().deleteColorMarker(); });
 }
 
-QSize CanvasView::sizeHint() const {
-    return viewSize;
-}
-
 void CanvasView::updateMedium() {
     picture_.setMedium(devicePixelRatioF(), palette().color(QPalette::Window));
 }
@@ -47,6 +43,7 @@ void CanvasView::updateMedium() {
 void CanvasView::paint(const CanvasScene& scene) {
     updateMedium();
     picture_.paint(scene);
+    update();
     if (QAccessible::isActive()) {
         announceToAssistiveTools();
     }

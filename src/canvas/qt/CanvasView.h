@@ -26,9 +26,6 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     const CanvasGeometry& geometry() const { return geometry_; }
 
     void paint(const CanvasScene& scene) override;
-    void setNeedsDisplay() override { update(); }
-
-    QSize sizeHint() const override;
 
     QAccessible::Role accessibleListRole() const override { return QAccessible::List; }
     QAccessible::Role accessibleItemRole() const override { return QAccessible::ListItem; }

@@ -35,11 +35,8 @@ void ColorPickerImageView::setBackgroundColor(const Color& color) {
     setAccessibleDescription(toQColor(backgroundColor_).name());
     update();
     showInColorPanel();
-    sendUpdateDataNotification(canvasNotification::colorChanged);
-}
-
-void ColorPickerImageView::sendUpdateDataNotification(const char* name) const {
-    NotificationCenter::defaultCenter().post({name, static_cast<const ColorWell*>(this), {}});
+    NotificationCenter::defaultCenter().post(
+        {canvasNotification::colorChanged, static_cast<const ColorWell*>(this), {}});
 }
 
 void ColorPickerImageView::paintEvent(QPaintEvent* /*event*/) {
@@ -77,7 +74,8 @@ void ColorPickerImageView::openColorPanel() {
         colorPanel_->setOptions(QColorDialog::NoButtons | QColorDialog::DontUseNativeDialog);
         colorPanel_->setWindowTitle(tr("Stop color"));
         colorPanel_->setModal(false);
-        connect(colorPanel_, &QColorDialog::currentColorChanged, this, &ColorPickerImageView::colorUpdate);
+        connect(colorPanel_, &QColorDialog::currentColorChanged, this,
+                [this](const QColor& color) { setBackgroundColor(fromQColor(color)); });
     }
     colorPanel_->show();
     showInColorPanel();
@@ -91,10 +89,6 @@ void ColorPickerImageView::showInColorPanel() {
         const QSignalBlocker notPickedByTheUser{colorPanel_};
         colorPanel_->setCurrentColor(color);
     }
-}
-
-void ColorPickerImageView::colorUpdate(const QColor& color) {
-    setBackgroundColor(fromQColor(color));
 }
 
 } // namespace tessaly

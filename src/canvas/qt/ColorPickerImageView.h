@@ -26,8 +26,6 @@ class ColorPickerImageView : public QAbstractButton, public ColorWell {
     bool isColorNotSet() const { return isColorNotSet_; }
     void setIsColorNotSet(bool notSet) { isColorNotSet_ = notSet; }
 
-    void sendUpdateDataNotification(const char* name) const;
-
     QSize sizeHint() const override;
 
   protected:
@@ -37,7 +35,6 @@ class ColorPickerImageView : public QAbstractButton, public ColorWell {
   private:
     void openColorPanel();
     void showInColorPanel();
-    void colorUpdate(const QColor& color);
 
     Color backgroundColor_;
     bool isColorNotSet_ = false;

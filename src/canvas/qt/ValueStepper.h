@@ -16,8 +16,6 @@ class ValueStepper : public QDoubleSpinBox, public Stepper {
 
     double value() const override { return QDoubleSpinBox::value(); }
     void setValue(double value) override;
-    double minimum() const override { return QDoubleSpinBox::minimum(); }
-    double maximum() const override { return QDoubleSpinBox::maximum(); }
     void setEnabled(bool enabled) override { QWidget::setEnabled(enabled); }
 
     QSize sizeHint() const override;
