@@ -1,7 +1,6 @@
 #include "canvas/StopControls.h"
 
 #include "canvas/NumberFormatter.h"
-#include "canvas/OrientationItems.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 
@@ -68,7 +67,8 @@ void StopControls::takeStepper(StopValue value) {
     case StopValue::Red:
     case StopValue::Green:
     case StopValue::Blue:
-        updateColorBoxFromRGB();
+        setColorBox({stepperInteger(StopValue::Red), stepperInteger(StopValue::Green),
+                     stepperInteger(StopValue::Blue)});
         showHSL();
         break;
     case StopValue::Hue:
@@ -88,8 +88,8 @@ void StopControls::takeStepper(StopValue value) {
 void StopControls::updateOrientationComboBoxValue() {
     handle([&] {
         const std::int64_t item = controls_.selectedOrientationComboBox->indexOfSelectedItem();
-        if (item >= 0 && item < std::ssize(orientationItems)) {
-            record_.gradient.setOrientation(orientationItems[static_cast<std::size_t>(item)].code);
+        if (item >= 0 && item < std::ssize(orientation::items)) {
+            record_.gradient.setOrientation(orientation::items[static_cast<std::size_t>(item)].code);
         }
     });
 }
@@ -116,9 +116,9 @@ void StopControls::colorChanged() {
 
 void StopControls::showChoices() {
     const auto item =
-        std::ranges::find(orientationItems, record_.gradient.orientation(), &OrientationItem::code);
-    if (item != orientationItems.end()) {
-        controls_.selectedOrientationComboBox->selectItemAtIndex(item - orientationItems.begin());
+        std::ranges::find(orientation::items, record_.gradient.orientation(), &orientation::Item::code);
+    if (item != orientation::items.end()) {
+        controls_.selectedOrientationComboBox->selectItemAtIndex(item - orientation::items.begin());
     }
     if (colorFormat::isKnown(record_.colorFormatType)) {
         controls_.selectedColorFormatComboBox->selectItemAtIndex(record_.colorFormatType);
@@ -143,11 +143,6 @@ void StopControls::setColorBox(const RGBValue& rgb) {
 void StopControls::takeColorBox() {
     markers_.changeSelected(
         [&](ColorStop& stop) { stop.color = controls_.selectedColor->backgroundColor(); });
-}
-
-void StopControls::updateColorBoxFromRGB() {
-    setColorBox(
-        {stepperInteger(StopValue::Red), stepperInteger(StopValue::Green), stepperInteger(StopValue::Blue)});
 }
 
 void StopControls::updateColorBoxFromHSL() {

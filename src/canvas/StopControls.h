@@ -62,7 +62,6 @@ class StopControls {
     }
     bool handle(const std::function<void()>& change);
     void takeStepper(StopValue value); ///< into the field beside it and the gradient
-    void updateColorBoxFromRGB();
     void updateColorBoxFromHSL();
     void showRGB(const RGBValue& rgb);
     void showHSL();

@@ -1,23 +1,18 @@
 #include "model/Color.h"
 
+#include <algorithm>
+
 namespace tessaly {
 namespace {
 
 double inRange(double component) {
-    if (!(component > 0.0)) { // not-a-number too
-        return 0.0;
-    }
-    return component < 1.0 ? component : 1.0;
+    return component > 0.0 ? std::min(component, 1.0) : 0.0; // 0.0 for not-a-number too
 }
 
 } // namespace
 
 Color Color::calibratedRGB(double red, double green, double blue, double alpha) {
     return Color{RGBAComponents{inRange(red), inRange(green), inRange(blue), inRange(alpha)}};
-}
-
-Color Color::withoutRGBForm() {
-    return Color{std::nullopt};
 }
 
 Color Color::withAlpha(double alpha) const {

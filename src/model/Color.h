@@ -16,7 +16,7 @@ class Color {
     static Color calibratedRGB(double red, double green, double blue, double alpha = 1.0);
     static Color black() { return calibratedRGB(0.0, 0.0, 0.0); }
     static Color white() { return calibratedRGB(1.0, 1.0, 1.0); }
-    static Color withoutRGBForm();
+    static Color withoutRGBForm() { return Color{std::nullopt}; }
 
     /// None when the colour cannot be expressed in calibrated RGB.
     const std::optional<RGBAComponents>& calibratedRGB() const { return components_; }

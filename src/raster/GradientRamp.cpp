@@ -54,8 +54,7 @@ GradientRamp::GradientRamp(std::span<const ColorStop> stops, Opacity opacity,
 }
 
 const GradientRamp::Segment& GradientRamp::segmentAt(double t) const {
-    const auto segment = std::upper_bound(segments_.begin(), segments_.end(), t,
-                                          [](double place, const Segment& s) { return place < s.end; });
+    const auto segment = std::ranges::upper_bound(segments_, t, {}, &Segment::end);
     return segment == segments_.end() ? segments_.back() : *segment;
 }
 

@@ -44,12 +44,11 @@ void fillShifted(const PixelBuffer& buffer, PixelSpan columns, PixelSpan rows, i
 void fillOutwards(std::span<std::uint32_t> pixels, double x, double step, double y,
                   const GradientRamp& ramp) {
     const double ySquared = y * y;
+    const auto size = static_cast<double>(pixels.size());
     std::size_t i = 0;
     for (const GradientRamp::Segment& segment : ramp.segments()) {
         const double reach = std::sqrt(std::max(segment.end * segment.end - ySquared, 0.0));
-        const double end = std::max(std::ceil((reach - x) / step), 0.0);
-        const std::size_t last =
-            end < static_cast<double>(pixels.size()) ? static_cast<std::size_t>(end) : pixels.size();
+        const auto last = static_cast<std::size_t>(std::clamp(std::ceil((reach - x) / step), 0.0, size));
         for (; i < last; ++i) {
             const double here = x + static_cast<double>(i) * step;
             pixels[i] = segment.pixelAt(std::sqrt(here * here + ySquared));

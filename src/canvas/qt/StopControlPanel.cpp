@@ -1,12 +1,12 @@
 #include "canvas/qt/StopControlPanel.h"
 
-#include "canvas/OrientationItems.h"
 #include "canvas/qt/ColorPickerImageView.h"
 #include "canvas/qt/NumberFieldEdit.h"
 #include "canvas/qt/TitledComboBox.h"
 #include "canvas/qt/ValueStepper.h"
 #include "foundation/qt/ToQString.h"
 #include "model/ColorFormat.h"
+#include "model/Orientation.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -99,7 +99,7 @@ void StopControlPanel::addLists(QGridLayout& grid) {
     selectedColor_->setToolTip(tr("Pick the color of the selected stop"));
     selectedOrientationComboBox_->setAccessibleName(tr("Orientation"));
     selectedColorFormatComboBox_->setAccessibleName(tr("Color notation"));
-    for (const OrientationItem& item : orientationItems) {
+    for (const orientation::Item& item : orientation::items) {
         selectedOrientationComboBox_->addTitle(item.title);
     }
     for (const colorFormat::Notation& notation : colorFormat::notations) {
