@@ -1,6 +1,5 @@
 #include "canvas/CanvasGeometry.h"
 
-#include "foundation/Truncation.h"
 #include "model/Orientation.h"
 
 #include <algorithm>
@@ -20,19 +19,13 @@ double wholeHalf(std::int64_t extent) {
 
 } // namespace
 
-CanvasGeometry::CanvasGeometry(Size viewSize)
-    : viewSize_{viewSize},
-      extentX_{truncated(backgroundSize().width)},
-      extentY_{truncated(backgroundSize().height)},
-      extentDiagonal_{truncated(std::hypot(backgroundSize().width, backgroundSize().height))} {}
-
 Rect CanvasGeometry::strip() const {
     return {frameWidth, frameWidth, viewSize_.width - 2 * frameWidth, viewSize_.height - 2 * frameWidth};
 }
 
 Rect CanvasGeometry::markerRect(std::int64_t orientation, double position) const {
-    const auto width = static_cast<double>(extentX_);
-    const auto height = static_cast<double>(extentY_);
+    const auto width = static_cast<double>(extentX());
+    const auto height = static_cast<double>(extentY());
     Point corner;
     switch (orientation) {
     case orientation::leftToRight:
@@ -45,7 +38,7 @@ Rect CanvasGeometry::markerRect(std::int64_t orientation, double position) const
         corner = {width * position + markerInset, height * position + markerInset};
         break;
     case orientation::radial:
-        corner = {width * position * 0.5 + wholeHalf(extentX_) + markerInset, wholeHalf(extentY_)};
+        corner = {width * position * 0.5 + wholeHalf(extentX()) + markerInset, wholeHalf(extentY())};
         break;
     default:
         corner = {width - width * position + markerInset, height * position + markerInset};
@@ -78,12 +71,13 @@ Point CanvasGeometry::radialCenter() const {
     return {(width - frameWidth) * 0.5 + frameWidth, (height - frameWidth) * 0.5 + frameWidth};
 }
 
-CanvasGeometry::TrackOffset CanvasGeometry::offsetOnDiagonal(Point start, double slope, double startHeight,
+CanvasGeometry::TrackOffset CanvasGeometry::offsetOnDiagonal(double startX, double slope, double startHeight,
                                                              Point point) const {
     const double x = (frameWidth * slope + (point.x * slope + (point.y - startHeight))) / (2 * slope);
     const Point place{x, (point.x - x) * slope + point.y};
     const double y = place.y - frameWidth;
-    return {std::sqrt((x - start.x) * (x - start.x) + y * y), extentDiagonal_,
+    const auto [width, height] = backgroundSize();
+    return {std::sqrt((x - startX) * (x - startX) + y * y), truncated(std::hypot(width, height)),
             slope < 0 ? std::optional{place} : std::nullopt};
 }
 
@@ -92,14 +86,13 @@ CanvasGeometry::TrackOffset CanvasGeometry::offsetOnTrack(std::int64_t orientati
     switch (orientation) {
     case orientation::leftToRight:
     case orientation::radial:
-        return {point.x - markerInset - colorMarkerSize.width * 0.5, extentX_, {}};
+        return {point.x - markerInset - colorMarkerSize.width * 0.5, extentX(), {}};
     case orientation::bottomToTop:
-        return {point.y - markerInset - colorMarkerSize.height * 0.5, extentY_, {}};
+        return {point.y - markerInset - colorMarkerSize.height * 0.5, extentY(), {}};
     case orientation::diagonalToTopRight:
-        return offsetOnDiagonal({frameWidth, frameWidth}, diagonalBottomGradient(), frameWidth, point);
+        return offsetOnDiagonal(frameWidth, height / width, frameWidth, point);
     default:
-        return offsetOnDiagonal({width + frameWidth, frameWidth}, diagonalTopGradient(), height + frameWidth,
-                                point);
+        return offsetOnDiagonal(width + frameWidth, -height / width, height + frameWidth, point);
     }
 }
 
@@ -122,12 +115,12 @@ bool CanvasGeometry::dragsHorizontally(std::int64_t orientation) {
 }
 
 std::int64_t CanvasGeometry::dragLimit(std::int64_t orientation) const {
-    return dragsHorizontally(orientation) ? extentX_ : extentY_;
+    return dragsHorizontally(orientation) ? extentX() : extentY();
 }
 
 double CanvasGeometry::dragOffset(std::int64_t orientation, double position) const {
     const double way = static_cast<double>(dragLimit(orientation)) * position;
-    return orientation == orientation::radial ? way * 0.5 + wholeHalf(extentX_) : way;
+    return orientation == orientation::radial ? way * 0.5 + wholeHalf(extentX()) : way;
 }
 
 double CanvasGeometry::positionAtDragOffset(std::int64_t orientation, std::int64_t offset) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Geometry.h"
+#include "foundation/Truncation.h"
 
 #include <array>
 #include <cstdint>
@@ -36,17 +37,14 @@ class CanvasGeometry {
         std::optional<Point> onDescent; ///< the place itself, on the diagonal to the top left alone
     };
 
-    explicit CanvasGeometry(Size viewSize);
+    explicit CanvasGeometry(Size viewSize) : viewSize_{viewSize} {}
 
     Size viewSize() const { return viewSize_; }
     Size backgroundSize() const { return {strip().width, strip().height}; }
 
-    /// Extent of the strip across, cut to whole points.
-    std::int64_t maxColorMarkerPosX() const { return extentX_; }
-
-    /// Slopes of the diagonals that start at the bottom left and at the top left corner.
-    double diagonalBottomGradient() const { return backgroundSize().height / backgroundSize().width; }
-    double diagonalTopGradient() const { return -diagonalBottomGradient(); }
+    /// Extents of the strip, cut to whole points.
+    std::int64_t extentX() const { return truncated(backgroundSize().width); }
+    std::int64_t extentY() const { return truncated(backgroundSize().height); }
 
     Rect strip() const;
     Rect markerRect(std::int64_t orientation, double position) const;
@@ -75,12 +73,9 @@ class CanvasGeometry {
     double positionAtDragOffset(std::int64_t orientation, std::int64_t offset) const;
 
   private:
-    TrackOffset offsetOnDiagonal(Point start, double slope, double startHeight, Point point) const;
+    TrackOffset offsetOnDiagonal(double startX, double slope, double startHeight, Point point) const;
 
     Size viewSize_;
-    std::int64_t extentX_;
-    std::int64_t extentY_;
-    std::int64_t extentDiagonal_;
 };
 
 } // namespace tessaly

@@ -15,8 +15,8 @@ namespace tessaly {
 struct CanvasScene {
     struct Marker {
         Rect frame;
-        Rect dot; ///< the oval of the stop's colour
-        Color color;
+        Color color; ///< as stored, never with the opacity
+        bool selected;
 
         bool operator==(const Marker&) const = default;
     };

@@ -46,7 +46,7 @@ bool MarkerInteraction::addAt(Point point) {
     if (radial) {
         // The track starts in the middle. The bound stays for every later orientation: deliberate, markers
         // that were placed on a disc keep out of the half that the disc does not use.
-        minColorMarkerPos_ = geometry_.maxColorMarkerPosX() / 2;
+        minColorMarkerPos_ = geometry_.extentX() / 2;
     }
     const auto [offset, limit, onDescent] = geometry_.offsetOnTrack(orientation(), point);
     if (onDescent) {

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <cmath>
 #include <span>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -29,7 +30,8 @@ void drawColorMarker(const PixelBuffer& buffer, const CanvasScene::Marker& marke
     };
     drawOval(buffer, part(CanvasGeometry::markerRing), white);
     drawOval(buffer, part(CanvasGeometry::markerInnerRing), grey);
-    drawOval(buffer, marker.dot, marker.color.calibratedRGB().value_or(black));
+    drawOval(buffer, part(marker.selected ? CanvasGeometry::selectedMarkerDot : CanvasGeometry::markerDot),
+             marker.color.calibratedRGB().value_or(black));
 }
 
 } // namespace
@@ -88,11 +90,11 @@ void CanvasPicture::paintGuideLine(const GuideLine& guide) {
     QPen pen{Qt::black, 1};
     pen.setCapStyle(Qt::FlatCap);
     pen.setDashPattern({CanvasGeometry::guideDash[0], CanvasGeometry::guideDash[1]});
-    painter.setPen(pen);
-    painter.drawLine(flipped(guide.black.from, height), flipped(guide.black.to, height));
-    pen.setColor(Qt::white);
-    painter.setPen(pen);
-    painter.drawLine(flipped(guide.white.from, height), flipped(guide.white.to, height));
+    for (const auto& [color, line] : {std::pair{Qt::black, guide.black}, std::pair{Qt::white, guide.white}}) {
+        pen.setColor(color);
+        painter.setPen(pen);
+        painter.drawLine(flipped(line.from, height), flipped(line.to, height));
+    }
 }
 
 } // namespace tessaly
