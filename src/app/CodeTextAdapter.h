@@ -1,10 +1,11 @@
 #pragma once
 
 #include "codegen/CodeText.h"
+#include "sourceview/qt/CustomTextView.h"
+
+#include <string>
 
 namespace tessaly {
-
-class CustomTextView;
 
 /// A code view as the code generation sees it.
 class CodeTextAdapter : public CodeText {
@@ -12,8 +13,10 @@ class CodeTextAdapter : public CodeText {
     /// The view must outlive the adapter.
     explicit CodeTextAdapter(CustomTextView& view) : view_{view} {}
 
-    std::u16string_view text() const override;
-    void replaceCharacters(TextRange range, std::string_view text) override;
+    std::u16string_view text() const override { return view_.text(); }
+    void replaceCharacters(TextRange range, std::string_view text) override {
+        view_.replaceCharacters(range, std::u16string(text.begin(), text.end()));
+    }
 
   private:
     CustomTextView& view_;

@@ -1,7 +1,6 @@
 #include "app/QuitOnSignal.h"
 
 #include <QCoreApplication>
-#include <QSocketNotifier>
 #include <cerrno>
 #include <cstddef>
 #include <fcntl.h>
@@ -23,12 +22,12 @@ void wake(int /*signal*/) {
 
 } // namespace
 
-QuitOnSignal::QuitOnSignal(QObject* parent) : QObject{parent} {
+QuitOnSignal::QuitOnSignal() {
     if (::pipe2(wakePipe.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         return; // the signals then end the process at once, as they do without us
     }
-    notifier_ = new QSocketNotifier{wakePipe[0], QSocketNotifier::Read, this};
-    connect(notifier_, &QSocketNotifier::activated, this, [this] {
+    notifier_ = std::make_unique<QSocketNotifier>(wakePipe[0], QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] {
         notifier_->setEnabled(false);
         QCoreApplication::exit(); // asks no window: whoever sent the signal wants the program to end
     });

@@ -23,6 +23,12 @@ QString pathFor(const QString& folder, const char* ending) {
            QString::fromLatin1(hash) + QString::fromLatin1(ending);
 }
 
+bool tellFirst(const QString& socketPath) {
+    QLocalSocket first;
+    first.connectToServer(socketPath);
+    return first.waitForConnected(patience);
+}
+
 } // namespace
 
 SingleInstance::SingleInstance(const QString& folder, QObject* parent)
@@ -62,11 +68,4 @@ void SingleInstance::listen(const QString& socketPath) {
                              server_.errorString().toStdString());
     }
 }
-
-bool SingleInstance::tellFirst(const QString& socketPath) {
-    QLocalSocket first;
-    first.connectToServer(socketPath);
-    return first.waitForConnected(patience);
-}
-
 } // namespace tessaly

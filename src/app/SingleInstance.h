@@ -26,7 +26,6 @@ class SingleInstance : public QObject {
 
   private:
     void listen(const QString& socketPath);
-    static bool tellFirst(const QString& socketPath);
 
     QLockFile lock_;
     QLocalServer server_;

@@ -15,7 +15,6 @@
 #include "codegen/qt/WebPreviewView.h"
 #include "foundation/qt/ToQString.h"
 #include "presets/qt/PresetPanel.h"
-#include "sourceview/qt/CustomTextView.h"
 #include "sourceview/qt/SourceView.h"
 
 #include <QPushButton>
@@ -23,6 +22,18 @@
 #include <utility>
 
 namespace tessaly {
+namespace {
+
+// Made when first shown, then kept.
+template <typename Dialog>
+void openDialog(Dialog*& dialog, MainWindow& window) {
+    if (dialog == nullptr) {
+        dialog = new Dialog{&window};
+    }
+    dialog->open();
+}
+
+} // namespace
 
 Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem::path& applicationSupport)
     : mainWindow_{std::make_unique<MainWindow>()},
@@ -59,10 +70,11 @@ void Tessaly::lendToViews() {
     connect(&views.stylesheet->textView(), &CustomTextView::userEdited, this,
             [this](const TextEdit& edit) { stylesheet_.edited(edit); });
     connect(views.copy, &QPushButton::clicked, this, &Tessaly::copyCode);
-    connect(views.about, &QPushButton::clicked, this, &Tessaly::showAbout);
+    connect(views.about, &QPushButton::clicked, this, [this] { openDialog(about_, *mainWindow_); });
     connect(views.homepage, &QPushButton::clicked, this,
             [] { WebAddressOpener::open(toQString(product::homepage())); });
-    connect(views.relatedApps, &QPushButton::clicked, this, &Tessaly::showRelatedApps);
+    connect(views.relatedApps, &QPushButton::clicked, this,
+            [this] { openDialog(relatedApps_, *mainWindow_); });
 }
 
 void Tessaly::observe() {
@@ -109,20 +121,6 @@ void Tessaly::copyCode() {
     const MainWindow::Views& views = mainWindow_->views();
     const bool isPage = views.sourceCodeContainer->currentWidget() == views.page;
     views.copy->copy(toQString((isPage ? htmlTextView_ : css3TextView_).text()));
-}
-
-void Tessaly::showAbout() {
-    if (about_ == nullptr) {
-        about_ = new About{mainWindow_.get()};
-    }
-    about_->open();
-}
-
-void Tessaly::showRelatedApps() {
-    if (relatedApps_ == nullptr) {
-        relatedApps_ = new RelatedApps{mainWindow_.get()};
-    }
-    relatedApps_->open();
 }
 
 } // namespace tessaly

@@ -43,8 +43,6 @@ class Tessaly : public QObject {
     void updateCode();
     void showSourceCodeView(std::int64_t index);
     void copyCode();
-    void showAbout();
-    void showRelatedApps();
 
     std::unique_ptr<MainWindow> mainWindow_;
     GlobalData record_;
@@ -55,8 +53,8 @@ class Tessaly : public QObject {
     PreviewFiles previewFiles_;
     PresetGallery gallery_;
     PresetStore store_;
-    About* about_ = nullptr;             ///< made when first shown, then kept
-    RelatedApps* relatedApps_ = nullptr; ///< likewise
+    About* about_ = nullptr; ///< like the next, none before it is first shown
+    RelatedApps* relatedApps_ = nullptr;
     NotificationCenter::Observation selectIndexChanged_;
     NotificationCenter::Observation needToUpdateWebCode_;
 };

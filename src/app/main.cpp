@@ -1,4 +1,3 @@
-#include "app/CommandLine.h"
 #include "app/FontConfiguration.h"
 #include "app/MainWindow.h"
 #include "app/QuitOnSignal.h"
@@ -10,12 +9,42 @@
 #include "foundation/qt/ToQString.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QStandardPaths>
 #include <clocale>
 #include <csignal>
+#include <cstddef>
+#include <span>
 
+namespace tessaly {
 namespace {
+
+// Answers "--help" or "--version" on standard output and ends the process. That needs no display, so it comes
+// before the GUI application is made; everything else on the command line is left to that.
+void answerCommandLine(int argc, char** argv) {
+    const QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show how to call the program, and end.")};
+    const QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
+                                     QStringLiteral("Show which version this is, and end.")};
+    QCommandLineParser parser;
+    // The toolkit's own options have one dash: "-reverse" asks for no version.
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.setApplicationDescription(toQString(product::purpose));
+    parser.addOptions({help, version});
+    QStringList arguments;
+    for (const char* const argument : std::span{argv, static_cast<std::size_t>(argc)}) {
+        arguments += QString::fromLocal8Bit(argument);
+    }
+    parser.parse(arguments);
+    if (parser.isSet(help)) {
+        const QCoreApplication application{argc, argv}; // the help names the program as it was called
+        parser.showHelp();
+    }
+    if (parser.isSet(version)) {
+        parser.showVersion();
+    }
+}
 
 // The folder that the presets' own folder lies in. A relative one from the environment is ignored, as the
 // rules for base directories ask.
@@ -38,6 +67,7 @@ void showAgain(QWidget& window) {
 }
 
 } // namespace
+} // namespace tessaly
 
 int main(int argc, char** argv) {
     using namespace tessaly;
