@@ -7,80 +7,73 @@
 namespace tessaly {
 namespace {
 
-// The rules as they are told: three parallel arrays, of which a deletion leaves the third alone.
-struct ThreeArrays {
-    std::vector<double> positions;
-    std::vector<Color> colors;
+// The rules as they are told: the opacities are a list of their own, which a deletion leaves alone.
+struct SeparateOpacities {
+    std::vector<ColorStop> places; ///< their own opacities do not count
     std::vector<double> opacities;
 
     void append(const ColorStop& stop) {
-        positions.push_back(stop.position);
-        colors.push_back(stop.color);
+        places.push_back(stop);
         opacities.push_back(stop.opacity);
     }
     std::int64_t insertSorted(const ColorStop& stop) {
-        const auto greater = std::ranges::find_if(positions, [&](double p) { return p > stop.position; });
-        const std::int64_t place = greater - positions.begin();
-        if (greater == positions.end()) {
+        const auto greater = std::ranges::find_if(
+            places, [&](const ColorStop& other) { return other.position > stop.position; });
+        const std::int64_t place = greater - places.begin();
+        if (greater == places.end()) {
             append(stop);
         } else {
-            positions.insert(positions.begin() + place, stop.position);
-            colors.insert(colors.begin() + place, stop.color);
+            places.insert(greater, stop);
             opacities.insert(opacities.begin() + place, stop.opacity);
         }
         return place;
     }
     std::int64_t move(std::int64_t index, double position) {
-        const auto i = static_cast<std::size_t>(index);
-        const ColorStop moved{position, colors[i], opacities[i]};
+        ColorStop moved = stops()[static_cast<std::size_t>(index)];
+        moved.position = position;
         remove(index);
         opacities.erase(opacities.begin() + index);
         return insertSorted(moved);
     }
-    void remove(std::int64_t index) {
-        positions.erase(positions.begin() + index);
-        colors.erase(colors.begin() + index);
-    }
-    void replace(std::int64_t index, const ColorStop& stop) {
-        const auto i = static_cast<std::size_t>(index);
-        positions[i] = stop.position;
-        colors[i] = stop.color;
-        opacities[i] = stop.opacity;
+    void remove(std::int64_t index) { places.erase(places.begin() + index); }
+    void replace(std::size_t index, const ColorStop& stop) {
+        places[index] = stop;
+        opacities[index] = stop.opacity;
     }
     std::vector<ColorStop> stops() const {
-        std::vector<ColorStop> all;
-        for (std::size_t i = 0; i < positions.size(); ++i) {
-            all.push_back({positions[i], colors[i], opacities[i]});
+        auto all = places;
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            all[i].opacity = opacities[i];
         }
         return all;
     }
 };
 
-TEST(Gradient, keepsTheRulesOfThreeParallelArraysOverAnySequence) {
+TEST(Gradient, keepsTheRulesOfSeparateOpacitiesOverAnySequence) {
     std::mt19937 random{7};
     const auto upTo = [&](std::int64_t most) {
         return std::uniform_int_distribution<std::int64_t>{0, most}(random);
     };
     Gradient gradient;
-    ThreeArrays arrays;
+    SeparateOpacities lists;
     for (int i = 0; i < 20'000; ++i) {
         const double position = static_cast<double>(upTo(8)) / 8; // equal ones too
         const ColorStop stop{position, Color::calibratedRGB(i / 20'000.0, 0, 0), i / 20'000.0};
-        const std::int64_t count = std::ssize(arrays.positions);
+        const std::int64_t count = std::ssize(lists.places);
         const std::int64_t index = upTo(std::max<std::int64_t>(count - 1, 0));
         const std::int64_t action = count == 0 ? upTo(1) : count > 12 ? 2 : upTo(4);
         if (action == 0) {
-            gradient.append(stop), arrays.append(stop);
+            gradient.append(stop), lists.append(stop);
         } else if (action == 1) {
-            ASSERT_EQ(gradient.insertSorted(stop), arrays.insertSorted(stop));
+            ASSERT_EQ(gradient.insertSorted(stop), lists.insertSorted(stop));
         } else if (action == 2) {
-            gradient.remove(index), arrays.remove(index);
+            gradient.remove(index), lists.remove(index);
         } else if (action == 3) {
-            ASSERT_EQ(gradient.move(index, position), arrays.move(index, position));
+            ASSERT_EQ(gradient.move(index, position), lists.move(index, position));
         } else {
-            gradient.replace(index, stop), arrays.replace(index, stop);
+            gradient.replace(index, stop), lists.replace(static_cast<std::size_t>(index), stop);
         }
-        ASSERT_EQ(gradient.stops(), arrays.stops()) << "after " << i << ", " << action;
+        ASSERT_EQ(gradient.stops(), lists.stops()) << "after " << i << ", " << action;
         ASSERT_EQ(gradient.stopAt(count).has_value(), count < std::ssize(gradient.stops()));
     }
     EXPECT_FALSE(gradient.stopAt(-1));

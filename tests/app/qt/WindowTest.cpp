@@ -97,15 +97,6 @@ TEST_F(WindowTest, aDraggedMarkerReachesTextFileAndPreview) {
     EXPECT_TRUE(previewComesToShow(0.25, 85)) << "back after its render process was killed";
 }
 
-TEST_F(WindowTest, thePreviewReadsItsOwnTwoFilesAndNothingElse) {
-    const auto secret = temporary.path / "secret.css";
-    std::ofstream{secret} << "div{background:red !important}";
-    views.stylesheet->textView().textCursor().insertText(QStringLiteral("@import '../secret.css';\n"));
-    dragWhiteMarker(-292);
-    views.tabs->setSelectIndex(2);
-    EXPECT_TRUE(previewComesToShow(0.25, 127));
-}
-
 TEST_F(WindowTest, listensToItsOwnTabsAndKeepsWhatTheUserTyped) {
     const int stranger = 0;
     NotificationCenter::defaultCenter().post({"SelectIndexChanged", &stranger, {{"Index", std::int64_t{1}}}});
