@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -13,23 +14,21 @@ constexpr double gap = 16.0; // between two titles, the separator in its middle
 constexpr double halfGap = gap / 2;
 constexpr double boxMargin = 5.0; // of hit rectangle and drawn box, on each side of the title
 
-std::int64_t widened(std::int64_t width, double by) {
-    return truncated(static_cast<double>(width) + by);
+std::int64_t widthOfGroup(const std::vector<Size>& titles) {
+    const std::int64_t gaps = truncated(gap) * (std::ssize(titles) - 1);
+    return std::accumulate(titles.begin(), titles.end(), gaps, [](std::int64_t width, const Size& title) {
+        return truncated(static_cast<double>(width) + title.width);
+    });
 }
 
 } // namespace
 
-void TabBarLayout::addTab(Size textSize) {
-    textHeight_ = truncated(textSize.height);
-    totalWidth_ = widened(totalWidth_, textSize.width);
-    textSizes_.push_back(textSize);
-}
+TabBarLayout::TabBarLayout(std::vector<Size> textSizes)
+    : textSizes_{std::move(textSizes)},
+      totalWidth_{widthOfGroup(textSizes_)},
+      textHeight_{truncated(textSizes_.back().height)} {}
 
 void TabBarLayout::layOutHitRectangles(double frameWidth) {
-    const std::int64_t gaps = truncated(gap) * (static_cast<std::int64_t>(textSizes_.size()) - 1);
-    totalWidth_ =
-        std::accumulate(textSizes_.begin(), textSizes_.end(), gaps,
-                        [](std::int64_t width, const Size& size) { return widened(width, size.width); });
     hitRectangles_.clear();
     double x = (frameWidth - static_cast<double>(totalWidth_)) / 2;
     const std::int64_t halfHeight = textHeight_ / 2; // a whole number
@@ -43,9 +42,6 @@ void TabBarLayout::layOutHitRectangles(double frameWidth) {
 
 DrawnTabs TabBarLayout::drawn(Size frame, std::int64_t selectIndex) const {
     DrawnTabs tabs;
-    if (textSizes_.empty()) {
-        return tabs;
-    }
     const double start = (frame.width - static_cast<double>(totalWidth_)) / 2;
     const double y = (frame.height - textSizes_.front().height) / 2;
     double x = start;
@@ -77,12 +73,9 @@ std::optional<std::int64_t> TabBarLayout::tabAt(Point point) const {
     return hit - hitRectangles_.begin();
 }
 
-std::optional<std::int64_t> TabBarLayout::neighbour(std::int64_t index, std::int64_t step) const {
-    if (textSizes_.empty()) {
-        return std::nullopt;
-    }
-    const auto last = static_cast<std::int64_t>(textSizes_.size()) - 1;
-    return std::clamp(std::clamp<std::int64_t>(index, -1, last + 1) + step, std::int64_t{0}, last);
+std::int64_t TabBarLayout::neighbour(std::int64_t index, std::int64_t step) const {
+    const auto row = std::ssize(textSizes_);
+    return std::clamp<std::int64_t>(std::clamp<std::int64_t>(index, -1, row) + step, 0, row - 1);
 }
 
 Size TabBarLayout::preferredSize() const {

@@ -28,10 +28,10 @@ struct DrawnTabs {
 /// and have a height of their own, while drawing follows the frame at once. That is deliberate.
 class TabBarLayout {
   public:
-    /// Appends a tab whose title measures `textSize`. The hit rectangles stay as they are.
-    void addTab(Size textSize);
+    /// Titles of these sizes, one at least; there are no hit rectangles yet.
+    explicit TabBarLayout(std::vector<Size> textSizes);
 
-    /// Computes the group's width and every tab's hit rectangle anew, for a bar of that width.
+    /// Computes every tab's hit rectangle anew, for a bar of that width.
     void layOutHitRectangles(double frameWidth);
 
     /// An index that no tab has draws no box.
@@ -40,8 +40,8 @@ class TabBarLayout {
     /// The first tab whose hit rectangle holds the point.
     std::optional<std::int64_t> tabAt(Point point) const;
 
-    /// The tab `step` places further, kept within the row; none when there are no tabs.
-    std::optional<std::int64_t> neighbour(std::int64_t index, std::int64_t step) const;
+    /// The tab `step` places further, kept within the row.
+    std::int64_t neighbour(std::int64_t index, std::int64_t step) const;
 
     /// A bar of this size holds the group with a margin, and every hit rectangle and box within its height.
     Size preferredSize() const;
@@ -52,8 +52,8 @@ class TabBarLayout {
   private:
     std::vector<Size> textSizes_;
     std::vector<Rect> hitRectangles_;
-    std::int64_t totalWidth_ = 0; ///< of the group; every addition to it is cut, not rounded
-    std::int64_t textHeight_ = 0; ///< of the title added last, cut
+    std::int64_t totalWidth_; ///< of the group; every addition to it is cut, not rounded
+    std::int64_t textHeight_; ///< of the last title, cut
 };
 
 } // namespace tessaly

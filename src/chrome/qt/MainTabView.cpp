@@ -10,33 +10,39 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <map>
 
 namespace tessaly {
 
-MainTabView::MainTabView(const QStringList& titles, QWidget* parent) : QWidget{parent} {
+namespace {
+
+std::vector<Size> sizesOf(const QStringList& titles, const QFontMetricsF& metrics) {
+    std::vector<Size> sizes;
+    std::ranges::transform(titles, std::back_inserter(sizes), [&](const QString& title) {
+        return Size{metrics.horizontalAdvance(title), metrics.height()};
+    });
+    return sizes;
+}
+
+} // namespace
+
+MainTabView::MainTabView(const QStringList& titles, QWidget* parent)
+    : QWidget{parent},
+      tabs_{titles},
+      titleFont_{font()},
+      layout_{sizesOf(titles, QFontMetricsF{titleFont_})} {
     installAccessibleItems();
     setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
+    setMouseTracking(true); // the pointer is followed, deliberately without effect
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    for (const QString& title : titles) {
-        addTab(title);
-    }
-    selectIndex_ = 0;
     windowDidResize();
     nextPass_.setSingleShot(true);
     connect(&nextPass_, &QTimer::timeout, this, &MainTabView::windowDidResize);
     QCoreApplication::instance()->installEventFilter(this); // until this object ends
-}
-
-void MainTabView::addTab(const QString& title) {
-    const QFontMetricsF metrics{font()};
-    tabs_.push_back(title);
-    textFonts_.push_back(font());
-    layout_.addTab({metrics.horizontalAdvance(title), metrics.height()});
-    updateGeometry();
-    update();
 }
 
 void MainTabView::windowDidResize() {
@@ -77,14 +83,10 @@ void MainTabView::paintEvent(QPaintEvent* /*event*/) {
     grey.setColorAt(0, toQColor(colors_.gradientBottom));
     grey.setColorAt(1, toQColor(colors_.gradientTop));
     painter.fillRect(rect(), grey);
-    if (tabs_.isEmpty()) {
-        return;
-    }
     const DrawnTabs drawn = layout_.drawn(frameSize(), selectIndex_);
     for (std::size_t i = 0; i < drawn.titles.size(); ++i) {
         drawTab(painter, i, drawn);
     }
-    trackingArea_ = flipped(drawn.trackingArea, height());
     if (hasFocus()) {
         drawFocusFrame(painter, drawn);
     }
@@ -98,7 +100,7 @@ void MainTabView::drawTab(QPainter& painter, std::size_t index, const DrawnTabs&
     }
     const Point origin = tabs.titles[index];
     const Size size = layout_.textSizes()[index];
-    painter.setFont(textFonts_[index]);
+    painter.setFont(titleFont_);
     painter.setPen(toQColor(colors_.title));
     painter.drawText(flipped(Rect{origin.x, origin.y, size.width, size.height}, height()),
                      Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,
@@ -119,7 +121,7 @@ void MainTabView::drawSeparator(QPainter& painter, const TabSeparator& separator
 
 void MainTabView::drawFocusFrame(QPainter& painter, const DrawnTabs& tabs) const {
     constexpr double outset = 1.0; // clear of the separators
-    const QRectF frame = tabs.selectedBox ? flipped(*tabs.selectedBox, height()) : trackingArea_;
+    const QRectF frame = flipped(tabs.selectedBox.value_or(tabs.trackingArea), height());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen{toQColor(colors_.title), 1.5});
     painter.setBrush(Qt::NoBrush);
@@ -136,27 +138,16 @@ void MainTabView::mousePressEvent(QMouseEvent* event) {
 }
 
 void MainTabView::keyPressEvent(QKeyEvent* event) {
-    const auto row = static_cast<std::int64_t>(tabs_.size());
-    std::int64_t step = 0;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        step = -1;
-        break;
-    case Qt::Key_Right:
-        step = 1;
-        break;
-    case Qt::Key_Home:
-        step = -row;
-        break;
-    case Qt::Key_End:
-        step = row;
-        break;
-    default:
+    const std::int64_t row = tabs_.size();
+    const std::map<int, std::int64_t> steps{
+        {Qt::Key_Left, -1}, {Qt::Key_Right, 1}, {Qt::Key_Home, -row}, {Qt::Key_End, row}};
+    const auto step = steps.find(event->key());
+    if (step == steps.end()) {
         QWidget::keyPressEvent(event);
         return;
     }
-    if (const auto index = layout_.neighbour(selectIndex_, step); index && *index != selectIndex_) {
-        setSelectIndex(*index);
+    if (const auto index = layout_.neighbour(selectIndex_, step->second); index != selectIndex_) {
+        setSelectIndex(index);
     }
 }
 

@@ -4,12 +4,10 @@
 #include "chrome/TabBarLayout.h"
 #include "foundation/qt/AccessibleItems.h"
 
-#include <QFont>
 #include <QStringList>
 #include <QTimer>
 #include <QWidget>
 #include <cstdint>
-#include <vector>
 
 namespace tessaly {
 
@@ -20,7 +18,7 @@ class MainTabView : public QWidget, public AccessibleItems {
     Q_OBJECT
 
   public:
-    /// Starts with the first tab selected, which is not announced.
+    /// One title at least. Starts with the first tab selected, which is not announced.
     explicit MainTabView(const QStringList& titles, QWidget* parent = nullptr);
 
     /// Announces the index always, also when it is the same or no tab has it.
@@ -44,8 +42,6 @@ class MainTabView : public QWidget, public AccessibleItems {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void addTab(const QString& title);
-
     /// Lays the hit rectangles out for the strip's present width. Runs after a resize of any window; the
     /// drawing does not wait for it.
     void windowDidResize();
@@ -59,12 +55,11 @@ class MainTabView : public QWidget, public AccessibleItems {
     void drawFocusFrame(QPainter& painter, const DrawnTabs& tabs) const;
 
     QStringList tabs_;
-    std::vector<QFont> textFonts_; // one per tab, as it was measured
+    QFont titleFont_; // as the titles were measured
     TabBarLayout layout_;
     TabBarColors colors_;
-    QRectF trackingArea_; // the group as last drawn; the pointer is followed there, without effect
-    QTimer nextPass_;     // of the event loop
-    std::int64_t selectIndex_ = -1;
+    QTimer nextPass_; // of the event loop
+    std::int64_t selectIndex_ = 0;
 };
 
 } // namespace tessaly

@@ -25,7 +25,7 @@ QColor blueOn(const QColor& background) {
 } // namespace
 
 WebLabel::WebLabel(const QString& address, QWidget* parent) : QLabel{address, parent} {
-    WebLabelAccessible::install();
+    installWebLabelAccessible();
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
