@@ -1,11 +1,12 @@
 #include "sourceview/GutterLayout.h"
 
+#include "sourceview/LineIndices.h"
 #include "sourceview/TextLayout.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace tessaly {
+namespace tessaly::gutter {
 namespace {
 
 constexpr double margin = 5.0; // on each side of the widest number
@@ -17,54 +18,44 @@ double singlePrecision(double value) {
     return static_cast<double>(static_cast<float>(value));
 }
 
-std::size_t digitsOf(std::size_t number) {
-    return number == 0 ? 1 : static_cast<std::size_t>(std::log10(static_cast<double>(number))) + 1;
+GutterLabel labelOf(std::size_t line, double rowY, double rowHeight, double width, const Measure& sizeOf) {
+    const std::string text = std::to_string(line + 1);
+    const Size size = sizeOf(text);
+    const Rect rectangle{width - size.width - margin, rowY + (rowHeight - size.height) / 2,
+                         width - 2 * margin, rowHeight};
+    return {line, text, rectangle, rowY, rowHeight};
 }
 
 } // namespace
 
-double GutterLayout::requiredThickness() const {
-    const std::string widest(digitsOf(lines_.count()), '8');
-    const double width = layout_.sizeOf(widest).width + 2 * margin;
+double requiredThickness(const LineIndices& lines, const Measure& sizeOf) {
+    const std::string widest(std::to_string(lines.starts().size()).size(), '8');
+    const double width = sizeOf(widest).width + 2 * margin;
     return std::ceil(singlePrecision(std::max(width, leastThickness)));
 }
 
-std::vector<GutterLabel> GutterLayout::labels(double width,
-                                              const std::function<bool(std::size_t)>& isMarked) const {
+std::vector<GutterLabel> labels(const TextLayout& text, const LineIndices& lines, double width,
+                                const Measure& sizeOf) {
     std::vector<GutterLabel> labels;
-    if (lines_.count() == 0) {
-        return labels;
-    }
-    const TextRange characters = layout_.charactersIn(layout_.visibleRect());
-    // One more, so that a line that starts right behind the last visible character is visible too.
-    const std::size_t end = characters.end() + 1;
-    std::size_t line = lines_.lineNumberForCharacterIndex(characters.location);
-    for (; line < lines_.count() && lines_[line] <= end; ++line) {
-        const std::size_t start = lines_[line];
-        if (start < characters.location || start == end) {
+    const Rect visible = text.visibleRect();
+    const TextRange characters = text.charactersIn(visible);
+    std::size_t line = lines.lineNumberForCharacterIndex(characters.location);
+    // A line that starts right behind the last visible character is visible too.
+    for (; line < lines.starts().size() && lines.starts()[line] <= characters.end(); ++line) {
+        const std::size_t start = lines.starts()[line];
+        if (start < characters.location) {
             continue;
         }
-        const std::vector<Rect> rectangles = layout_.rectanglesOfEmptyRange(start);
-        if (!rectangles.empty()) {
-            labels.push_back(labelOf(line, rectangles.front(), width, isMarked(line)));
+        if (const auto row = text.rectangleOfRowAt(start)) {
+            labels.push_back(labelOf(line, singlePrecision(row->y - visible.y), row->height, width, sizeOf));
         }
     }
     return labels;
 }
 
-GutterLabel GutterLayout::labelOf(std::size_t line, const Rect& row, double width, bool marked) const {
-    const std::string text = std::to_string(line + 1);
-    const Size size = layout_.sizeOf(text);
-    const double y =
-        singlePrecision(row.y + singlePrecision(layout_.insetHeight()) - layout_.visibleRect().y);
-    const Rect rectangle{width - size.width - margin, y + (row.height - size.height) / 2, width - 2 * margin,
-                         row.height};
-    return {line, text, rectangle, y, row.height, marked};
-}
-
-Rect GutterLayout::markerRect(const GutterLabel& label, double width, Size marker) {
+Rect markerRect(const GutterLabel& label, double width, Size marker) {
     return {width - marker.width - markerMargin, label.rowY + label.rowHeight / 2 - marker.height / 2,
             marker.width, marker.height};
 }
 
-} // namespace tessaly
+} // namespace tessaly::gutter

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "foundation/Geometry.h"
-#include "sourceview/LineIndices.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
 
 namespace tessaly {
 
+class LineIndices;
 class TextLayout;
 
 /// The number of one line, as drawn.
@@ -18,31 +19,25 @@ struct GutterLabel {
     Rect rectangle;       ///< in the gutter; the text starts at its left edge
     double rowY = 0.0;    ///< top of the line's first row in the gutter
     double rowHeight = 0.0;
-    bool marked = false; ///< the line carries a marker
 
     bool operator==(const GutterLabel&) const = default;
 };
 
-/// Width and contents of a line-number gutter, over a text's layout and its line starts, both of which must
-/// outlive this object. Points, y downwards from the gutter's top edge.
-class GutterLayout {
-  public:
-    GutterLayout(const TextLayout& layout, const LineIndices& lines) : layout_{layout}, lines_{lines} {}
+/// Width and contents of a line-number gutter. Points, y downwards from the gutter's top edge.
+namespace gutter {
 
-    /// Room for the digits of the last line's number, in whole points.
-    double requiredThickness() const;
+/// Size of a label in the gutter's font.
+using Measure = std::function<Size(const std::string& label)>;
 
-    /// The labels of all visible lines; `isMarked` takes 0-based lines.
-    std::vector<GutterLabel> labels(double width, const std::function<bool(std::size_t)>& isMarked) const;
+/// Room for the digits of the last line's number, in whole points.
+double requiredThickness(const LineIndices& lines, const Measure& sizeOf);
 
-    /// Where a marker of that size comes, centred on the row.
-    static Rect markerRect(const GutterLabel& label, double width, Size marker);
+/// The labels of all visible lines.
+std::vector<GutterLabel> labels(const TextLayout& text, const LineIndices& lines, double width,
+                                const Measure& sizeOf);
 
-  private:
-    GutterLabel labelOf(std::size_t line, const Rect& row, double width, bool marked) const;
+/// Where a marker of that size comes, centred on the row.
+Rect markerRect(const GutterLabel& label, double width, Size marker);
 
-    const TextLayout& layout_;
-    const LineIndices& lines_;
-};
-
+} // namespace gutter
 } // namespace tessaly

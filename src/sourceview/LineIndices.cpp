@@ -1,5 +1,7 @@
 #include "sourceview/LineIndices.h"
 
+#include <algorithm>
+
 namespace tessaly {
 namespace {
 
@@ -29,16 +31,8 @@ LineIndices::LineIndices(std::u16string_view text) : starts_{0} {
 }
 
 std::size_t LineIndices::lineNumberForCharacterIndex(std::size_t index) const {
-    std::size_t left = 0;
-    std::size_t right = starts_.size();
-    while (right - left >= 2) {
-        const std::size_t middle = (left + right) / 2;
-        if (starts_[middle] == index) {
-            return middle;
-        }
-        (starts_[middle] > index ? right : left) = middle;
-    }
-    return left;
+    const auto next = std::upper_bound(starts_.begin(), starts_.end(), index);
+    return static_cast<std::size_t>(next - starts_.begin()) - 1;
 }
 
 } // namespace tessaly

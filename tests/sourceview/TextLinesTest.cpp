@@ -2,9 +2,9 @@
 
 #include "foundation/TextEdit.h"
 #include "sourceview/GutterLayout.h"
+#include "sourceview/LineIndices.h"
 #include "sourceview/TextLayout.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace tessaly {
@@ -20,72 +20,64 @@ TEST(LineIndices, knowsSixTerminatorsAndTheEmptyLastLine) {
     for (const auto& [text, starts] : rows) {
         const LineIndices lines{text};
         EXPECT_EQ(lines.starts(), starts);
-        for (std::size_t index = 0; index < text.size() + 3; ++index) {
-            const auto next = std::upper_bound(starts.begin(), starts.end(), index);
-            EXPECT_EQ(lines.lineNumberForCharacterIndex(index), next - starts.begin() - 1);
-        }
+        EXPECT_EQ(lines.lineNumberForCharacterIndex(text.size() + 3), starts.size() - 1);
+    }
+    const LineIndices lines{u"a\n\nb"};
+    for (const auto& [index, line] : {std::pair{0U, 0U}, {1U, 0U}, {2U, 1U}, {3U, 2U}}) {
+        EXPECT_EQ(lines.lineNumberForCharacterIndex(index), line);
     }
 }
 
 /// Every character in a row of its own, 20 points high, shown ten at a time from `top` on.
 struct FakeTextLayout : TextLayout {
-    std::vector<Rect> rectanglesOfEmptyRange(std::size_t offset) const override {
+    std::optional<Rect> rectangleOfRowAt(std::size_t offset) const override {
         ++asked;
-        return offset == 100 ? std::vector<Rect>{} : std::vector<Rect>{{0, 20.0 * double(offset), 1, 20}};
+        return offset == 100 ? std::nullopt : std::optional{Rect{0, 20.0 * double(offset), 1, 20}};
     }
     TextRange charactersIn(const Rect& rectangle) const override {
         return {std::size_t(rectangle.y / 20), 10};
     }
     Rect visibleRect() const override { return {0, top, 300, 200}; }
-    double insetHeight() const override { return 3; }
-    Size sizeOf(std::string_view label) const override { return {7.25 * double(label.size()), 12}; }
 
     double top = 0;
     mutable int asked = 0;
 };
 
-class GutterLayoutTest : public testing::Test {
-  protected:
-    void setLines(std::size_t count) { lines = LineIndices{std::u16string(count - 1, u'\n')}; }
-    std::vector<GutterLabel> labels() const {
-        return gutter.labels(40, [](std::size_t line) { return line == 99; });
-    }
+Size sizeOf(const std::string& label) {
+    return {7.25 * double(label.size()), 12};
+}
 
-    FakeTextLayout text;
-    LineIndices lines;
-    const GutterLayout gutter{text, lines};
-};
+LineIndices emptyLines(std::size_t count) {
+    return LineIndices{std::u16string(count - 1, u'\n')};
+}
 
-TEST_F(GutterLayoutTest, isWideEnoughForTheLastNumber) {
+TEST(Gutter, placesNumbersAndMarkersBesideTheFirstRows) {
     using Row = std::pair<std::size_t, double>;
     for (const auto& [count, thickness] : {Row{9, 22}, {10, 25}, {99, 25}, {100, 32}, {1000, 39}}) {
-        setLines(count);
-        EXPECT_EQ(gutter.requiredThickness(), thickness) << count;
+        EXPECT_EQ(gutter::requiredThickness(emptyLines(count), sizeOf), thickness) << count;
     }
-}
-
-TEST_F(GutterLayoutTest, placesNumbersAndMarkersBesideTheFirstRows) {
-    setLines(103);
+    FakeTextLayout text;
     text.top = 1970;
-    const auto shown = labels();
+    const auto shown = gutter::labels(text, emptyLines(103), 40, sizeOf);
     // Line 98 is half scrolled out and line 100 has no layout; the text ends with line 102.
     ASSERT_EQ(shown.size(), 4U);
-    EXPECT_EQ(shown[0], (GutterLabel{98, "99", {40 - 14.5 - 5, -7 + 4, 30, 20}, -7, 20, false}));
-    EXPECT_EQ(shown[1], (GutterLabel{99, "100", {40 - 21.75 - 5, 13 + 4, 30, 20}, 13, 20, true}));
+    EXPECT_EQ(shown[0], (GutterLabel{98, "99", {40 - 14.5 - 5, -10 + 4, 30, 20}, -10, 20}));
+    EXPECT_EQ(shown[1], (GutterLabel{99, "100", {40 - 21.75 - 5, 10 + 4, 30, 20}, 10, 20}));
     EXPECT_EQ(shown[2].text + shown[3].text, "102103");
-    EXPECT_EQ(GutterLayout::markerRect(shown[1], 40, {38, 13}), (Rect{1, 13 + 10 - 6.5, 38, 13}));
+    EXPECT_EQ(gutter::markerRect(shown[1], 40, {38, 13}), (Rect{1, 10 + 10 - 6.5, 38, 13}));
 }
 
-TEST_F(GutterLayoutTest, labelsVisibleLinesOnlyAndTheOneRightBehind) {
-    setLines(100'000);
+TEST(Gutter, labelsVisibleLinesOnlyAndTheOneRightBehind) {
+    FakeTextLayout text;
+    const LineIndices lines = emptyLines(100'000);
     for (text.top = 2400; text.top < 100'000 * 20.0 - 200; text.top += 1240) {
         text.asked = 0;
-        ASSERT_EQ(labels().size(), 11U) << "ten rows fit";
+        ASSERT_EQ(gutter::labels(text, lines, 40, sizeOf).size(), 11U) << "ten rows fit";
         ASSERT_EQ(text.asked, 11);
     }
     text.top = 20;
-    lines = LineIndices{std::u16string(9, u'x') + u"\ny"};
-    EXPECT_EQ(labels().size(), 1U) << "the first row is scrolled out";
+    EXPECT_EQ(gutter::labels(text, LineIndices{u"xxxxxxxxx\ny"}, 40, sizeOf).size(), 1U)
+        << "the first row is scrolled out";
 }
 
 TEST(TextEdit, isNoMoreThanDiffersAndNeverCutsASurrogatePair) {

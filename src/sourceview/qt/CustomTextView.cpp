@@ -2,7 +2,6 @@
 
 #include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
-#include "sourceview/BandColors.h"
 #include "sourceview/qt/CodeDocumentLayout.h"
 #include "sourceview/qt/ExactText.h"
 
@@ -21,6 +20,15 @@ namespace tessaly {
 namespace {
 
 constexpr int tabWidth = 4; // in characters
+
+// The band behind the selected lines.
+constexpr RGBAComponents bandFill = rgbOfBytes(209, 226, 242, 0.4);
+constexpr RGBAComponents bandBorder = rgbOfBytes(120, 174, 229, 0.4);
+
+// At full strength the pale fill would take the contrast from the light text of a dark desktop.
+double bandStrength(const QColor& background) {
+    return isDark(background) ? 0.35 : 1.0;
+}
 
 } // namespace
 
@@ -178,25 +186,21 @@ bool CustomTextView::leave(bool forwards) {
 }
 
 void CustomTextView::paintEvent(QPaintEvent* event) {
-    {
-        QPainter painter{viewport()};
-        drawViewBackgroundInRect(painter, event->rect());
-    }
+    drawViewBackgroundInRect(event->rect());
     QPlainTextEdit::paintEvent(event); // the text; the background is the viewport's own
 }
 
-void CustomTextView::drawViewBackgroundInRect(QPainter& painter, const QRectF& rectangle) const {
+void CustomTextView::drawViewBackgroundInRect(const QRectF& rectangle) {
     const QRectF band = highlightRectForRange(selection()).toAlignedRect();
     if (!band.intersects(rectangle)) {
         return;
     }
-    painter.save();
-    painter.setOpacity(bandColor::strength(isDark(palette().color(QPalette::Base))));
+    QPainter painter{viewport()};
+    painter.setOpacity(bandStrength(palette().color(QPalette::Base)));
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(band, toQColor(bandColor::fill));
-    painter.setPen(QPen{toQColor(bandColor::border), 1});
+    painter.fillRect(band, toQColor(bandFill));
+    painter.setPen(QPen{toQColor(bandBorder), 1});
     painter.drawRect(band.adjusted(0.5, 0.5, -0.5, -0.5));
-    painter.restore();
 }
 
 QRectF CustomTextView::highlightRectForRange(TextRange range) const {
@@ -214,30 +218,34 @@ QRectF CustomTextView::rowRectangle(std::size_t offset) const {
     return row.isValid() ? row.rect().translated(geometry.topLeft()) : geometry;
 }
 
-QRectF CustomTextView::rectangleOfRowAt(std::size_t offset) const {
+std::optional<Rect> CustomTextView::rectangleOfRowAt(std::size_t offset) const {
     const int position = static_cast<int>(std::min(offset, length()));
     const QTextBlock block = document()->findBlock(position);
     const QTextLine row = block.layout()->lineForTextPosition(position - block.position());
     // The toolkit starts no row behind NEL; the row has its number already.
-    const bool starts = row.isValid() && block.position() + row.textStart() == position;
-    return starts ? rowRectangle(offset) : QRectF{};
+    if (!row.isValid() || block.position() + row.textStart() != position) {
+        return std::nullopt;
+    }
+    const QRectF place = rowRectangle(offset);
+    return Rect{place.x(), place.y(), place.width(), place.height()};
 }
 
-QRectF CustomTextView::visibleRect() const {
-    return {-contentOffset(), viewport()->size()};
+Rect CustomTextView::visibleRect() const {
+    const QRectF shown{-contentOffset(), viewport()->size()};
+    return {shown.x(), shown.y(), shown.width(), shown.height()};
 }
 
-TextRange CustomTextView::charactersIn(const QRectF& rectangle) const {
+TextRange CustomTextView::charactersIn(const Rect& rectangle) const {
     QTextBlock block = firstVisibleBlock();
     double top = blockBoundingGeometry(block).top();
     int from = -1;
     int to = block.position();
-    for (; block.isValid() && top < rectangle.bottom(); block = block.next()) {
+    for (; block.isValid() && top < rectangle.maxY(); block = block.next()) {
         const double height = blockBoundingRect(block).height(); // lays the block out
         for (int i = 0; i < block.layout()->lineCount(); ++i) {
             const QTextLine row = block.layout()->lineAt(i);
             const QRectF place = row.rect().translated(0, top);
-            if (place.bottom() > rectangle.top() && place.top() < rectangle.bottom()) {
+            if (place.bottom() > rectangle.y && place.top() < rectangle.maxY()) {
                 from = from < 0 ? block.position() + row.textStart() : from;
                 to = block.position() + row.textStart() + row.textLength() +
                      (i + 1 == block.layout()->lineCount() ? 1 : 0); // with the end of the line

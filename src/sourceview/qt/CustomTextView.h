@@ -2,6 +2,7 @@
 
 #include "foundation/TextRange.h"
 #include "sourceview/LongLineWatch.h"
+#include "sourceview/TextLayout.h"
 #include "sourceview/TextMirror.h"
 
 #include <QPlainTextEdit>
@@ -19,7 +20,7 @@ namespace tessaly {
 /// What the program writes into the view is no undo step: it ends the undo history instead, since the toolkit
 /// has no edit that bypasses it. Long lines wrap at the view's width while none is longer than
 /// `LongLineWatch::longestWrapped`.
-class CustomTextView : public QPlainTextEdit {
+class CustomTextView : public QPlainTextEdit, public TextLayout {
     Q_OBJECT
 
   public:
@@ -45,15 +46,9 @@ class CustomTextView : public QPlainTextEdit {
     /// range touches.
     QRectF highlightRectForRange(TextRange range) const;
 
-    /// The rectangle of the laid-out row that starts at that offset, in the coordinates of the text; null
-    /// when it is not laid out yet or no row starts there.
-    QRectF rectangleOfRowAt(std::size_t offset) const;
-
-    /// The part of the text that is shown, in the coordinates of the text.
-    QRectF visibleRect() const;
-
-    /// The characters of the rows that the rectangle touches, looked for from the first visible line on.
-    TextRange charactersIn(const QRectF& rectangle) const;
+    std::optional<Rect> rectangleOfRowAt(std::size_t offset) const override;
+    TextRange charactersIn(const Rect& rectangle) const override;
+    Rect visibleRect() const override;
 
     /// Places a ruler `width` points wide at the left of the text, on the text's background.
     void setVerticalRuler(QWidget* ruler, int width);
@@ -82,7 +77,7 @@ class CustomTextView : public QPlainTextEdit {
     bool leave(bool forwards);
     QString rawText(std::size_t position, std::size_t length) const;
     QRectF rowRectangle(std::size_t offset) const;
-    void drawViewBackgroundInRect(QPainter& painter, const QRectF& rectangle) const;
+    void drawViewBackgroundInRect(const QRectF& rectangle);
 
     TextMirror mirror_;
     LongLineWatch longLines_;

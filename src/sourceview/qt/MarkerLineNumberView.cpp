@@ -2,8 +2,6 @@
 
 #include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
-#include "sourceview/GutterColors.h"
-#include "sourceview/MarkerShape.h"
 #include "sourceview/qt/CustomTextView.h"
 
 #include <QApplication>
@@ -16,28 +14,53 @@
 namespace tessaly {
 namespace {
 
-// A quarter of a circle, counter-clockwise where y runs upwards. The path counts angles as if y ran
-// downwards.
-void addCorner(QPainterPath& path, Point center, double startDegrees) {
-    constexpr double radius = MarkerShape::cornerRadius;
-    path.arcTo(center.x - radius, center.y - radius, 2 * radius, 2 * radius, -startDegrees, -90);
+// The gutter's own colours, the same on a light and on a dark desktop.
+constexpr RGBAComponents textColor{0.42, 0.42, 0.42, 1.0};
+constexpr RGBAComponents alternateTextColor{1.0, 1.0, 1.0, 1.0};
+constexpr RGBAComponents markerFill{0.003, 0.56, 0.85, 1.0};
+constexpr RGBAComponents markerStroke{0.0, 0.44, 0.8, 1.0};
+constexpr double markerLineWidth = 2.0;
+constexpr double markerHeight = 13.0;
+
+// The marker of a line: a tag that points right, its left corners rounded. y runs upwards, where the path,
+// which counts angles as if it ran downwards, goes counter-clockwise.
+QPainterPath markerPath(double width, double height) {
+    constexpr double radius = 3.0;
+    QPainterPath tag{{width - 1, 2 + (height - 3) / 2}};
+    const auto addCorner = [&](double x, double y, double startDegrees) {
+        tag.arcTo(x - radius, y - radius, 2 * radius, 2 * radius, -startDegrees, -90);
+    };
+    tag.lineTo(width - 6, height - 1);
+    addCorner(4, height - 4, 90);
+    addCorner(4, 5, 180);
+    tag.lineTo(width - 6, 2);
+    tag.closeSubpath();
+    return tag;
 }
 
 void drawMarker(QPainter& painter, const Rect& place) {
-    const MarkerShape shape{Size{place.width, place.height}};
-    QPainterPath tag{{shape.tip.x, shape.tip.y}};
-    tag.lineTo(shape.upperEdge.x, shape.upperEdge.y);
-    addCorner(tag, shape.upperCorner, 90);
-    addCorner(tag, shape.lowerCorner, 180);
-    tag.lineTo(shape.lowerEdge.x, shape.lowerEdge.y);
-    tag.closeSubpath();
+    const QPainterPath tag = markerPath(place.width, place.height);
     painter.save();
     painter.translate(place.x, place.maxY());
     painter.scale(1, -1);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(tag, toQColor(MarkerShape::fill));
-    painter.strokePath(tag, QPen{toQColor(MarkerShape::stroke), MarkerShape::lineWidth});
+    painter.fillPath(tag, toQColor(markerFill));
+    painter.strokePath(tag, QPen{toQColor(markerStroke), markerLineWidth});
     painter.restore();
+}
+
+// The platform's small label font.
+QFont labelFont() {
+    constexpr double miniSize = 0.85;
+    QFont small = QApplication::font();
+    small.setPointSizeF(QFontInfo{small}.pointSizeF() * miniSize);
+    return small;
+}
+
+gutter::Measure labelMeasure() {
+    return [metrics = QFontMetricsF{labelFont()}](const std::string& label) {
+        return Size{metrics.horizontalAdvance(toQString(label)), metrics.height()};
+    };
 }
 
 } // namespace
@@ -49,14 +72,6 @@ MarkerLineNumberView::MarkerLineNumberView(CustomTextView& textView)
     connect(&textView_, &QPlainTextEdit::textChanged, this, &MarkerLineNumberView::textDidChange);
     connect(&textView_, &QPlainTextEdit::updateRequest, this, &MarkerLineNumberView::redrawWithText);
     setRuleThickness();
-}
-
-// The platform's small label font.
-QFont MarkerLineNumberView::labelFont() {
-    constexpr double miniSize = 0.85;
-    QFont small = QApplication::font();
-    small.setPointSizeF(QFontInfo{small}.pointSizeF() * miniSize);
-    return small;
 }
 
 void MarkerLineNumberView::setRuleThickness() {
@@ -82,8 +97,8 @@ const LineIndices& MarkerLineNumberView::lineIndices() {
 }
 
 double MarkerLineNumberView::requiredThickness() const {
-    return GutterLayout{textLayout(), lineIndices_ ? *lineIndices_ : LineIndices{textView_.text()}}
-        .requiredThickness();
+    return gutter::requiredThickness(lineIndices_ ? *lineIndices_ : LineIndices{textView_.text()},
+                                     labelMeasure());
 }
 
 void MarkerLineNumberView::setMarkers(const std::set<std::uint32_t>& lines) {
@@ -105,17 +120,13 @@ void MarkerLineNumberView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     const QFont font = labelFont();
     const double ascent = QFontMetricsF{font}.ascent();
-    const CodeTextLayout layout = textLayout();
-    const auto isMarked = [this](std::size_t line) {
-        return markedLines_.contains(static_cast<std::uint32_t>(line + 1));
-    };
     painter.setFont(font);
-    for (const GutterLabel& label : GutterLayout{layout, lineIndices()}.labels(width(), isMarked)) {
-        if (label.marked) {
-            drawMarker(painter,
-                       GutterLayout::markerRect(label, width(), {ruleThickness_, MarkerShape::height}));
+    for (const GutterLabel& label : gutter::labels(textView_, lineIndices(), width(), labelMeasure())) {
+        const bool isMarked = markedLines_.contains(static_cast<std::uint32_t>(label.line + 1));
+        if (isMarked) {
+            drawMarker(painter, gutter::markerRect(label, width(), {ruleThickness_, markerHeight}));
         }
-        painter.setPen(toQColor(label.marked ? gutterColor::alternateText : gutterColor::text));
+        painter.setPen(toQColor(isMarked ? alternateTextColor : textColor));
         painter.drawText(QPointF{label.rectangle.x, label.rectangle.y + ascent}, toQString(label.text));
     }
 }

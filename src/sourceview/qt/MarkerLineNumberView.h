@@ -2,7 +2,6 @@
 
 #include "sourceview/GutterLayout.h"
 #include "sourceview/LineIndices.h"
-#include "sourceview/qt/CodeTextLayout.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -36,9 +35,6 @@ class MarkerLineNumberView : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
-    static QFont labelFont();
-
-    CodeTextLayout textLayout() const { return {textView_, labelFont()}; }
     const LineIndices& lineIndices();
     void textDidChange();
     void setRuleThickness();
