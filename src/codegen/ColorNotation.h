@@ -9,12 +9,10 @@
 /// A stop colour as CSS text.
 namespace tessaly::colorNotation {
 
-/// "#rrggbb" in lower case; none for a colour without RGB form.
-std::optional<std::string> hexadecimalText(const Color& color);
-
-/// In a notation (ColorFormat.h); none for an unknown code. Only some notations write `opacity`, 0.0 ... 1.0,
-/// with one digit. A full channel reads 256 in RGB and RGBA, deliberately, where the hexadecimal form has ff.
-/// All but that one write a colour without RGB form with zero channels.
+/// In a notation (ColorFormat.h); none for an unknown code, nor in hexadecimal for a colour without RGB form.
+/// Only some notations write `opacity`, 0.0 ... 1.0, with one digit. A full channel reads 256 in RGB and
+/// RGBA, deliberately, where the hexadecimal form has ff. The other notations write a colour without RGB form
+/// with zero channels.
 std::optional<std::string> colorText(std::int64_t notation, const Color& color, double opacity);
 
 } // namespace tessaly::colorNotation

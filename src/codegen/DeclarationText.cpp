@@ -1,7 +1,6 @@
 #include "codegen/DeclarationText.h"
 
 #include "codegen/ColorNotation.h"
-#include "codegen/GradientDialect.h"
 #include "foundation/NumberText.h"
 #include "model/ColorFormat.h"
 #include "model/Gradient.h"
@@ -14,83 +13,91 @@ namespace {
 constexpr std::string_view null = "(null)";
 constexpr std::string_view stopSeparator = ", \n";
 
-using StopSyntax = GradientDialect::StopSyntax;
+/// How a browser family writes a gradient.
+struct GradientDialect {
+    std::string_view linearFunction;
+    std::string_view radialFunction;
+    std::array<std::string_view, 5> phrases; ///< by orientation code
+    bool hasColorStops = false;              ///< color-stop(0%,#000000) in place of #000000 0%
+};
 
-void appendStop(std::string& list, StopSyntax syntax, std::string_view color, std::string_view percent) {
-    list += "\t\t\t\t";
-    if (syntax == StopSyntax::ColorStop) {
-        list.append("color-stop(").append(percent).append("%,").append(color).append(")");
-    } else {
-        list.append(color).append(" ").append(percent).append("%");
-    }
-    list += stopSeparator;
+// The legacy phrases name the side that the gradient starts from, and the prefixed forms measure angles the
+// legacy way: the standard -45deg is their 135deg.
+constexpr std::array<std::string_view, 5> legacyPhrases{"bottom", "left", "45deg", "135deg",
+                                                        "center, ellipse cover"};
+
+// In the order of the declarations, from the standard one on.
+constexpr std::array dialects{
+    GradientDialect{
+        "linear-gradient", "radial-gradient", {"to top", "to right", "45deg", "-45deg", "ellipse at center"}},
+    GradientDialect{"-moz-linear-gradient", "-moz-radial-gradient", legacyPhrases},
+    GradientDialect{"-webkit-gradient",
+                    "-webkit-gradient",
+                    {"linear, left bottom, left top", "linear, left top, right top",
+                     "linear, left bottom, right top", "linear, right bottom, left top",
+                     "radial, center center, 0px, center center, 100%"},
+                    true},
+    GradientDialect{"-webkit-linear-gradient", "-webkit-radial-gradient", legacyPhrases},
+    GradientDialect{"-o-linear-gradient", "-o-radial-gradient", legacyPhrases},
+    GradientDialect{"-ms-linear-gradient", "-ms-radial-gradient", legacyPhrases},
+};
+
+std::string colorOf(const ColorStop& stop, std::int64_t notation) {
+    return colorNotation::colorText(notation, stop.color, stop.opacity).value_or(std::string{null});
 }
 
 // The stops in array order, a line each; never sorted. Only called with at least one stop.
-std::string stopList(StopSyntax syntax, const Gradient& gradient, std::int64_t notation) {
+std::string stopList(const GradientDialect& dialect, const Gradient& gradient, std::int64_t notation) {
     if (!colorFormat::isKnown(notation)) {
         return std::string{null};
     }
     std::string list = "\n";
     for (const ColorStop& stop : gradient.stops()) {
-        const auto color = colorNotation::colorText(notation, stop.color, stop.opacity);
-        appendStop(list, syntax, color ? std::string_view{*color} : null, percentText(stop.position));
+        const std::string color = colorOf(stop, notation);
+        const std::string percent = percentText(stop.position) + '%';
+        list += "\t\t\t\t";
+        if (dialect.hasColorStops) {
+            list.append("color-stop(").append(percent).append(",").append(color).append(")");
+        } else {
+            list.append(color).append(" ").append(percent);
+        }
+        list += stopSeparator;
     }
     list.resize(list.size() - stopSeparator.size());
     return list;
 }
 
-std::string_view phraseFor(const GradientDialect& dialect, std::int64_t orientation) {
-    const bool known = orientation >= 0 && orientation < std::ssize(dialect.phrases);
-    return known ? dialect.phrases[static_cast<std::size_t>(orientation)] : null;
-}
-
-template <const GradientDialect& dialect>
-std::string gradientDeclaration(const Gradient& gradient, std::int64_t notation) {
+std::string gradientDeclaration(const GradientDialect& dialect, const Gradient& gradient,
+                                std::int64_t notation) {
     const std::int64_t orientation = gradient.orientation();
+    const bool isKnown = orientation >= 0 && orientation < std::ssize(dialect.phrases);
     std::string text = "\tbackground: ";
     text += orientation == orientation::radial ? dialect.radialFunction : dialect.linearFunction;
-    text.append("(").append(phraseFor(dialect, orientation)).append(", ");
-    text.append(stopList(dialect.stopSyntax, gradient, notation)).append(");\n");
-    return text;
-}
-
-std::string plainColorDeclaration(const Gradient& gradient, std::int64_t notation) {
-    const ColorStop& first = gradient.stops().front();
-    const auto color = colorNotation::colorText(notation, first.color, first.opacity);
-    return "\tbackground: " + color.value_or(std::string{null}) + ";\n";
+    text.append("(").append(isKnown ? dialect.phrases[static_cast<std::size_t>(orientation)] : null);
+    return text.append(", ").append(stopList(dialect, gradient, notation)).append(");\n");
 }
 
 // Always hexadecimal and always horizontal, whatever the gradient: deliberate, the filter knows no more.
-std::string filterDeclaration(const Gradient& gradient, std::int64_t /*notation*/) {
-    const auto hexadecimal = [](const ColorStop& stop) {
-        return colorNotation::hexadecimalText(stop.color).value_or(std::string{null});
-    };
+std::string filterDeclaration(const Gradient& gradient) {
     return "\tfilter: progid:DXImageTransform.Microsoft.gradient(\n\t\tstartColorstr='" +
-           hexadecimal(gradient.stops().front()) + "',\n\t\tendColorstr='" +
-           hexadecimal(gradient.stops().back()) + "',GradientType=1 );\n";
+           colorOf(gradient.stops().front(), colorFormat::hexadecimal) + "',\n\t\tendColorstr='" +
+           colorOf(gradient.stops().back(), colorFormat::hexadecimal) + "',GradientType=1 );\n";
 }
-
-using Generator = std::string (*)(const Gradient& gradient, std::int64_t notation);
-
-// In the order of the declarations.
-constexpr std::array generators{
-    Generator{plainColorDeclaration},
-    Generator{gradientDeclaration<dialect::standard>},
-    Generator{gradientDeclaration<dialect::moz>},
-    Generator{gradientDeclaration<dialect::oldWebKit>},
-    Generator{gradientDeclaration<dialect::newWebKit>},
-    Generator{gradientDeclaration<dialect::opera>},
-    Generator{gradientDeclaration<dialect::ie>},
-    Generator{filterDeclaration},
-};
-static_assert(generators.size() == declarationCount);
 
 } // namespace
 
 std::string declarationText(Declaration declaration, const Gradient& gradient, std::int64_t notation) {
-    return gradient.stops().empty() ? std::string{}
-                                    : generators[static_cast<std::size_t>(declaration)](gradient, notation);
+    if (gradient.stops().empty()) {
+        return {};
+    }
+    switch (declaration) {
+    case Declaration::Old:
+        return "\tbackground: " + colorOf(gradient.stops().front(), notation) + ";\n";
+    case Declaration::MSFilter:
+        return filterDeclaration(gradient);
+    default:
+        return gradientDeclaration(dialects[static_cast<std::size_t>(declaration) - 1], gradient, notation);
+    }
 }
 
 } // namespace tessaly

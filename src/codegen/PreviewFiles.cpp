@@ -17,11 +17,11 @@ PreviewFiles::PreviewFiles(const CodeText& page, const CodeText& stylesheet, Web
       temporaryDirectory_{std::move(temporaryDirectory)} {}
 
 void PreviewFiles::createHTMLIndexFile() {
-    std::optional<PreviewFolder> folder = PreviewFolder::create(temporaryDirectory_);
-    if (!folder) {
+    std::unique_ptr<PreviewFolder> folder = PreviewFolder::create(temporaryDirectory_);
+    if (folder == nullptr) {
         return;
     }
-    folder_ = std::move(folder);
+    folder_.swap(folder); // the one from before goes at the end
     const std::filesystem::path htmlPath = folder_->path() / PreviewFolder::pageName;
     folder_->write(PreviewFolder::pageName, toUtf8(page_.text()));
     writeStylesheet();

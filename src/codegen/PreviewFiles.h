@@ -4,6 +4,7 @@
 #include "foundation/FileState.h"
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 
 namespace tessaly {
@@ -36,7 +37,7 @@ class PreviewFiles {
     const CodeText& stylesheet_;
     WebView& webView_;
     std::filesystem::path temporaryDirectory_;
-    std::optional<PreviewFolder> folder_;
+    std::unique_ptr<PreviewFolder> folder_;
     std::optional<FileState> written_; ///< the stylesheet's file
 };
 

@@ -7,7 +7,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace tessaly {
 namespace {
@@ -18,10 +17,10 @@ void logFailure(const std::string& what, const std::filesystem::path& path, std:
 
 } // namespace
 
-std::optional<PreviewFolder> PreviewFolder::create(const std::filesystem::path& temporaryDirectory) {
+std::unique_ptr<PreviewFolder> PreviewFolder::create(const std::filesystem::path& temporaryDirectory) {
     if (temporaryDirectory.is_relative()) {
         DiagnosticLog::write("No preview folder: no absolute path: " + temporaryDirectory.native());
-        return std::nullopt;
+        return nullptr;
     }
     // Making a folder fails where anything of that name exists, which is the test and the claim in one step.
     for (int number = 0;; ++number) {
@@ -29,7 +28,7 @@ std::optional<PreviewFolder> PreviewFolder::create(const std::filesystem::path& 
         if (::mkdir(place.c_str(), S_IRWXU) == 0) {
             Descriptor folder{::open(place.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
             if (folder) {
-                return PreviewFolder{std::move(place), std::move(folder)};
+                return std::unique_ptr<PreviewFolder>{new PreviewFolder{std::move(place), std::move(folder)}};
             }
             const int error = errno;
             ::rmdir(place.c_str());
@@ -37,19 +36,13 @@ std::optional<PreviewFolder> PreviewFolder::create(const std::filesystem::path& 
         }
         if (errno != EEXIST) {
             logFailure("No preview folder", place, {errno, std::generic_category()});
-            return std::nullopt;
+            return nullptr;
         }
     }
 }
 
-PreviewFolder& PreviewFolder::operator=(PreviewFolder&& other) noexcept {
-    std::swap(path_, other.path_); // the folder held before ends with `other`
-    std::swap(folder_, other.folder_);
-    return *this;
-}
-
 PreviewFolder::~PreviewFolder() {
-    if (folder_ && isAtItsPath()) {
+    if (isAtItsPath()) {
         // What cannot be removed is the user's, or the system's to clear away.
         ::unlinkat(folder_.number(), pageName, 0);
         ::unlinkat(folder_.number(), stylesheetName, 0);
@@ -57,8 +50,8 @@ PreviewFolder::~PreviewFolder() {
     }
 }
 
-bool PreviewFolder::hasPage() const {
-    return ::faccessat(folder_.number(), pageName, F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+bool PreviewFolder::isInPlace() const {
+    return isAtItsPath() && ::faccessat(folder_.number(), pageName, F_OK, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 bool PreviewFolder::isAtItsPath() const {

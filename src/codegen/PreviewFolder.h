@@ -4,9 +4,11 @@
 #include "foundation/FileState.h"
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tessaly {
 
@@ -21,10 +23,8 @@ class PreviewFolder {
 
     /// Makes the folder under `temporaryDirectory`; none when that cannot be done, with the reason in the
     /// log.
-    static std::optional<PreviewFolder> create(const std::filesystem::path& temporaryDirectory);
+    static std::unique_ptr<PreviewFolder> create(const std::filesystem::path& temporaryDirectory);
 
-    PreviewFolder(PreviewFolder&& other) noexcept = default;
-    PreviewFolder& operator=(PreviewFolder&& other) noexcept;
     PreviewFolder(const PreviewFolder&) = delete;
     PreviewFolder& operator=(const PreviewFolder&) = delete;
     ~PreviewFolder();
@@ -32,7 +32,7 @@ class PreviewFolder {
     const std::filesystem::path& path() const { return path_; }
 
     /// Whether the folder is still what is found at its path, with the page in it.
-    bool isInPlace() const { return isAtItsPath() && hasPage(); }
+    bool isInPlace() const;
 
     /// Of one of the two files; none when it is missing.
     std::optional<FileState> stateOf(const std::string& name) const;
@@ -45,10 +45,9 @@ class PreviewFolder {
         : path_{std::move(path)}, folder_{std::move(folder)} {}
 
     bool isAtItsPath() const;
-    bool hasPage() const;
 
     std::filesystem::path path_;
-    Descriptor folder_; ///< none once moved from
+    Descriptor folder_;
 };
 
 } // namespace tessaly

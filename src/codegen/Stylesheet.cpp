@@ -1,7 +1,7 @@
 #include "codegen/Stylesheet.h"
 
 #include "codegen/CodeText.h"
-#include "codegen/StylesheetText.h"
+#include "codegen/DeclarationText.h"
 #include "foundation/DiagnosticLog.h"
 
 #include <algorithm>
@@ -11,6 +11,36 @@
 
 namespace tessaly {
 namespace {
+
+constexpr std::string_view opening = ".gradient {\n\theight: 236px;\n";
+constexpr std::string_view closing = "}\n";
+
+PerDeclaration<std::string> declarationTexts(const Gradient& gradient, std::int64_t notation) {
+    PerDeclaration<std::string> texts;
+    for (const Declaration declaration : allDeclarations) {
+        texts[declaration] = declarationText(declaration, gradient, notation);
+    }
+    return texts;
+}
+
+// Where an offset lies once `removed` units at `position` are gone.
+std::size_t afterRemoval(std::size_t offset, std::size_t position, std::size_t removed) {
+    return offset <= position ? offset : std::max(position, offset - std::min(offset, removed));
+}
+
+// What appears at an edge of a declaration is outside of it; what is cut out of one, or typed into it,
+// changes its length.
+TextRange followed(TextRange range, const TextEdit& edit) {
+    std::size_t start = afterRemoval(range.location, edit.position, edit.removed);
+    std::size_t end = afterRemoval(range.end(), edit.position, edit.removed);
+    if (edit.position <= start) {
+        start += edit.added;
+        end += edit.added;
+    } else if (edit.position < end) {
+        end += edit.added;
+    }
+    return {start, end - start};
+}
 
 TextRange within(TextRange range, std::size_t textLength) {
     const std::size_t location = std::min(range.location, textLength);
@@ -39,13 +69,13 @@ constexpr std::hash<std::u16string_view> hashOf;
 
 void Stylesheet::insertCSS3Code(const Gradient& gradient, std::int64_t notation) {
     texts_ = declarationTexts(gradient, notation);
-    view_.replaceCharacters({0, view_.text().size()}, stylesheetText(texts_));
-    DiagnosticLog::write("backgroundColorOldText: " + texts_[Declaration::Old]);
-    std::size_t location = stylesheetOpening.size();
+    std::string text{opening};
     for (const Declaration declaration : allDeclarations) {
-        ranges_.place(declaration, {location, texts_[declaration].size()});
-        location = ranges_[declaration].end();
+        ranges_[declaration] = {text.size(), texts_[declaration].size()};
+        text += texts_[declaration];
     }
+    view_.replaceCharacters({0, view_.text().size()}, text.append(closing));
+    DiagnosticLog::write("backgroundColorOldText: " + texts_[Declaration::Old]);
     written(gradient, notation);
 }
 
@@ -54,12 +84,17 @@ bool Stylesheet::update(const Gradient& gradient, std::int64_t notation) {
         return false;
     }
     texts_ = declarationTexts(gradient, notation);
+    std::size_t removed = 0; // in front of the declaration that is rewritten
+    std::size_t added = 0;
     for (const Declaration declaration : allDeclarations) {
+        const std::string& text = texts_[declaration];
+        TextRange& range = ranges_[declaration];
         // The recorded range is cut to the text, whatever happened to it behind our back.
-        const TextRange range = within(ranges_[declaration], view_.text().size());
-        ranges_.place(declaration, range);
-        view_.replaceCharacters(range, texts_[declaration]);
-        ranges_.resize(declaration, texts_[declaration].size());
+        range = within({range.location - removed + added, range.length}, view_.text().size());
+        view_.replaceCharacters(range, text);
+        removed += range.length;
+        added += text.size();
+        range.length = text.size();
     }
     written(gradient, notation);
     return true;
@@ -75,7 +110,9 @@ void Stylesheet::edited(const TextEdit& edit) {
     written_.reset();
     const std::u16string_view text = view_.text();
     const DeclarationRanges before = ranges_;
-    ranges_.follow(edit);
+    for (const Declaration declaration : allDeclarations) {
+        ranges_[declaration] = followed(before[declaration], edit);
+    }
     const auto [known, isNew] = rangesOfTexts_.try_emplace(hashOf(text), ranges_);
     if (!isNew) {
         ranges_ = known->second; // an undo or a redo has brought the text back
@@ -95,7 +132,7 @@ void Stylesheet::edited(const TextEdit& edit) {
 void Stylesheet::keepLineFeedsApart(const DeclarationRanges& before, std::size_t typedAt) {
     for (const Declaration declaration : allDeclarations) {
         if (before[declaration].length > 0 && before[declaration].end() == typedAt + 1) {
-            ranges_.place(declaration, before[declaration]);
+            ranges_[declaration] = before[declaration];
         }
     }
 }
@@ -115,7 +152,7 @@ void Stylesheet::findDeclarations(const DeclarationRanges& before, const TextEdi
     const std::size_t limit = last == allDeclarations.end() ? view_.text().size() : ranges_[*last].location;
     std::size_t from = first == allDeclarations.begin() ? 0 : ranges_[*std::prev(first)].end();
     for (const Declaration declaration : std::span{first, last}) {
-        ranges_.place(declaration, found(declaration, before[declaration], edit, {from, limit - from}));
+        ranges_[declaration] = found(declaration, before[declaration], edit, {from, limit - from});
         from = ranges_[declaration].end();
     }
 }
@@ -124,14 +161,14 @@ void Stylesheet::findDeclarations(const DeclarationRanges& before, const TextEdi
 TextRange Stylesheet::found(Declaration declaration, const TextRange& before, const TextEdit& edit,
                             TextRange room) const {
     const std::u16string own{texts_[declaration].begin(), texts_[declaration].end()};
-    const TextRange followed = startingFrom(ranges_[declaration], room.location);
+    const TextRange likely = startingFrom(ranges_[declaration], room.location);
     const bool wasInside = edit.position < before.location && before.location < edit.position + edit.removed;
     // The edit can have moved only what now stands in it or reaches into it.
     const std::size_t start = std::max(room.location, edit.position - std::min(edit.position, own.size()));
     const std::size_t end = std::min(room.end(), edit.position + edit.added + own.size());
     const TextRange found = find(own, view_.text().substr(0, end),
-                                 std::max(wasInside ? before.location : followed.location, start), start);
-    return found.length > 0 ? found : followed;
+                                 std::max(wasInside ? before.location : likely.location, start), start);
+    return found.length > 0 ? found : likely;
 }
 
 } // namespace tessaly

@@ -1,19 +1,23 @@
 #pragma once
 
-#include "codegen/DeclarationRanges.h"
+#include "codegen/Declaration.h"
 #include "foundation/TextEdit.h"
+#include "foundation/TextRange.h"
 #include "model/Gradient.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 
 namespace tessaly {
 
 class CodeText;
+
+/// Where each declaration lies in the stylesheet text. The ranges keep their order and never overlap; between
+/// them may stand what the user typed there.
+using DeclarationRanges = PerDeclaration<TextRange>;
 
 /// Keeps the stylesheet in its code view current: writes it once whole, and from then on rewrites it
 /// declaration by declaration, in place, whatever the user types, deletes and drags between them.

@@ -26,33 +26,25 @@ void provideShareContext() {
 
 } // namespace
 
-QString PreviewModuleFile::installedPath() {
+QString installedPreviewModule() {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +
                            QStringLiteral("/../" TESSALY_MODULES "/preview.so"));
 }
 
-PreviewModule* PreviewModuleFile::load() {
-    if (!QFile::exists(path_)) {
-        failure_ = QCoreApplication::translate("Preview", "%1 is missing").arg(path_);
-        return nullptr;
+LoadedPreviewModule loadPreviewModule(const QString& path) {
+    if (!QFile::exists(path)) {
+        return {nullptr, QCoreApplication::translate("Preview", "%1 is missing").arg(path)};
     }
-    QPluginLoader loader{path_};
+    QPluginLoader loader{path};
     loader.setLoadHints(QLibrary::PreventUnloadHint);
-    const QString version = loader.metaData()
-                                .value(QStringLiteral("MetaData"))
-                                .toObject()
-                                .value(QStringLiteral("version"))
-                                .toString();
-    if (version != QStringLiteral(TESSALY_VERSION)) {
-        failure_ = QCoreApplication::translate("Preview", "%1 is not of this program's version").arg(path_);
-        return nullptr;
+    const QJsonObject told = loader.metaData().value(QStringLiteral("MetaData")).toObject();
+    if (told.value(QStringLiteral("version")) != QStringLiteral(TESSALY_VERSION)) {
+        return {nullptr,
+                QCoreApplication::translate("Preview", "%1 is not of this program's version").arg(path)};
     }
     provideShareContext();
     QObject* const instance = loader.instance();
-    if (instance == nullptr) {
-        failure_ = loader.errorString();
-    }
-    return qobject_cast<PreviewModule*>(instance);
+    return {qobject_cast<PreviewModule*>(instance), instance == nullptr ? loader.errorString() : QString{}};
 }
 
 } // namespace tessaly

@@ -6,23 +6,16 @@
 
 namespace tessaly {
 
-/// The file of the engine's module: found beside the program, loaded on demand and kept for the rest of the
-/// run.
-class PreviewModuleFile {
-  public:
-    /// Where the program was installed or built, whatever folder it is started from.
-    static QString installedPath();
-
-    explicit PreviewModuleFile(QString path) : path_{std::move(path)} {}
-
-    /// Null when there is none that fits this program; `failure` then says why, in one line.
-    PreviewModule* load();
-
-    const QString& failure() const { return failure_; }
-
-  private:
-    QString path_;
-    QString failure_;
+/// The engine's module, or why there is none.
+struct LoadedPreviewModule {
+    PreviewModule* module = nullptr; ///< kept for the rest of the run; null when none fits this program
+    QString failure;                 ///< in one line
 };
+
+/// Where the module's file was installed or built, beside the program and whatever folder that is started
+/// from.
+QString installedPreviewModule();
+
+LoadedPreviewModule loadPreviewModule(const QString& path);
 
 } // namespace tessaly

@@ -12,7 +12,7 @@ namespace tessaly {
 using Clock = std::chrono::steady_clock;
 
 WebPreviewView::WebPreviewView(const QString& module, QWidget* parent)
-    : QWidget{parent}, moduleFile_{module}, layers_{new QGridLayout{this}}, cover_{new QLabel} {
+    : QWidget{parent}, modulePath_{module}, layers_{new QGridLayout{this}}, cover_{new QLabel} {
     setAccessibleName(tr("Web preview"));
     cover_->setAutoFillBackground(true);
     cover_->setBackgroundRole(QPalette::Base);
@@ -58,10 +58,11 @@ void WebPreviewView::showEvent(QShowEvent* event) {
 }
 
 void WebPreviewView::loadModule() {
-    module_ = moduleFile_.load();
+    const auto [module, failure] = loadPreviewModule(modulePath_);
+    module_ = module;
     if (module_ == nullptr) {
-        DiagnosticLog::write("No web preview: " + moduleFile_.failure().toStdString());
-        cover(tr("There is no preview: %1.").arg(moduleFile_.failure()));
+        DiagnosticLog::write("No web preview: " + failure.toStdString());
+        cover(tr("There is no preview: %1.").arg(failure));
     }
     proceed();
 }

@@ -24,8 +24,7 @@ class WebPreviewView : public QWidget, public WebView {
 
   public:
     /// `module` is the file of the engine's module.
-    explicit WebPreviewView(const QString& module = PreviewModuleFile::installedPath(),
-                            QWidget* parent = nullptr);
+    explicit WebPreviewView(const QString& module = installedPreviewModule(), QWidget* parent = nullptr);
     WebPreviewView(const WebPreviewView&) = delete;
     WebPreviewView& operator=(const WebPreviewView&) = delete;
     ~WebPreviewView() override;
@@ -46,7 +45,7 @@ class WebPreviewView : public QWidget, public WebView {
     void engineEnded();
     void cover(const QString& why = {});
 
-    PreviewModuleFile moduleFile_;
+    QString modulePath_;
     PreviewModule* module_ = nullptr;
     QUrl url_;
     PreviewOrders orders_;

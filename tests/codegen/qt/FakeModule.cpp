@@ -12,14 +12,16 @@ class FakeEngine : public QWidget, public PreviewEngine {
     Q_OBJECT
 
   public:
-    FakeEngine(QWidget& parent, Events events) : QWidget{&parent}, events_{std::move(events)} {}
+    FakeEngine(QWidget& parent, Events events) : QWidget{&parent}, events_{std::move(events)} {
+        setObjectName(QStringLiteral("engine"));
+    }
 
     void load(const QUrl& page, int order) override { add(QStringLiteral("load ") + page.fileName(), order); }
     void renewStylesheet(int order) override { add(QStringLiteral("renew"), order); }
     QWidget& widget() override { return *this; }
 
     /// Of the last order, or so many before it.
-    Q_INVOKABLE void finish(bool sound) { events_.finished(order_, sound); }
+    Q_INVOKABLE void finish(bool sound, int before) { events_.finished(order_ - before, sound); }
     Q_INVOKABLE void paint(int before) { events_.painted(order_ - before); }
     Q_INVOKABLE void end() { events_.ended(); }
 
