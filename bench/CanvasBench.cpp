@@ -4,6 +4,7 @@
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
 #include "presets/qt/PresetGradienContainerView.h"
+#include "support/NoHistory.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
 
@@ -28,7 +29,8 @@ void createBackground(benchmark::State& state) {
     StopControlPanel panel;
     CanvasView canvas;
     GlobalData record;
-    GradientEditor editor{record, canvas.geometry(), canvas, panel.controlSet()};
+    NoHistory history;
+    GradientEditor editor{record, history, canvas.geometry(), canvas, panel.controlSet()};
     canvas.edit(editor);
     editor.awakeFromNib();
     record.gradient = gradientOf(state.range(0), 10);

@@ -1,6 +1,8 @@
 #include "app/MainWindow.h"
 
 #include "app/CopyButton.h"
+#include "app/MainMenu.h"
+#include "app/MessageLine.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
 #include "chrome/ProductInfo.h"
@@ -10,9 +12,7 @@
 #include "presets/qt/PresetPanel.h"
 #include "sourceview/qt/SourceView.h"
 
-#include <QAction>
 #include <QHBoxLayout>
-#include <QKeySequence>
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
@@ -30,7 +30,8 @@ constexpr QSize frame{16, 40}; // what a desktop's window borders and title take
 
 MainWindow::MainWindow(QWidget* parent)
     : QWidget{parent},
-      views_{new StopControlPanel,
+      views_{new MainMenu,
+             new StopControlPanel,
              new CanvasView,
              new PresetPanel,
              new MainTabView{{tr("CSS 3"), tr("HTML"), tr("Web Preview")}},
@@ -39,16 +40,12 @@ MainWindow::MainWindow(QWidget* parent)
              new SourceView{tr("CSS code")},
              new SourceView{tr("HTML code")},
              new WebPreviewView,
-             new QPushButton{tr("&About")},
-             new QPushButton{tr("Ho&mepage")},
-             new QPushButton{tr("R&elated Applications")}} {
+             new QPushButton{tr("About")},
+             new QPushButton{tr("Homepage")},
+             new QPushButton{tr("Related Applications")},
+             new MessageLine} {
     setWindowTitle(toQString(product::name));
     layOut();
-    auto* const quit = new QAction{this};
-    quit->setShortcut(QKeySequence{Qt::CTRL | Qt::Key_Q});
-    quit->setShortcutContext(Qt::ApplicationShortcut); // in the colour dialog too
-    connect(quit, &QAction::triggered, this, &QWidget::close);
-    addAction(quit);
     resize(startSize.boundedTo(room()));
 }
 
@@ -76,10 +73,13 @@ void MainWindow::layOut() {
     top->addLayout(side, 1);
 
     auto* const whole = new QVBoxLayout{this};
-    whole->setContentsMargins(margin, margin, margin, margin);
-    whole->setSpacing(margin);
+    whole->setMenuBar(views_.menu);
+    whole->setContentsMargins(margin, margin, margin, 0);
+    whole->setSpacing(0);
     whole->addLayout(top);
+    whole->addSpacing(margin);
     whole->addLayout(codeArea(), 1);
+    whole->addWidget(views_.message);                 // in place of the lower margin
     if (minimumSizeHint().width() > room().width()) { // a small screen and a large font
         buttons->setDirection(QBoxLayout::TopToBottom);
     }

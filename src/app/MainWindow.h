@@ -10,7 +10,9 @@ namespace tessaly {
 
 class CanvasView;
 class CopyButton;
+class MainMenu;
 class MainTabView;
+class MessageLine;
 class PresetPanel;
 class SourceView;
 class StopControlPanel;
@@ -25,6 +27,7 @@ class MainWindow : public QWidget {
 
     /// Made and placed by the window, which owns them; who works with them borrows them.
     struct Views {
+        MainMenu* menu;
         StopControlPanel* stopControls;
         CanvasView* canvas;
         PresetPanel* presets;
@@ -37,6 +40,7 @@ class MainWindow : public QWidget {
         QPushButton* about;
         QPushButton* homepage;
         QPushButton* relatedApps;
+        MessageLine* message;
     };
     const Views& views() const { return views_; }
 

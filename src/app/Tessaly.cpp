@@ -1,7 +1,9 @@
 #include "app/Tessaly.h"
 
 #include "app/CopyButton.h"
+#include "app/MainMenu.h"
 #include "app/MainWindow.h"
+#include "app/MessageLine.h"
 #include "canvas/CanvasNotification.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
@@ -14,11 +16,13 @@
 #include "codegen/PageText.h"
 #include "codegen/qt/WebPreviewView.h"
 #include "foundation/qt/ToQString.h"
+#include "model/EditStep.h"
 #include "presets/qt/PresetPanel.h"
 #include "sourceview/qt/SourceView.h"
 
 #include <QPushButton>
 #include <QStackedWidget>
+#include <functional>
 #include <utility>
 
 namespace tessaly {
@@ -37,44 +41,72 @@ void openDialog(Dialog*& dialog, MainWindow& window) {
 
 Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem::path& applicationSupport)
     : mainWindow_{std::make_unique<MainWindow>()},
-      editor_{record_, mainWindow_->views().canvas->geometry(), *mainWindow_->views().canvas,
-              mainWindow_->views().stopControls->controlSet()},
+      document_{{mainWindow_->views().canvas->geometry(), *mainWindow_->views().canvas,
+                 mainWindow_->views().stopControls->controlSet(), *mainWindow_->views().presets},
+                applicationSupport,
+                [this] { updateMenu(); }},
       htmlTextView_{mainWindow_->views().page->textView()},
       css3TextView_{mainWindow_->views().stylesheet->textView()},
       stylesheet_{css3TextView_},
       previewFiles_{htmlTextView_, css3TextView_, *mainWindow_->views().preview,
-                    std::move(temporaryDirectory)},
-      gallery_{record_.gradient,
-               *mainWindow_->views().presets,
-               {[this] { editor_.gradientReplaced(); }, [this] { store_.insertData(); }}},
-      store_{gallery_, applicationSupport} {
+                    std::move(temporaryDirectory)} {
     lendToViews();
-    // The stored presets come before the gradient that is to be edited, and the code is written from that.
-    store_.openDB();
-    editor_.awakeFromNib();
+    answerMenu();
+    document_.open(); // the code is written from what it opens with
     observe();
     writeCode();
+    updateMenu();
     showSourceCodeView(0);
 }
 
 Tessaly::~Tessaly() {
-    store_.closeDB();
+    document_.close();
     mainWindow_.reset(); // its views have borrowed what goes next
 }
 
 void Tessaly::lendToViews() {
     const MainWindow::Views& views = mainWindow_->views();
-    views.canvas->edit(editor_);
-    views.stopControls->connectTo(editor_.controls());
-    views.presets->connectTo(gallery_);
+    views.canvas->edit(document_.editor());
+    views.stopControls->connectTo(document_.editor().controls());
+    views.presets->connectTo(document_.gallery());
     connect(&views.stylesheet->textView(), &CustomTextView::userEdited, this,
             [this](const TextEdit& edit) { stylesheet_.edited(edit); });
     connect(views.copy, &QPushButton::clicked, this, &Tessaly::copyCode);
-    connect(views.about, &QPushButton::clicked, this, [this] { openDialog(about_, *mainWindow_); });
-    connect(views.homepage, &QPushButton::clicked, this,
-            [] { WebAddressOpener::open(toQString(product::homepage())); });
-    connect(views.relatedApps, &QPushButton::clicked, this,
-            [this] { openDialog(relatedApps_, *mainWindow_); });
+}
+
+void Tessaly::answerMenu() {
+    const MainWindow::Views& views = mainWindow_->views();
+    MainMenu& menu = *views.menu;
+    const auto answer = [&](Command command, QPushButton* button, const std::function<void()>& run) {
+        menu.onCommand(command, run);
+        connect(button, &QPushButton::clicked, this, run);
+    };
+    answer(Command::About, views.about, [this] { openDialog(about_, *mainWindow_); });
+    answer(Command::Homepage, views.homepage, [] { WebAddressOpener::open(toQString(product::homepage())); });
+    answer(Command::RelatedApplications, views.relatedApps,
+           [this] { openDialog(relatedApps_, *mainWindow_); });
+    menu.onCommand(Command::New, [this] { document_.newGradient(); });
+    menu.onCommand(Command::Quit, [this] { mainWindow_->close(); });
+    menu.onCommand(Command::Undo, [this] { takeStep(&History::undo, document_.history().undoName()); });
+    menu.onCommand(Command::Redo, [this] { takeStep(&History::redo, document_.history().redoName()); });
+    menu.onCommand(Command::CopyStylesheet,
+                   [this] { mainWindow_->views().copy->copy(toQString(css3TextView_.text())); });
+    menu.onCommand(Command::AddStop, [this] { document_.editor().interaction().addBesideSelected(); });
+    menu.onCommand(Command::DeleteStop, [this] { document_.editor().interaction().deleteColorMarker(); });
+}
+
+void Tessaly::takeStep(bool (History::*step)(), std::string_view name) {
+    if ((document_.history().*step)() && name == editStep::boundTrack) { // the one that cannot be seen
+        mainWindow_->views().message->say(step == &History::undo ? tr("The track reaches to its start again")
+                                                                 : tr("The track is bound again"));
+    }
+}
+
+void Tessaly::updateMenu() {
+    MainMenu& menu = *mainWindow_->views().menu;
+    menu.setStep(Command::Undo, document_.history().undoName());
+    menu.setStep(Command::Redo, document_.history().redoName());
+    menu.setEnabled(Command::DeleteStop, document_.editor().markers().selectedStop().has_value());
 }
 
 void Tessaly::observe() {
@@ -87,18 +119,21 @@ void Tessaly::observe() {
                                    showSourceCodeView(*index);
                                }
                            });
-    needToUpdateWebCode_ = center.addObserver(canvasNotification::needToUpdateWebCode, &editor_,
-                                              [this](const Notification& /*notification*/) { updateCode(); });
+    needToUpdateWebCode_ = center.addObserver(canvasNotification::needToUpdateWebCode, &document_.editor(),
+                                              [this](const Notification& /*notification*/) {
+                                                  updateCode();
+                                                  updateMenu();
+                                              });
 }
 
 void Tessaly::writeCode() {
     htmlTextView_.replaceCharacters({}, pageText);
-    stylesheet_.insertCSS3Code(record_.gradient, record_.colorFormatType);
+    stylesheet_.insertCSS3Code(document_.record().gradient, document_.record().colorFormatType);
     previewFiles_.createHTMLIndexFile();
 }
 
 void Tessaly::updateCode() {
-    const bool changed = stylesheet_.update(record_.gradient, record_.colorFormatType);
+    const bool changed = stylesheet_.update(document_.record().gradient, document_.record().colorFormatType);
     if (changed || !previewFiles_.isAsWritten()) {
         previewFiles_.writeCSSFile();
     }

@@ -1,13 +1,10 @@
 #pragma once
 
 #include "app/CodeTextAdapter.h"
-#include "canvas/GradientEditor.h"
 #include "codegen/PreviewFiles.h"
 #include "codegen/Stylesheet.h"
+#include "document/Document.h"
 #include "foundation/NotificationCenter.h"
-#include "model/GlobalData.h"
-#include "presets/PresetGallery.h"
-#include "presets/PresetStore.h"
 
 #include <QObject>
 #include <cstdint>
@@ -38,21 +35,21 @@ class Tessaly : public QObject {
 
   private:
     void lendToViews();
+    void answerMenu();
     void observe();
+    void takeStep(bool (History::*step)(), std::string_view name);
+    void updateMenu();
     void writeCode();
     void updateCode();
     void showSourceCodeView(std::int64_t index);
     void copyCode();
 
     std::unique_ptr<MainWindow> mainWindow_;
-    GlobalData record_;
-    GradientEditor editor_;
+    Document document_;
     CodeTextAdapter htmlTextView_;
     CodeTextAdapter css3TextView_;
     Stylesheet stylesheet_;
     PreviewFiles previewFiles_;
-    PresetGallery gallery_;
-    PresetStore store_;
     About* about_ = nullptr; ///< like the next, none before it is first shown
     RelatedApps* relatedApps_ = nullptr;
     NotificationCenter::Observation selectIndexChanged_;

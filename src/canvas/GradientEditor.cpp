@@ -6,14 +6,14 @@
 
 namespace tessaly {
 
-GradientEditor::GradientEditor(GlobalData& record, const CanvasGeometry& geometry, CanvasSurface& surface,
-                               const StopControlSet& controls)
+GradientEditor::GradientEditor(GlobalData& record, History& history, const CanvasGeometry& geometry,
+                               CanvasSurface& surface, const StopControlSet& controls)
     : record_{record},
       geometry_{geometry},
       surface_{surface},
       markers_{record.gradient},
-      interaction_{geometry_, markers_, [this] { createBackground(); }},
-      controls_{controls, record, markers_, [this] { createBackground(); }, [this] { announce(); }},
+      interaction_{geometry_, markers_, history, [this] { createBackground(); }},
+      controls_{controls, record, markers_, history, [this] { createBackground(); }, [this] { announce(); }},
       colorChanged_{NotificationCenter::defaultCenter().addObserver(
           canvasNotification::colorChanged, controls.selectedColor,
           [this](const Notification& /*notification*/) { controls_.colorChanged(); })} {}
@@ -35,6 +35,11 @@ void GradientEditor::createBackground() {
 void GradientEditor::gradientReplaced() {
     controls_.showChoices();
     createBackground();
+}
+
+void GradientEditor::gradientReplaced(std::int64_t selectedStop) {
+    markers_.select(selectedStop);
+    gradientReplaced();
 }
 
 void GradientEditor::announce() const {

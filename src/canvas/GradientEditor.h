@@ -15,8 +15,8 @@ class CanvasSurface;
 class GradientEditor {
   public:
     /// All must outlive the editor.
-    GradientEditor(GlobalData& record, const CanvasGeometry& geometry, CanvasSurface& surface,
-                   const StopControlSet& controls);
+    GradientEditor(GlobalData& record, History& history, const CanvasGeometry& geometry,
+                   CanvasSurface& surface, const StopControlSet& controls);
     GradientEditor(const GradientEditor&) = delete;
     GradientEditor& operator=(const GradientEditor&) = delete;
     ~GradientEditor() = default;
@@ -30,8 +30,11 @@ class GradientEditor {
 
     /// The gradient was replaced as a whole.
     void gradientReplaced();
+    /// Gradient and notation were, and this is the selection with them.
+    void gradientReplaced(std::int64_t selectedStop);
 
     const ColorMarkers& markers() const { return markers_; }
+    const MarkerInteraction& interaction() const { return interaction_; }
     MarkerInteraction& interaction() { return interaction_; }
     StopControls& controls() { return controls_; }
 

@@ -3,6 +3,7 @@
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
+#include "model/EditStep.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,9 +14,9 @@
 
 namespace tessaly {
 
-MarkerInteraction::MarkerInteraction(const CanvasGeometry& geometry, ColorMarkers& markers,
+MarkerInteraction::MarkerInteraction(const CanvasGeometry& geometry, ColorMarkers& markers, History& history,
                                      std::function<void()> repaint)
-    : geometry_{geometry}, markers_{markers}, repaint_{std::move(repaint)} {}
+    : geometry_{geometry}, markers_{markers}, history_{history}, repaint_{std::move(repaint)} {}
 
 // Of overlapping markers it is the one with the lowest index, although the highest is drawn on top.
 std::optional<std::int64_t> MarkerInteraction::markerAt(Point point) const {
@@ -32,11 +33,22 @@ std::optional<std::int64_t> MarkerInteraction::markerAt(Point point) const {
 }
 
 void MarkerInteraction::mouseDown(Point point, int clickCount) {
+    mouseUp(); // the one before may have gone to a menu that opened meanwhile
+    isDown_ = true;
+    history_.begin(clickCount == 2 ? editStep::addStop : editStep::moveStop);
     if (clickCount == 2 && !addAt(point)) {
+        history_.rename(editStep::boundTrack); // all that it may have done
         return;
     }
     if (const auto marker = markerAt(point)) {
         grab(*marker, point);
+    }
+}
+
+void MarkerInteraction::mouseUp() {
+    startDrag_ = false;
+    if (std::exchange(isDown_, false)) {
+        history_.end();
     }
 }
 
@@ -110,6 +122,7 @@ void MarkerInteraction::moveSelectedTo(double offset) {
 bool MarkerInteraction::rightMouseDown(Point point) {
     const auto marker = markerAt(point);
     if (marker) {
+        history_.endRun();
         markers_.select(*marker);
     }
     return marker.has_value();
@@ -118,8 +131,10 @@ bool MarkerInteraction::rightMouseDown(Point point) {
 void MarkerInteraction::deleteColorMarker() {
     if (markers_.selectedStop()) {
         startDrag_ = false;
-        markers_.deleteColorMarker();
-        repaint_();
+        history_.act(editStep::deleteStop, [this] {
+            markers_.deleteColorMarker();
+            repaint_();
+        });
     }
 }
 
@@ -132,7 +147,7 @@ void MarkerInteraction::addBesideSelected() {
     const auto stop = gradient.stopAt(selected);
     const double position = stop && neighbour ? std::midpoint(stop->position, neighbour->position) : middle;
     startDrag_ = false;
-    addBlackStop(position);
+    history_.act(editStep::addStop, [&] { addBlackStop(position); });
 }
 
 bool MarkerInteraction::moveSelected(int right, int up, std::int64_t points) {
@@ -142,7 +157,8 @@ bool MarkerInteraction::moveSelected(int right, int up, std::int64_t points) {
         return false;
     }
     const double place = std::round(geometry_.dragOffset(orientation(), stop->position));
-    moveSelectedTo(place + static_cast<double>(direction * points));
+    history_.act(editStep::moveStop, {"Canvas"},
+                 [&] { moveSelectedTo(place + static_cast<double>(direction * points)); });
     return true;
 }
 
@@ -151,6 +167,7 @@ bool MarkerInteraction::select(std::int64_t marker) {
         return false;
     }
     startDrag_ = false;
+    history_.endRun();
     markers_.select(marker);
     repaint_();
     return true;

@@ -2,6 +2,7 @@
 
 #include "canvas/CanvasGeometry.h"
 #include "canvas/ColorMarkers.h"
+#include "model/History.h"
 
 #include <cstdint>
 #include <functional>
@@ -13,11 +14,13 @@ namespace tessaly {
 class MarkerInteraction {
   public:
     /// `repaint` repaints the canvas and announces the change. All must outlive the object.
-    MarkerInteraction(const CanvasGeometry& geometry, ColorMarkers& markers, std::function<void()> repaint);
+    MarkerInteraction(const CanvasGeometry& geometry, ColorMarkers& markers, History& history,
+                      std::function<void()> repaint);
 
+    // From the first to the last it is one action of the user.
     void mouseDown(Point point, int clickCount);
     void mouseDragged(Point point);
-    void mouseUp() { startDrag_ = false; }
+    void mouseUp();
 
     /// Selects the marker at the point, without repainting. True when there is one and its menu is to be
     /// shown.
@@ -40,6 +43,11 @@ class MarkerInteraction {
     /// Selects the stop so many places on; without a selected stop the first, or the last when going back.
     bool selectNeighbour(std::int64_t places);
 
+    /// The least place on the track that a marker can be moved to, in points; a double click on a radial
+    /// gradient sets it.
+    std::int64_t lowerBound() const { return minColorMarkerPos_; }
+    void setLowerBound(std::int64_t place) { minColorMarkerPos_ = place; }
+
     /// 1 when the last drag step went to a greater position, else 0. Nothing in the program asks; kept for a
     /// picture of the marker that leans into its way.
     std::int64_t markerDragOrientation() const { return markerDragOrientation_; }
@@ -54,8 +62,10 @@ class MarkerInteraction {
 
     const CanvasGeometry& geometry_;
     ColorMarkers& markers_;
+    History& history_;
     std::function<void()> repaint_;
 
+    bool isDown_ = false; ///< the mouse button
     bool startDrag_ = false;
     Point startDragCursorPos_;
     std::int64_t startDragImagePosX_ = 0; ///< points along the track when the marker was grabbed

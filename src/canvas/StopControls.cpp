@@ -3,6 +3,7 @@
 #include "canvas/NumberFormatter.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
+#include "model/EditStep.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,29 +28,45 @@ void logConversion(const HSLValue& hsl, const RGBValue& rgb) {
                          std::to_string(rgb.blue));
 }
 
+constexpr History::Run picking{"Color panel", History::anyPause};
+
+std::string_view stepOf(StopValue value) {
+    switch (value) {
+    case StopValue::Position:
+        return editStep::changePosition;
+    case StopValue::Opacity:
+        return editStep::changeOpacity;
+    default:
+        return editStep::changeColor;
+    }
+}
+
 } // namespace
 
 StopControls::StopControls(const StopControlSet& controls, GlobalData& record, ColorMarkers& markers,
-                           std::function<void()> repaint, std::function<void()> announce)
+                           History& history, std::function<void()> repaint, std::function<void()> announce)
     : controls_{controls},
       record_{record},
       markers_{markers},
+      history_{history},
       repaint_{std::move(repaint)},
       announce_{std::move(announce)} {}
 
-bool StopControls::handle(const std::function<void()>& change) {
+bool StopControls::handle(std::string_view step, History::Run run, const std::function<void()>& change) {
     if (!formReady_) {
         return false;
     }
     formReady_ = false;
-    change();
-    repaint_();
+    history_.act(step, run, [&] {
+        change();
+        repaint_();
+    });
     formReady_ = true;
     return true;
 }
 
 void StopControls::updateTextFieldValue(StopValue value) {
-    handle([&] {
+    handle(stepOf(value), {}, [&] {
         const auto& [field, stepper] = pair(value);
         stepper->setValue(NumberFormatter{value}.value(field->text()));
         takeStepper(value);
@@ -57,7 +74,7 @@ void StopControls::updateTextFieldValue(StopValue value) {
 }
 
 void StopControls::updateStepperValue(StopValue value) {
-    handle([&] { takeStepper(value); });
+    handle(stepOf(value), {traitsOf(value).name}, [&] { takeStepper(value); });
 }
 
 void StopControls::takeStepper(StopValue value) {
@@ -86,7 +103,7 @@ void StopControls::takeStepper(StopValue value) {
 }
 
 void StopControls::updateOrientationComboBoxValue() {
-    handle([&] {
+    handle(editStep::changeOrientation, {"Orientation"}, [&] {
         const std::int64_t item = controls_.selectedOrientationComboBox->indexOfSelectedItem();
         if (item >= 0 && item < std::ssize(orientation::items)) {
             record_.gradient.setOrientation(orientation::items[static_cast<std::size_t>(item)].code);
@@ -95,7 +112,7 @@ void StopControls::updateOrientationComboBoxValue() {
 }
 
 void StopControls::updateColorFormatComboBoxValue() {
-    const bool handled = handle([&] {
+    const bool handled = handle(editStep::changeNotation, {"Color notation"}, [&] {
         const std::int64_t item = controls_.selectedColorFormatComboBox->indexOfSelectedItem();
         if (colorFormat::isKnown(item)) {
             record_.colorFormatType = item;
@@ -107,11 +124,15 @@ void StopControls::updateColorFormatComboBoxValue() {
 }
 
 void StopControls::colorChanged() {
-    handle([&] {
+    handle(editStep::changeColor, picking, [&] {
         DiagnosticLog::write("colorChangedNotification");
         takeColorBox();
         showColor();
     });
+}
+
+void StopControls::pickingGivenUp() {
+    history_.undoRun(picking.control);
 }
 
 void StopControls::showChoices() {

@@ -5,6 +5,7 @@
 #include "canvas/StopValue.h"
 #include "model/ColorConversion.h"
 #include "model/GlobalData.h"
+#include "model/History.h"
 
 #include <array>
 #include <functional>
@@ -31,7 +32,7 @@ class StopControls {
   public:
     /// `repaint` repaints the canvas; `announce` tells that the code is to be written anew. Record and
     /// markers must outlive the object.
-    StopControls(const StopControlSet& controls, GlobalData& record, ColorMarkers& markers,
+    StopControls(const StopControlSet& controls, GlobalData& record, ColorMarkers& markers, History& history,
                  std::function<void()> repaint, std::function<void()> announce);
 
     /// The user changed a text field, or a stepper.
@@ -43,6 +44,8 @@ class StopControls {
 
     /// The colour well has a new colour.
     void colorChanged();
+    /// Takes back what was picked in the colour panel, unless something else was touched since.
+    void pickingGivenUp();
 
     /// Selects the items of orientation and notation in the lists, or nothing new for an unknown code.
     void showChoices();
@@ -60,7 +63,7 @@ class StopControls {
     const StopControlSet::Pair& pair(StopValue value) const {
         return controls_.pairs[static_cast<std::size_t>(value)];
     }
-    bool handle(const std::function<void()>& change);
+    bool handle(std::string_view step, History::Run run, const std::function<void()>& change);
     void takeStepper(StopValue value); ///< into the field beside it and the gradient
     void updateColorBoxFromHSL();
     void showRGB(const RGBValue& rgb);
@@ -73,6 +76,7 @@ class StopControls {
     StopControlSet controls_;
     GlobalData& record_;
     ColorMarkers& markers_;
+    History& history_;
     std::function<void()> repaint_;
     std::function<void()> announce_;
     bool formReady_ = false;

@@ -24,6 +24,9 @@ class Gradient {
 
     const std::vector<ColorStop>& stops() const { return stops_; }
 
+    /// Of removed stops, in the order in which they are taken.
+    const std::vector<double>& leftOpacities() const { return leftOpacities_; }
+
     /// Stop `index`, or none when there is no such stop.
     std::optional<ColorStop> stopAt(std::int64_t index) const;
 
@@ -50,7 +53,7 @@ class Gradient {
   private:
     std::vector<ColorStop> stops_;
     std::int64_t orientation_ = orientation::leftToRight;
-    std::vector<double> leftOpacities_; ///< of removed stops, in the order in which they are taken
+    std::vector<double> leftOpacities_;
 };
 
 } // namespace tessaly

@@ -2,7 +2,11 @@
 
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
+#include "model/EditStep.h"
 #include "presets/PresetGalleryView.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -15,8 +19,8 @@ void logItemPos(std::size_t position) {
 
 } // namespace
 
-PresetGallery::PresetGallery(Gradient& edited, PresetGalleryView& view, Actions actions)
-    : edited_{edited}, view_{view}, actions_{std::move(actions)} {
+PresetGallery::PresetGallery(Gradient& edited, History& history, PresetGalleryView& view, Actions actions)
+    : edited_{edited}, history_{history}, view_{view}, actions_{std::move(actions)} {
     view_.setContainerSize(PresetSlotGeometry::containerSize(room_));
 }
 
@@ -35,31 +39,67 @@ void PresetGallery::redrawPresetGradientContainer(bool force) {
     view_.thumbnailsChanged();
 }
 
-void PresetGallery::addGradientIntoPreset(Gradient gradient) {
+void PresetGallery::append(std::shared_ptr<const Gradient> gradient) {
     logItemPos(presetGradient_.size());
     presetGradient_.push_back(std::move(gradient));
+    snapshot_.reset();
     room_ = presetGradient_.size();
     redrawPresetGradientContainer(false);
     view_.thumbnailsChanged();
 }
 
+void PresetGallery::addGradientIntoPreset(Gradient gradient) {
+    append(std::make_shared<const Gradient>(std::move(gradient)));
+}
+
 void PresetGallery::addGradientIntoPreset() {
-    addGradientIntoPreset(edited_);
-    actions_.insertData();
+    history_.act(editStep::addPreset, [this] {
+        addGradientIntoPreset(edited_);
+        actions_.insertData();
+    });
 }
 
 void PresetGallery::applyPreset(std::size_t position) {
     DiagnosticLog::write("updateGradientNotification");
-    edited_ = presetGradient_[position];
-    actions_.presetApplied();
+    history_.act(editStep::applyPreset, [&] {
+        edited_ = *presetGradient_[position];
+        actions_.presetApplied();
+    });
 }
 
 void PresetGallery::deletePreset(std::size_t position) {
     DiagnosticLog::write("deletePresetGradientNotification");
     DiagnosticLog::write("index: " + std::to_string(position));
-    presetGradient_.erase(presetGradient_.begin() + static_cast<std::ptrdiff_t>(position));
+    history_.act(editStep::deletePreset, [&] {
+        presetGradient_.erase(presetGradient_.begin() + static_cast<std::ptrdiff_t>(position));
+        snapshot_.reset();
+        redrawPresetGradientContainer(true);
+        actions_.insertData();
+    });
+}
+
+std::shared_ptr<const GradientList> PresetGallery::snapshot() const {
+    if (snapshot_ == nullptr) {
+        snapshot_ = std::make_shared<const GradientList>(presetGradient_);
+    }
+    return snapshot_;
+}
+
+void PresetGallery::restore(const std::shared_ptr<const GradientList>& snapshot) {
+    presetGradient_ = *snapshot;
+    snapshot_ = snapshot;
+    room_ = std::max(room_, presetGradient_.size());
     redrawPresetGradientContainer(true);
     actions_.insertData();
+}
+
+void PresetGallery::insertStored(const std::function<void()>& readStored) {
+    const GradientList added = std::exchange(presetGradient_, {});
+    readStored();
+    for (const auto& gradient : added) {
+        append(gradient);
+    }
+    history_.forget();
 }
 
 } // namespace tessaly

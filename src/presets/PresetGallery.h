@@ -1,10 +1,11 @@
 #pragma once
 
-#include "model/Gradient.h"
+#include "model/History.h"
 #include "presets/PresetSlotGeometry.h"
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -23,13 +24,20 @@ class PresetGallery {
 
     /// Gives the container the size of an empty gallery. The gradient being edited and the view must outlive
     /// the gallery.
-    PresetGallery(Gradient& edited, PresetGalleryView& view, Actions actions);
+    PresetGallery(Gradient& edited, History& history, PresetGalleryView& view, Actions actions);
 
     /// In the order shown and saved.
-    const std::vector<Gradient>& presetGradient() const { return presetGradient_; }
+    const GradientList& presetGradient() const { return presetGradient_; }
 
-    /// Empties the list.
-    std::vector<Gradient> takePresets() { return std::exchange(presetGradient_, {}); }
+    /// The list as it is now, shared by all who ask until it changes.
+    std::shared_ptr<const GradientList> snapshot() const;
+
+    /// Brings a snapshot back and saves it.
+    void restore(const std::shared_ptr<const GradientList>& snapshot);
+
+    /// Puts stored presets, which could not be read before, in front of those there are. No step goes back
+    /// behind this.
+    void insertStored(const std::function<void()>& readStored);
 
     /// Where the thumbnails lie now.
     PresetSlotGeometry slots() const { return PresetSlotGeometry{presetGradientThumbDistant_}; }
@@ -45,14 +53,18 @@ class PresetGallery {
     void deletePreset(std::size_t position);
 
   private:
+    void append(std::shared_ptr<const Gradient> gradient);
+
     /// Sizes the container and, when that changes the distance of the columns or `force` is set, lays out
     /// every thumbnail anew.
     void redrawPresetGradientContainer(bool force);
 
     Gradient& edited_;
+    History& history_;
     PresetGalleryView& view_;
     Actions actions_;
-    std::vector<Gradient> presetGradient_;
+    GradientList presetGradient_;
+    mutable std::shared_ptr<const GradientList> snapshot_; ///< null: the list changed since
     /// The thumbnails that the container has room for: as many as there were at the last add. A delete
     /// deliberately leaves it, so that the container keeps its height under the mouse.
     std::size_t room_ = 0;

@@ -147,11 +147,7 @@ void PresetStore::readBeforeSaving() {
         makeMissingTables();
     }
     if (!database_.isUnread()) {
-        const std::vector<Gradient> added = presets_.takePresets();
-        readData();
-        for (const Gradient& gradient : added) {
-            presets_.addGradientIntoPreset(gradient);
-        }
+        presets_.insertStored([this] { readData(); });
     }
 }
 
@@ -176,7 +172,8 @@ void PresetStore::insertAllPresets() {
     SqliteStatement mainRow = SqliteStatement::prepare(database_.connection(), insertMainRow);
     SqliteStatement stopRow = SqliteStatement::prepare(database_.connection(), insertStopRow);
     std::int64_t index = 0;
-    for (const Gradient& gradient : presets_.presetGradient()) {
+    for (const auto& preset : presets_.presetGradient()) {
+        const Gradient& gradient = *preset;
         const std::int64_t orientation =
             static_cast<std::int32_t>(gradient.orientation()); // of 32 bits there
         mainRow.bind(index, orientation);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Drives the real program on the current display as a person would: drags, types, keeps a preset, looks at the preview,
-# closes; starts again, applies the preset and deletes it.
+# closes; starts again, applies the preset and deletes it, and takes everything back by keys and by the menu.
 set -euo pipefail
 program=$1
 
@@ -12,9 +12,9 @@ eval "$(xdotool getwindowgeometry --shell "$window")"
 timeout 10 "$program" 2>"$work/second" || fail "a second start did not end"
 [ ! -e "$TMPDIR/WebFolder1" ] || fail "a second copy went to work"
 at $last_marker && xdotool mousedown 1
-at 400 188 && at $middle_of_track && xdotool mouseup 1
+at 400 208 && at $middle_of_track && xdotool mouseup 1
 expect '#ffffff 50%);'
-at 182 188 && xdotool click --repeat 2 --delay 60 1 # a new stop at a quarter, selected
+at 182 208 && xdotool click --repeat 2 --delay 60 1 # a new stop at a quarter, selected
 expect '#000000 25%,'
 at $red && xdotool click --repeat 3 --delay 60 1 && xdotool type 255 && xdotool key Return
 expect '#ff0000 25%,'
@@ -29,8 +29,8 @@ click_at $css_tab && click_at $copy
 eventually copied 'a.gradient {'
 click_at $preview_tab
 sleep 1
-at 182 188 && xdotool mousedown 1
-at 328 100 && xdotool mouseup 1
+at 182 208 && xdotool mousedown 1
+at 328 120 && xdotool mouseup 1
 expect '#ff0000 50%);'
 expect 'a.gradient {'
 
@@ -58,5 +58,27 @@ none_is_stored() {
     [ "$(database 'select count(*) from MainTable')" = 0 ]
 }
 eventually none_is_stored
+at $middle_of_track && xdotool mousedown 1 && at 474 208 && xdotool mouseup 1 # the white one lies below
+expect '75%);'
+click_at $red && xdotool click --repeat 2 --delay 60 1 && xdotool type 128 && xdotool key Return
+expect '#80'
+click_at $first_marker && xdotool key Delete # the stop, not the text
+stops_in_standard_form() {
+    [ "$(grep -c '^\s*#' <(sed -n '/ linear-gradient/,/;/p' "$styles"))" = "$1" ]
+}
+eventually stops_in_standard_form 2
+xdotool key ctrl+z
+eventually stops_in_standard_form 3
+xdotool key ctrl+z ctrl+z
+expect '#ffffff 50%,'
+xdotool key alt+e Return # "Undo Delete Preset"
+eventually rows_are_stored
+xdotool key alt+e Return
+expect '#ffffff 100%);'
+xdotool key ctrl+shift+z ctrl+shift+z
+eventually none_is_stored
+expect '50%);'
+xdotool key ctrl+z ctrl+z
+eventually rows_are_stored
 finish xdotool key ctrl+q
 echo "ok"

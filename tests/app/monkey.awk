@@ -3,7 +3,7 @@
 
 function random(low, high) { return low + int(rand() * (high - low + 1)) }
 function one(list, size) { return list[random(1, size)] }
-function to(x, y) { print "mousemove --window", window, int(x), int(y) }
+function to(x, y) { print "mousemove --window", window, int(x), int(y) + 20 } # below the menu bar
 
 # To where a stop at that share of the track has its marker, as far as is known.
 function to_stop(share) {
@@ -68,7 +68,7 @@ function look_at_sheet() {
 BEGIN {
     srand(seed)
     key_count = split("Up Down Left Right Prior Next Home End Tab shift+Tab Delete BackSpace Return Escape space " \
-                      "Insert ctrl+z ctrl+shift+z ctrl+a ctrl+c ctrl+v ctrl+x ctrl+Home ctrl+End shift+Left", keys, " ")
+                      "Insert ctrl+z ctrl+z ctrl+shift+z ctrl+n alt+e ctrl+a ctrl+c ctrl+v ctrl+x ctrl+Home ctrl+End shift+Left", keys, " ")
     text_count = split("0 1 7 128 255 256 300 -5 .5 0.333 1e3 999999999999 %x a{b:c} ; }", texts, " ")
     remember(0)
     remember(1)

@@ -3,6 +3,7 @@
 #include "foundation/NumberText.h"
 #include "support/FakeControls.h"
 #include "support/LogCapture.h"
+#include "support/NoHistory.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -80,7 +81,8 @@ class GradientEditorTest : public testing::Test {
     FakeSurface surface;
     GlobalData data;
     const CanvasGeometry geometry{Size{440, 140}};
-    GradientEditor editor{data, geometry, surface, controls.set};
+    NoHistory history;
+    GradientEditor editor{data, history, geometry, surface, controls.set};
     int posts = 0;
     NotificationCenter::Observation observation = NotificationCenter::defaultCenter().addObserver(
         canvasNotification::needToUpdateWebCode, &editor, [this](const auto&) { ++posts; });

@@ -29,11 +29,11 @@ std::vector<Gradient> listOf(std::initializer_list<std::int64_t> numbers) {
 }
 
 void save(PresetProgram& program, std::int64_t number) {
-    program.gallery.takePresets();
+    GradientList list;
     for (const Gradient& gradient : listOf({number})) {
-        program.gallery.addGradientIntoPreset(gradient);
+        list.push_back(std::make_shared<const Gradient>(gradient));
     }
-    program.store.insertData();
+    program.gallery.restore(std::make_shared<const GradientList>(list)); // which saves it
 }
 
 class PresetFileTest : public testing::Test {

@@ -1,5 +1,6 @@
 #include "presets/PresetGallery.h"
 
+#include "support/NoHistory.h"
 #include "support/PresetProgram.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +33,8 @@ TEST(PresetGallery, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverDeletes
     FakeGalleryView view;
     int saves = 0;
     Gradient edited;
-    PresetGallery gallery{edited, view, {[] {}, [&] { ++saves; }}};
+    NoHistory history;
+    PresetGallery gallery{edited, history, view, {[] {}, [&] { ++saves; }}};
     view.scrollHeight = 260;
     const std::vector<std::tuple<int, double, double>> rows{
         {0, 125, 52}, {1, 170, 52}, {6, 215, 52}, {10, 215, 52}, {11, 260, 49}};
@@ -52,7 +54,7 @@ TEST(PresetGallery, growsByRowsNarrowsForTheScrollerAndKeepsItsHeightOverDeletes
     gallery.addGradientIntoPreset();
     EXPECT_EQ(saves, 10);
     EXPECT_EQ(view.containerSize.height, 170);
-    EXPECT_EQ(gallery.presetGradient(), (std::vector{Gradient{{}, 9}, Gradient{{}, 10}, edited}));
+    EXPECT_EQ(gradientsIn(gallery), (std::vector{Gradient{{}, 9}, Gradient{{}, 10}, edited}));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "presets/PresetGalleryView.h"
 #include "presets/PresetStore.h"
 #include "support/Gradients.h"
+#include "support/NoHistory.h"
 
 #include <filesystem>
 
@@ -21,15 +22,24 @@ class FakeGalleryView : public PresetGalleryView {
     int changes = 0;
 };
 
+inline std::vector<Gradient> gradientsIn(const PresetGallery& gallery) {
+    std::vector<Gradient> gradients;
+    for (const auto& preset : gallery.presetGradient()) {
+        gradients.push_back(*preset);
+    }
+    return gradients;
+}
+
 /// The gallery and its store, wired and started as the program does it.
 struct PresetProgram {
     explicit PresetProgram(const std::filesystem::path& support) : store{gallery, support} { store.openDB(); }
 
-    const std::vector<Gradient>& presets() const { return gallery.presetGradient(); }
+    std::vector<Gradient> presets() const { return gradientsIn(gallery); }
 
     GlobalData record = defaultRecord();
+    NoHistory history;
     FakeGalleryView view;
-    PresetGallery gallery{record.gradient, view, {[] {}, [this] { store.insertData(); }}};
+    PresetGallery gallery{record.gradient, history, view, {[] {}, [this] { store.insertData(); }}};
     PresetStore store;
 };
 

@@ -152,6 +152,13 @@ void CanvasView::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(handled);
 }
 
+void CanvasView::focusOutEvent(QFocusEvent* event) {
+    if (event->reason() == Qt::PopupFocusReason) {
+        editor_->interaction().mouseUp(); // the menu takes the mouse
+    }
+    QWidget::focusOutEvent(event);
+}
+
 bool CanvasView::focusNextPrevChild(bool next) {
     // Tab goes from stop to stop; past the last one it leaves the canvas.
     return editor_->interaction().selectNeighbour(next ? 1 : -1) || QWidget::focusNextPrevChild(next);

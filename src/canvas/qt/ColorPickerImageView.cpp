@@ -74,6 +74,7 @@ void ColorPickerImageView::openColorPanel() {
         colorPanel_->setOptions(QColorDialog::NoButtons | QColorDialog::DontUseNativeDialog);
         colorPanel_->setWindowTitle(tr("Stop color"));
         colorPanel_->setModal(false);
+        colorPanel_->installEventFilter(this);
         connect(colorPanel_, &QColorDialog::currentColorChanged, this,
                 [this](const QColor& color) { setBackgroundColor(fromQColor(color)); });
     }
@@ -81,6 +82,14 @@ void ColorPickerImageView::openColorPanel() {
     showInColorPanel();
     colorPanel_->raise();
     colorPanel_->activateWindow();
+}
+
+bool ColorPickerImageView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == colorPanel_ && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        Q_EMIT pickingGivenUp(); // and then the panel closes
+    }
+    return QAbstractButton::eventFilter(watched, event);
 }
 
 void ColorPickerImageView::showInColorPanel() {

@@ -28,7 +28,12 @@ class ColorPickerImageView : public QAbstractButton, public ColorWell {
 
     QSize sizeHint() const override;
 
+  Q_SIGNALS:
+    /// The panel was left by Escape.
+    void pickingGivenUp();
+
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -1,5 +1,6 @@
 #include "canvas/qt/NumberFieldEdit.h"
 
+#include "foundation/qt/KeptKeys.h"
 #include "foundation/qt/ToQString.h"
 
 #include <QFontMetrics>
@@ -66,6 +67,21 @@ QSize NumberFieldEdit::sizeHint() const {
     constexpr int textMargins = 8;
     return style()->sizeFromContents(QStyle::CT_LineEdit, &option,
                                      {textWidth + textMargins, height - 2 * option.lineWidth}, this);
+}
+
+// Undo and redo are the field's as long as its text is not applied, and else the document's.
+bool NumberFieldEdit::event(QEvent* event) {
+    if (keepKeys(*event, {Qt::Key_Insert})) {
+        return true;
+    }
+    if (event->type() == QEvent::ShortcutOverride && QLineEdit::text() == shown_) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
 }
 
 void NumberFieldEdit::keyPressEvent(QKeyEvent* event) {

@@ -32,6 +32,7 @@ class NumberFieldEdit : public QLineEdit, public NumberField {
     void stepped(int steps);
 
   protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

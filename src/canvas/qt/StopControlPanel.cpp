@@ -29,9 +29,9 @@ struct Cell {
 
 constexpr std::array<Cell, stopValues.size()> cells{{
     {StopValue::Red, "&Red", "redTextField", "redStepper", 0, 0},
-    {StopValue::Green, "&Green", "greenTextField", "greenStepper", 1, 0},
+    {StopValue::Green, "Gree&n", "greenTextField", "greenStepper", 1, 0},
     {StopValue::Blue, "&Blue", "blueTextField", "blueStepper", 2, 0},
-    {StopValue::Hue, "&Hue", "hueTextField", "hueStepper", 0, 1},
+    {StopValue::Hue, "H&ue", "hueTextField", "hueStepper", 0, 1},
     {StopValue::Saturation, "&Saturation", "saturationTextField", "saturationStepper", 1, 1},
     {StopValue::Lightness, "&Lightness", "lightnessTextField", "lightnessStepper", 2, 1},
     {StopValue::Position, "&Position", "selectedPosTextField", "selectedPosStepper", 0, 2},
@@ -116,7 +116,7 @@ void StopControlPanel::addLists(QGridLayout& grid) {
     };
     add(*selectedColor_, tr("C&olor"), 2, stopBlock);
     add(*selectedOrientationComboBox_, tr("Or&ientation"), 0, listBlock);
-    add(*selectedColorFormatComboBox_, tr("&Notation"), 1, listBlock);
+    add(*selectedColorFormatComboBox_, tr("Not&ation"), 1, listBlock);
 }
 
 StopControlSet StopControlPanel::controlSet() const {
@@ -139,6 +139,8 @@ void StopControlPanel::connectTo(StopControls& rules) {
         connect(stepper, &ValueStepper::steppedByUser, this,
                 [&rules, value] { rules.updateStepperValue(value); });
     }
+    connect(selectedColor_, &ColorPickerImageView::pickingGivenUp, this,
+            [&rules] { rules.pickingGivenUp(); });
     connect(selectedOrientationComboBox_, &QComboBox::activated, this,
             [&rules] { rules.updateOrientationComboBoxValue(); });
     connect(selectedColorFormatComboBox_, &QComboBox::activated, this,

@@ -1,6 +1,7 @@
 #include "presets/qt/PresetGradienContainerView.h"
 
 #include "foundation/DiagnosticLog.h"
+#include "foundation/qt/KeptKeys.h"
 #include "presets/PresetGallery.h"
 #include "presets/qt/PresetThumbnail.h"
 
@@ -76,7 +77,7 @@ void PresetGradienContainerView::paintEvent(QPaintEvent* event) {
     const auto visible = PresetSlotGeometry::positionsBetween(area.top(), area.bottom() + 1, count());
     for (std::size_t position = visible.first; position < visible.last; ++position) {
         const QRect place = placeOf(position);
-        drawPresetThumbnail(painter, gallery_->presetGradient()[position], place.topLeft());
+        drawPresetThumbnail(painter, *gallery_->presetGradient()[position], place.topLeft());
         if (hasFocus() && position == current_) {
             painter.setPen(QPen{palette().color(QPalette::Highlight), 2});
             painter.drawRoundedRect(place.adjusted(-2, -2, 2, 2), 5, 5);
@@ -134,6 +135,9 @@ void PresetGradienContainerView::keyPressEvent(QKeyEvent* event) {
 }
 
 bool PresetGradienContainerView::event(QEvent* event) {
+    if (keepKeys(*event, {Qt::Key_Delete, Qt::Key_Insert})) {
+        return true;
+    }
     if (event->type() == QEvent::ToolTip) {
         const auto position = positionAt(static_cast<QHelpEvent*>(event)->pos());
         setToolTip(position ? tr("Apply preset %1; right click for its menu").arg(*position + 1) : QString{});

@@ -1,5 +1,6 @@
 #include "sourceview/qt/CustomTextView.h"
 
+#include "foundation/qt/KeptKeys.h"
 #include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
 #include "sourceview/qt/CodeDocumentLayout.h"
@@ -168,6 +169,10 @@ QMimeData* CustomTextView::createMimeDataFromSelection() const {
 // Tab types a tab; Shift+Tab and Ctrl+Tab leave the view, so that the keyboard is not trapped in it.
 bool CustomTextView::focusNextPrevChild(bool next) {
     return next ? QPlainTextEdit::focusNextPrevChild(true) : leave(false);
+}
+
+bool CustomTextView::event(QEvent* event) {
+    return keepKeys(*event, {Qt::Key_Insert}) || QPlainTextEdit::event(event);
 }
 
 void CustomTextView::keyPressEvent(QKeyEvent* event) {

@@ -61,6 +61,7 @@ class CustomTextView : public QPlainTextEdit, public TextLayout {
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     bool canInsertFromMimeData(const QMimeData* source) const override;

@@ -4,6 +4,7 @@
 #include "canvas/qt/StopControlPanel.h"
 #include "canvas/qt/ValueStepper.h"
 #include "support/LogCapture.h"
+#include "support/NoHistory.h"
 
 #include <QAccessible>
 #include <QColorDialog>
@@ -59,7 +60,8 @@ class CanvasViewTest : public testing::Test {
     StopControlPanel* panel = new StopControlPanel;
     CanvasView* canvas = new CanvasView;
     GlobalData data;
-    GradientEditor editor{data, canvas->geometry(), *canvas, panel->controlSet()};
+    NoHistory history;
+    GradientEditor editor{data, history, canvas->geometry(), *canvas, panel->controlSet()};
 };
 
 TEST_F(CanvasViewTest, dragsAddsAndDeletesWithTheMouse) {

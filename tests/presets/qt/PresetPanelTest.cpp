@@ -4,6 +4,7 @@
 #include "presets/qt/PresetThumbnail.h"
 #include "support/Gradients.h"
 #include "support/LogCapture.h"
+#include "support/NoHistory.h"
 
 #include <QAccessible>
 #include <QMenu>
@@ -30,7 +31,8 @@ class PresetPanelTest : public testing::Test {
     PresetGradienContainerView& container = *panel->findChild<PresetGradienContainerView*>();
     int applied = 0, saved = 0;
     Gradient edited = defaultRecord().gradient;
-    PresetGallery gallery{edited, *panel, {[this] { ++applied; }, [this] { ++saved; }}};
+    NoHistory history;
+    PresetGallery gallery{edited, history, *panel, {[this] { ++applied; }, [this] { ++saved; }}};
 };
 
 TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
@@ -48,7 +50,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     }
     EXPECT_EQ(edited.orientation(), 3);
     QTest::keyClick(&container, Qt::Key_Delete);
-    EXPECT_EQ(gallery.presetGradient()[3].orientation(), 4);
+    EXPECT_EQ(gallery.presetGradient()[3]->orientation(), 4);
 
     QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&container);
     list->child(0)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
@@ -58,7 +60,7 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     popup->actions().first()->trigger();
     popup->hide();
     EXPECT_TRUE(log.has("mouseDown") && log.has("deletePresetGradientItem"));
-    EXPECT_EQ(gallery.presetGradient()[0].orientation(), 1);
+    EXPECT_EQ(gallery.presetGradient()[0]->orientation(), 1);
     EXPECT_EQ(saved, 8);
 
     EXPECT_EQ(list->child(3)->text(QAccessible::Name), QStringLiteral("Preset 4"));

@@ -1,0 +1,82 @@
+#include "app/MainMenu.h"
+
+#include "foundation/qt/ToQString.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <utility>
+
+namespace tessaly {
+namespace {
+
+/// Where it stands, and how it is reached.
+struct Item {
+    Command command;
+    const char* menu; ///< opened by the first item that names it
+    const char* title;
+    QKeyCombination key = QKeyCombination::fromCombined(0);
+    bool separated = false; ///< from the item above it
+    /// In the colour dialog too, where a key is not taken by the field that has the keyboard.
+    Qt::ShortcutContext context = Qt::WindowShortcut;
+};
+
+constexpr const char* file = QT_TRANSLATE_NOOP("tessaly::MainMenu", "&File");
+constexpr const char* edit = QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Edit");
+constexpr const char* gradient = QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Gradient");
+constexpr const char* help = QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Help");
+
+constexpr std::array<Item, commandCount> items{{
+    {Command::New, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&New"), Qt::CTRL | Qt::Key_N},
+    {Command::Quit, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Quit"), Qt::CTRL | Qt::Key_Q, true,
+     Qt::ApplicationShortcut},
+    {Command::Undo, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Undo"), Qt::CTRL | Qt::Key_Z, false,
+     Qt::ApplicationShortcut},
+    {Command::Redo, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Redo"), Qt::CTRL | Qt::SHIFT | Qt::Key_Z,
+     false, Qt::ApplicationShortcut},
+    {Command::CopyStylesheet, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Copy Stylesheet"),
+     QKeyCombination::fromCombined(0), true},
+    {Command::AddStop, gradient, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Add Stop"), Qt::Key_Insert},
+    {Command::DeleteStop, gradient, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Delete Stop"), Qt::Key_Delete},
+    {Command::About, help, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&About")},
+    {Command::Homepage, help, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Homepage")},
+    {Command::RelatedApplications, help, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Related Applications")},
+}};
+
+const Item& itemOf(Command command) {
+    return items[static_cast<std::size_t>(command)];
+}
+
+} // namespace
+
+MainMenu::MainMenu(QWidget* parent) : QMenuBar{parent} {
+    QMenu* menu = nullptr;
+    const char* opened = nullptr;
+    for (const Item& item : items) {
+        if (std::exchange(opened, item.menu) != item.menu) {
+            menu = addMenu(tr(item.menu));
+        } else if (item.separated) {
+            menu->addSeparator();
+        }
+        auto* const action = menu->addAction(tr(item.title));
+        action->setShortcut(QKeySequence{item.key});
+        action->setShortcutContext(item.context);
+        actions_[static_cast<std::size_t>(item.command)] = action;
+    }
+}
+
+void MainMenu::onCommand(Command command, std::function<void()> run) {
+    connect(&action(command), &QAction::triggered, this, std::move(run));
+}
+
+void MainMenu::setEnabled(Command command, bool enabled) {
+    action(command).setEnabled(enabled);
+}
+
+void MainMenu::setStep(Command command, std::string_view step) {
+    const QString title = tr(itemOf(command).title);
+    action(command).setText(step.empty() ? title : title + u' ' + toQString(step));
+    action(command).setEnabled(!step.empty());
+}
+
+} // namespace tessaly
