@@ -65,6 +65,7 @@ class History {
     /// Drops every step, and does not record the action under way.
     void forget();
 
+    /// How full it is: asked by nobody but who measures it.
     std::size_t stepCount() const { return steps_.size(); }
     std::size_t bytes() const { return bytes_; }
 
