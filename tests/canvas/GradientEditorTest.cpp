@@ -205,25 +205,6 @@ TEST_F(GradientEditorTest, typedAndSteppedValuesReachTheStopAndTheOtherFields) {
     EXPECT_EQ(data.gradient.stopAt(2), (ColorStop{0.2, color, 0.25})) << "a typed position does not sort";
 }
 
-TEST_F(GradientEditorTest, theListsChooseOrientationAndNotation) {
-    using ItemAndCode = std::pair<std::int64_t, std::int64_t>;
-    for (const auto& [item, code] : {ItemAndCode{0, 1}, {1, 0}, {2, 2}, {3, 3}, {4, 4}}) {
-        chooseOrientation(item);
-        chooseOrientation(-1);
-        EXPECT_EQ(data.gradient.orientation(), code);
-        editor.gradientReplaced();
-        EXPECT_EQ(controls.orientation.selected, item);
-    }
-    takeCounts();
-    for (const auto& [item, code] :
-         {ItemAndCode{std::ssize(colorFormat::notations), 0}, {2, 2}, {3, 3}, {4, 4}, {-1, 4}, {0, 0}}) {
-        chooseFormat(item);
-        EXPECT_EQ(data.colorFormatType, code);
-        EXPECT_EQ(fields().ends_with(')'), !colorFormat::carriesOpacity(code)) << code;
-        EXPECT_EQ(takeCounts(), (Counts{2, 1})) << "announced twice";
-    }
-}
-
 TEST_F(GradientEditorTest, noSequenceOfActionsBreaksTheInvariants) {
     std::mt19937 random{5};
     const auto upTo = [&](int most) { return std::uniform_int_distribution<int>{0, most}(random); };

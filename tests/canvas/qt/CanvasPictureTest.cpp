@@ -26,22 +26,9 @@ QColor at(const QImage& picture, Point point) {
     return picture.pixelColor(static_cast<int>(point.x * ratio), static_cast<int>(down));
 }
 
-// Whether a dark and a light dash run through the middle, whose green is even.
-bool showsGuide(const QImage& picture) {
-    int darkest = 255;
-    int lightest = 0;
-    for (int x = 215; x < 240; ++x) {
-        for (int y = 58; y < 82; ++y) {
-            darkest = std::min(darkest, at(picture, {1.0 * x, 1.0 * y}).green());
-            lightest = std::max(lightest, at(picture, {1.0 * x, 1.0 * y}).green());
-        }
-    }
-    return darkest < 120 && lightest > 190;
-}
-
 class CanvasPictureTest : public testing::TestWithParam<double> {};
 
-TEST_P(CanvasPictureTest, showsStripFrameGuideAndMarkersOfEveryOrientation) {
+TEST_P(CanvasPictureTest, showsStripFrameAndMarkersOfEveryOrientation) {
     const QColor first{102, 153, 153};
     const QColor second{255, 153, 153};
     GlobalData data{
@@ -55,13 +42,10 @@ TEST_P(CanvasPictureTest, showsStripFrameGuideAndMarkersOfEveryOrientation) {
         EXPECT_EQ(at(picture, {2, 2}), orientation == orientation::radial ? second : controlColor) << "frame";
         EXPECT_EQ(at(picture, {ends[orientation].x1(), ends[orientation].y1()}), first);
         EXPECT_EQ(at(picture, {ends[orientation].x2(), ends[orientation].y2()}), second);
-        EXPECT_EQ(showsGuide(picture), orientation > 1);
         const auto [x, y] = geometry.markerRect(orientation, 0.25).center();
         EXPECT_EQ(at(picture, {x + 1, y}), first) << "a dot";
-        EXPECT_EQ(at(picture, {x + 6.5, y}), QColor(Qt::white)) << "in a ring";
         const Point selected = geometry.markerRect(orientation, 0.75).center();
         EXPECT_EQ(at(picture, {selected.x + 5.5, selected.y}), second) << "a disc";
-        EXPECT_GT(at(picture, {selected.x + 8, selected.y}).green(), 200) << "in a ring";
     }
 }
 

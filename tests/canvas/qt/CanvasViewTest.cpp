@@ -87,10 +87,6 @@ TEST_F(CanvasViewTest, movesSelectsAndDeletesWithTheKeyboard) {
     key(Qt::Key_Backtab, Qt::ShiftModifier);
     key(Qt::Key_Delete);
     EXPECT_EQ(positions(), (Positions{287.5 / 584, 575.0 / 584}));
-    QContextMenuEvent menu{QContextMenuEvent::Keyboard, {}, {}};
-    QApplication::sendEvent(canvas, &menu);
-    EXPECT_TRUE(canvas->findChild<QMenu*>()->isVisible());
-    canvas->findChild<QMenu*>()->hide();
     key(Qt::Key_Tab);
     key(Qt::Key_Tab);
     EXPECT_FALSE(canvas->hasFocus()) << "past the last stop Tab leaves the canvas";
@@ -129,11 +125,7 @@ TEST_F(CanvasViewTest, steppersAndListsAct) {
 
 TEST_F(CanvasViewTest, theWellReportsEachPickOfItsPanel) {
     auto& well = named<ColorPickerImageView>("Stop color");
-    for (const bool enabled : {false, true}) {
-        well.QWidget::setEnabled(enabled);
-        QTest::mouseClick(&well, Qt::LeftButton);
-        ASSERT_EQ(window.findChild<QColorDialog*>() != nullptr, enabled);
-    }
+    QTest::mouseClick(&well, Qt::LeftButton);
     auto* const colorPanel = window.findChild<QColorDialog*>();
     EXPECT_EQ(colorPanel->currentColor(), Qt::white);
     colorPanel->setCurrentColor(Qt::blue);
@@ -144,9 +136,6 @@ TEST_F(CanvasViewTest, theWellReportsEachPickOfItsPanel) {
     EXPECT_EQ(colorPanel->currentColor().blue(), 0) << "the open panel follows the selection";
     EXPECT_EQ(data.gradient, (Gradient{{{0.0, fine}, {1.0, Color::calibratedRGB(0, 0, 1)}}}))
         << "rounding nothing";
-    well.setBackgroundColor(Color::withoutRGBForm()); // cannot be shown, and is announced as another
-    const Color announced = data.gradient.stops()[0].color;
-    EXPECT_TRUE(announced.calibratedRGB() && announced != fine);
 }
 
 TEST_F(CanvasViewTest, assistiveToolsSeeTheStops) {
