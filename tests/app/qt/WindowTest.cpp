@@ -1,8 +1,6 @@
 // The whole window with a real browser engine, on a display.
 
-#include "app/CopyButton.h"
 #include "app/MainWindow.h"
-#include "app/SingleInstance.h"
 #include "app/Tessaly.h"
 #include "canvas/qt/CanvasView.h"
 #include "chrome/qt/MainTabView.h"
@@ -12,19 +10,13 @@
 #include "sourceview/qt/SourceView.h"
 #include "support/Eventually.h"
 #include "support/LogCapture.h"
-#include "support/Palettes.h"
-#include "support/RenderProcess.h"
 #include "support/TemporaryFolder.h"
 
 #include <QAccessible>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
-#include <csignal>
 #include <gtest/gtest.h>
-#include <semaphore>
-#include <thread>
 
 namespace tessaly {
 namespace {
@@ -75,7 +67,7 @@ TEST_F(WindowTest, aDraggedMarkerReachesTextFileAndPreview) {
     EXPECT_NE(stylesheet().find("#ffffff 50%);"), std::string::npos) << stylesheet();
     EXPECT_EQ(stylesheetFile(), stylesheet());
 
-    window.setPalette(darkPalette());
+    window.setPalette(QPalette{Qt::black});
     const WId windowId = window.winId();
     views.tabs->setSelectIndex(2);
     EXPECT_EQ(shownPage(), views.preview);
@@ -88,21 +80,12 @@ TEST_F(WindowTest, aDraggedMarkerReachesTextFileAndPreview) {
         EXPECT_TRUE(previewComesToShow(0.25, 63)) << previewLevel(0.25);
     }
     EXPECT_EQ(window.winId(), windowId) << "the window was made anew under the user's eyes";
-
-    const pid_t painter = renderProcess();
-    ASSERT_GT(painter, 1);
-    ::kill(painter, SIGKILL);
-    EXPECT_TRUE(eventually([&] { return renderProcess() > 1 && renderProcess() != painter; }));
-    dragWhiteMarker(-146);
-    EXPECT_TRUE(previewComesToShow(0.25, 85)) << "back after its render process was killed";
 }
 
 TEST_F(WindowTest, listensToItsOwnTabsAndKeepsWhatTheUserTyped) {
     const int stranger = 0;
     NotificationCenter::defaultCenter().post({"SelectIndexChanged", &stranger, {{"Index", std::int64_t{1}}}});
     EXPECT_EQ(shownPage(), views.stylesheet);
-    QTest::mouseClick(views.copy, Qt::LeftButton);
-    EXPECT_TRUE(views.copy->text().startsWith(QStringLiteral("Copied")));
 
     const std::string before = stylesheet();
     auto& view = views.stylesheet->textView();
@@ -139,27 +122,6 @@ TEST_F(WindowTest, assistiveToolsFindEveryControlByItsName) {
     for (const QString& name : QString::fromUtf8(expected).split(u'|')) {
         EXPECT_TRUE(names.contains(name)) << name.toStdString();
     }
-}
-
-TEST(SingleInstance, aSecondOneTellsTheFirstAndMayFollowIt) {
-    const TemporaryFolder folder;
-    const QString path = QString::fromStdString(folder.path.native());
-    {
-        const SingleInstance first{path};
-        QSignalSpy again{&first, &SingleInstance::startedAgain};
-        const SingleInstance second{path};
-        EXPECT_TRUE(first.isFirst() && !second.isFirst());
-        EXPECT_TRUE(again.wait());
-    }
-    std::binary_semaphore isClosing{0};
-    const std::jthread closing{[&] {
-        const SingleInstance first{path};
-        QMetaObject::invokeMethod(qApp, "aboutToQuit", Qt::DirectConnection);
-        isClosing.release();
-        std::this_thread::sleep_for(std::chrono::milliseconds{300});
-    }};
-    isClosing.acquire();
-    EXPECT_TRUE(SingleInstance{path}.isFirst()) << "once the other is gone";
 }
 
 } // namespace

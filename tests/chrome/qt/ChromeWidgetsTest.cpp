@@ -1,17 +1,11 @@
-// The tab strip, the blue labels, and the sheets whose links and buttons open pages.
+// The tab strip and the labels that open pages.
 
-#include "chrome/RelatedTools.h"
-#include "chrome/qt/About.h"
 #include "chrome/qt/MainTabView.h"
-#include "chrome/qt/RelatedApps.h"
 #include "chrome/qt/WebAddressOpener.h"
 #include "chrome/qt/WebLabel.h"
+#include "foundation/NotificationCenter.h"
 #include "support/LogCapture.h"
-#include "support/Palettes.h"
 
-#include <QEnterEvent>
-#include <QPushButton>
-#include <QStackedWidget>
 #include <QTest>
 #include <any>
 #include <gtest/gtest.h>
@@ -32,19 +26,6 @@ class LinksTest : public testing::Test {
     QStringList opened;
     WebLabel label{u"example.org"_s};
 };
-
-TEST_F(LinksTest, aLabelIsUnderlinedUnderThePointerAndStaysBlue) {
-    QEnterEvent enter{{1, 1}, {1, 1}, {1, 1}};
-    QCoreApplication::sendEvent(&label, &enter);
-    EXPECT_TRUE(label.font().underline());
-    EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
-    QEvent leave{QEvent::Leave};
-    QCoreApplication::sendEvent(&label, &leave);
-    EXPECT_FALSE(label.font().underline());
-    EXPECT_EQ(label.palette().windowText().color(), QColor{Qt::blue});
-    label.setPalette(darkPalette());
-    EXPECT_GT(label.palette().windowText().color().lightness(), 160) << "readable on a dark desktop";
-}
 
 TEST_F(LinksTest, aLabelOpensItsAddressOnAClickOrAKey) {
     QTest::mouseClick(&label, Qt::LeftButton);
@@ -70,35 +51,6 @@ TEST_F(LinksTest, anAddressNeedsOnePrefixAnywhereAndOpensOnlyIfItIsOne) {
         EXPECT_EQ(log.messages.back(), logLine.toStdString());
         opened.clear();
     }
-}
-
-TEST_F(LinksTest, theSheetsAreKeptWhenTheyCloseAndLinkHomeAndToEveryTool) {
-    About about;
-    RelatedApps relatedApps;
-    for (QDialog* const sheet : std::array<QDialog*, 4>{&about, &relatedApps, &about, &relatedApps}) {
-        sheet->open();
-        EXPECT_TRUE(sheet->isVisible());
-        QTest::keyClick(sheet, Qt::Key_Return);
-        EXPECT_FALSE(sheet->isVisible());
-    }
-    EXPECT_EQ(about.findChild<QLabel*>()->pixmap().deviceIndependentSize(), (QSizeF{64, 64})) << "its icon";
-    auto* const home = about.findChild<WebLabel*>();
-    home->openAddress();
-    EXPECT_EQ(QUrl{opened.takeFirst()}.host(), home->text());
-
-    const QStackedWidget& pages = *relatedApps.findChild<QStackedWidget*>();
-    QStringList expected;
-    for (const RelatedToolGroup& group : relatedTools) {
-        MainTabView{{u"CSS 3"_s}}.setSelectIndex(1); // another strip
-        for (const RelatedTool& tool : group.tools) {
-            expected += QString::fromUtf8(tool.address);
-        }
-        for (auto* const button : pages.currentWidget()->findChildren<QPushButton*>()) {
-            button->click();
-        }
-        relatedApps.findChild<MainTabView*>()->setSelectIndex(1);
-    }
-    EXPECT_EQ(opened, expected);
 }
 
 class MainTabViewTest : public testing::Test {
@@ -144,34 +96,6 @@ TEST_F(MainTabViewTest, assistiveToolsSeePageTabsThatCanBePressed) {
     EXPECT_EQ(list->childAt(center.x(), center.y()), tab);
     tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(tab->state().selected && !posts.empty());
-}
-
-TEST_F(MainTabViewTest, keepsItsHitRectanglesAtTheBottomUntilAnyWindowIsResized) {
-    const QRect tab = bar.accessibleItemRect(0);
-    bar.resize(700, 64);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(bar.accessibleItemRect(0), tab.translated(0, 32));
-    QWidget{}.show();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(bar.accessibleItemRect(0), tab.translated(100, 32));
-}
-
-TEST_F(MainTabViewTest, paintsItsOwnColoursOnEveryDesktop) {
-    const QImage light = bar.grab().toImage();
-    bar.setPalette(darkPalette());
-    EXPECT_EQ(bar.grab().toImage(), light);
-    const int box = bar.accessibleItemRect(0).left() + 3;
-    const int separator = bar.accessibleItemRect(1).right() + 3;
-    const std::vector<std::array<int, 3>> levels{
-        {2, 31, 179}, {2, 0, 220}, {box, 16, 169}, {separator, 16, 85}, {separator + 1, 16, 255}};
-    for (const auto& [x, y, level] : levels) {
-        EXPECT_NEAR(light.pixelColor(x, y).red(), level, 2) << x;
-    }
-    EXPECT_NE(light.copy(QRect{centerOf(1), QSize{1, 1}}.adjusted(-9, -6, 9, 6)),
-              light.copy(QRect{centerOf(2), QSize{1, 1}}.adjusted(-9, -6, 9, 6)))
-        << "the titles";
-    bar.setFocus();
-    EXPECT_LT(bar.grab().toImage().pixelColor(box, 6).red(), 80) << "the focus is visible";
 }
 
 } // namespace
