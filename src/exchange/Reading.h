@@ -1,0 +1,26 @@
+#pragma once
+
+#include "model/Gradient.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+/// A gradient found in a text, and in how far it is not what was written there.
+struct FoundGradient {
+    Gradient gradient;              ///< positions 0 ... 1, stops in the order written
+    std::string name;               ///< the rule's selector; of SVG the id; empty: it has none
+    std::vector<std::string> notes; ///< what was changed, each a short phrase, such as "37° taken as 45°"
+};
+
+struct Reading {
+    std::vector<FoundGradient> gradients;
+    bool complete = true; ///< false: a limit was reached
+};
+
+/// Is told the share 0 ... 1 that is read; false from it ends the reading, which is then empty.
+using Progress = std::function<bool(double share)>;
+
+} // namespace tessaly
