@@ -8,8 +8,6 @@
 namespace tessaly {
 namespace {
 
-constexpr char32_t replacementCharacter = 0xFFFD;
-
 // Takes the next code point off the front of `text`.
 char32_t takeCodePoint(std::u16string_view& text) {
     const char16_t unit = text.front();
@@ -21,21 +19,23 @@ char32_t takeCodePoint(std::u16string_view& text) {
         const char32_t low = next - 0xDC00U;
         return 0x10000U + (high << 10U) + low;
     }
-    return isHighSurrogate(unit) || isLowSurrogate(unit) ? replacementCharacter : unit;
-}
-
-void append(std::string& out, char32_t codePoint) {
-    constexpr std::array leads{0x00U, 0xC0U, 0xE0U, 0xF0U}; // by the number of bytes that follow
-    const unsigned following = codePoint < 0x80 ? 0 : codePoint < 0x800 ? 1 : codePoint < 0x10000 ? 2 : 3;
-    unsigned shift = 6 * following;
-    out += static_cast<char>(leads[following] | (codePoint >> shift));
-    while (shift > 0) {
-        shift -= 6;
-        out += static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
-    }
+    return unit;
 }
 
 } // namespace
+
+void appendUtf8(std::string& text, char32_t character) {
+    const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
+    const char32_t codePoint = isSurrogate || character > 0x10FFFF ? replacementCharacter : character;
+    constexpr std::array leads{0x00U, 0xC0U, 0xE0U, 0xF0U}; // by the number of bytes that follow
+    const unsigned following = codePoint < 0x80 ? 0 : codePoint < 0x800 ? 1 : codePoint < 0x10000 ? 2 : 3;
+    unsigned shift = 6 * following;
+    text += static_cast<char>(leads[following] | (codePoint >> shift));
+    while (shift > 0) {
+        shift -= 6;
+        text += static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
+    }
+}
 
 std::string toUtf8(std::u16string_view text) {
     if (std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; })) { // generated code
@@ -44,7 +44,7 @@ std::string toUtf8(std::u16string_view text) {
     std::string out;
     out.reserve(text.size());
     while (!text.empty()) {
-        append(out, takeCodePoint(text));
+        appendUtf8(out, takeCodePoint(text));
     }
     return out;
 }

@@ -5,6 +5,11 @@
 
 namespace tessaly {
 
+inline constexpr char32_t replacementCharacter = 0xFFFD;
+
+/// Adds a character to UTF-8 text; U+FFFD for a surrogate and for what lies beyond the last character.
+void appendUtf8(std::string& text, char32_t character);
+
 /// UTF-16 text as UTF-8; a surrogate without its partner becomes U+FFFD.
 std::string toUtf8(std::u16string_view text);
 

@@ -1,0 +1,44 @@
+#pragma once
+
+/// The classes of characters of CSS, independent of the locale. Every byte of a character outside ASCII may
+/// be part of a name, well-formed or not.
+namespace tessaly {
+
+constexpr bool isCssBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
+}
+
+constexpr bool isCssLineBreak(char c) {
+    return c == '\n' || c == '\r' || c == '\f';
+}
+
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+constexpr char lowered(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+constexpr bool isLetter(char c) {
+    return lowered(c) >= 'a' && lowered(c) <= 'z';
+}
+
+/// 0 ... 15; -1: it is no hexadecimal digit.
+constexpr int hexDigit(char c) {
+    if (isDigit(c)) {
+        return c - '0';
+    }
+    const char letter = lowered(c);
+    return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : -1;
+}
+
+constexpr bool startsCssName(char c) {
+    return isLetter(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80;
+}
+
+constexpr bool isInCssName(char c) {
+    return startsCssName(c) || isDigit(c) || c == '-';
+}
+
+} // namespace tessaly

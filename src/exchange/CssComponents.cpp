@@ -1,0 +1,72 @@
+#include "exchange/CssComponents.h"
+
+#include "exchange/CssBrackets.h"
+#include "exchange/CssName.h"
+#include "exchange/CssTokenizer.h"
+
+#include <algorithm>
+
+namespace tessaly {
+
+using Kind = CssToken::Kind;
+
+bool CssComponent::isIdent(std::string_view name) const {
+    return token.kind == Kind::Ident && isCssName(token.name, name);
+}
+
+CssComponents readCssComponents(std::string_view text, std::size_t place, std::size_t most) {
+    CssTokenizer tokens{text, place};
+    CssComponents components;
+    CssBrackets brackets;
+    const auto complete = [&](std::size_t contentEnd, std::size_t end) {
+        CssComponent& last = components.list.back();
+        const std::size_t contentBegin = last.token.end();
+        last.text = text.substr(last.token.begin, end - last.token.begin);
+        last.content = text.substr(contentBegin, contentEnd - contentBegin);
+    };
+    for (CssToken token = tokens.next(); token.kind != Kind::End; token = tokens.next()) {
+        const bool within = !brackets.empty();
+        if (token.kind == Kind::Close) {
+            if (brackets.close(token.text.front())) {
+                if (brackets.empty() && components.complete) {
+                    complete(token.begin, token.end());
+                }
+                continue;
+            }
+            if (!within && token.is(')')) {
+                components.end = token.end();
+                return components;
+            }
+            components.balanced = false;
+        }
+        if (!within && token.kind != Kind::Blank) {
+            components.complete = components.complete && components.list.size() < most;
+            if (components.complete) {
+                components.list.push_back({token, token.text, {}});
+            }
+        }
+        if (token.kind == Kind::Function || token.kind == Kind::Open) {
+            brackets.open(token.text.back());
+        }
+    }
+    if (!brackets.empty() && components.complete) {
+        complete(text.size(), text.size());
+    }
+    components.end = text.size();
+    return components;
+}
+
+std::vector<CssArgument> argumentsOf(CssArgument components) {
+    std::vector<CssArgument> arguments;
+    auto begin = components.begin();
+    for (;;) {
+        const auto end = std::find_if(begin, components.end(), [](const auto& c) { return c.isComma(); });
+        arguments.emplace_back(begin, end);
+        if (end == components.end()) {
+            return arguments;
+        }
+        begin = end + 1;
+    }
+}
+
+} // namespace tessaly

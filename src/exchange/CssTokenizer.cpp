@@ -1,0 +1,221 @@
+#include "exchange/CssTokenizer.h"
+
+#include "exchange/CssCharacter.h"
+#include "exchange/CssName.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace tessaly {
+namespace {
+
+using Kind = CssToken::Kind;
+
+// Larger ones serve nobody, and what is computed from these stays finite.
+constexpr double largestNumber = 1e30;
+
+double numberOf(std::string_view text) {
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    double number = 0.0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (result.ec == std::errc::result_out_of_range) {
+        const auto exponent = text.find_first_of("eE");
+        const bool tiny = exponent != text.npos ? text[exponent + 1] == '-' : text.find('.') < 5;
+        return tiny ? 0.0 : text.starts_with('-') ? -largestNumber : largestNumber;
+    }
+    return std::clamp(number, -largestNumber, largestNumber);
+}
+
+} // namespace
+
+bool CssTokenizer::startsEscape(std::size_t place) const {
+    return at(place) == '\\' && place + 1 < text_.size() && !isCssLineBreak(text_[place + 1]);
+}
+
+bool CssTokenizer::startsName(std::size_t place) const {
+    if (at(place) == '-') {
+        ++place;
+        return at(place) == '-' || startsCssName(at(place)) || startsEscape(place);
+    }
+    return startsCssName(at(place)) || startsEscape(place);
+}
+
+bool CssTokenizer::startsNumber(std::size_t place) const {
+    if (at(place) == '+' || at(place) == '-') {
+        ++place;
+    }
+    return isDigit(at(place)) || (at(place) == '.' && isDigit(at(place + 1)));
+}
+
+std::size_t CssTokenizer::blanksEnd(std::size_t place) const {
+    while (isCssBlank(at(place))) {
+        ++place;
+    }
+    return place;
+}
+
+// A blank behind hexadecimal digits belongs to the escape.
+std::size_t CssTokenizer::escapeEnd(std::size_t place) const {
+    const std::size_t digits = place + 1;
+    std::size_t end = digits;
+    while (end < digits + 6 && hexDigit(at(end)) >= 0) {
+        ++end;
+    }
+    if (end == digits) {
+        return digits + 1;
+    }
+    if (at(end) == '\r' && at(end + 1) == '\n') {
+        return end + 2;
+    }
+    return isCssBlank(at(end)) ? end + 1 : end;
+}
+
+std::size_t CssTokenizer::nameEnd(std::size_t place) const {
+    while (isInCssName(at(place)) || startsEscape(place)) {
+        place = text_[place] == '\\' ? escapeEnd(place) : place + 1;
+    }
+    return place;
+}
+
+std::size_t CssTokenizer::numberEnd(std::size_t place) const {
+    const auto digitsEnd = [&](std::size_t end) {
+        while (isDigit(at(end))) {
+            ++end;
+        }
+        return end;
+    };
+    std::size_t end = digitsEnd(at(place) == '+' || at(place) == '-' ? place + 1 : place);
+    if (at(end) == '.' && isDigit(at(end + 1))) {
+        end = digitsEnd(end + 1);
+    }
+    if (lowered(at(end)) == 'e') {
+        const std::size_t exponent = at(end + 1) == '+' || at(end + 1) == '-' ? end + 2 : end + 1;
+        end = isDigit(at(exponent)) ? digitsEnd(exponent) : end;
+    }
+    return end;
+}
+
+void CssTokenizer::passComments() {
+    while (at(place_) == '/' && at(place_ + 1) == '*') {
+        const auto close = text_.find("*/", place_ + 2);
+        place_ = close == text_.npos ? text_.size() : close + 2;
+    }
+}
+
+CssToken CssTokenizer::take(Kind kind, std::size_t end, std::string_view name) {
+    const CssToken token{kind, place_, text_.substr(place_, end - place_), name};
+    place_ = token.end();
+    return token;
+}
+
+CssToken CssTokenizer::takeName() {
+    const std::size_t end = nameEnd(place_);
+    const std::string_view name = text_.substr(place_, end - place_);
+    if (at(end) != '(') {
+        return take(Kind::Ident, end, name);
+    }
+    const std::size_t argument = blanksEnd(end + 1);
+    if (isCssName(name, "url") && at(argument) != '"' && at(argument) != '\'') {
+        return takeUrl(argument);
+    }
+    return take(Kind::Function, end + 1, name);
+}
+
+CssToken CssTokenizer::takeNumber() {
+    const std::size_t end = numberEnd(place_);
+    const double number = numberOf(text_.substr(place_, end - place_));
+    CssToken token;
+    if (at(end) == '%') {
+        token = take(Kind::Percentage, end + 1);
+    } else if (startsName(end)) {
+        const std::size_t unitEnd = nameEnd(end);
+        token = take(Kind::Dimension, unitEnd, text_.substr(end, unitEnd - end));
+    } else {
+        token = take(Kind::Number, end);
+    }
+    token.number = number;
+    return token;
+}
+
+CssToken CssTokenizer::takeString() {
+    const std::size_t start = place_ + 1;
+    const char quote = text_[place_];
+    for (std::size_t end = start; end < text_.size(); ++end) {
+        const char c = text_[end];
+        if (c == quote) {
+            return take(Kind::String, end + 1, text_.substr(start, end - start));
+        }
+        if (isCssLineBreak(c)) {
+            return take(Kind::BadString, end);
+        }
+        if (c == '\\') {
+            end += at(end + 1) == '\r' && at(end + 2) == '\n' ? 2 : 1;
+        }
+    }
+    return take(Kind::String, text_.size(), text_.substr(start));
+}
+
+// Without quotes. One with a wrong character within ends at the same bracket.
+CssToken CssTokenizer::takeUrl(std::size_t place) {
+    const std::size_t start = place;
+    while (place < text_.size() && text_[place] != ')') {
+        place = startsEscape(place) ? escapeEnd(place) : place + 1;
+    }
+    const std::size_t contentEnd = std::min(place, text_.size());
+    return take(Kind::Url, std::min(contentEnd + 1, text_.size()), text_.substr(start, contentEnd - start));
+}
+
+CssToken CssTokenizer::takeMark() {
+    const std::size_t end = place_ + 1;
+    switch (text_[place_]) {
+    case ':':
+        return take(Kind::Colon, end);
+    case ';':
+        return take(Kind::Semicolon, end);
+    case ',':
+        return take(Kind::Comma, end);
+    case '(':
+    case '[':
+    case '{':
+        return take(Kind::Open, end);
+    case ')':
+    case ']':
+    case '}':
+        return take(Kind::Close, end);
+    default:
+        return take(Kind::Other, end);
+    }
+}
+
+CssToken CssTokenizer::next() {
+    passComments();
+    const char c = at(place_);
+    if (place_ >= text_.size()) {
+        return take(Kind::End, place_);
+    }
+    if (isCssBlank(c)) {
+        return take(Kind::Blank, blanksEnd(place_));
+    }
+    if (c == '"' || c == '\'') {
+        return takeString();
+    }
+    if (startsNumber(place_)) {
+        return takeNumber();
+    }
+    if (startsName(place_)) {
+        return takeName();
+    }
+    if (c == '#' && (isInCssName(at(place_ + 1)) || startsEscape(place_ + 1))) {
+        const std::size_t end = nameEnd(place_ + 1);
+        return take(Kind::Hash, end, text_.substr(place_ + 1, end - place_ - 1));
+    }
+    if (c == '@' && startsName(place_ + 1)) {
+        const std::size_t end = nameEnd(place_ + 1);
+        return take(Kind::AtKeyword, end, text_.substr(place_ + 1, end - place_ - 1));
+    }
+    return takeMark();
+}
+
+} // namespace tessaly
