@@ -37,6 +37,19 @@ void appendUtf8(std::string& text, char32_t character) {
     }
 }
 
+std::string_view utf8Prefix(std::string_view text, std::size_t most) {
+    const auto continues = [&](std::size_t place) {
+        return (static_cast<unsigned char>(text[place]) & 0xC0U) == 0x80U;
+    };
+    if (text.size() <= most) {
+        return text;
+    }
+    while (most > 0 && continues(most)) {
+        --most;
+    }
+    return text.substr(0, most);
+}
+
 std::string toUtf8(std::u16string_view text) {
     if (std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; })) { // generated code
         return {text.begin(), text.end()};

@@ -1,0 +1,106 @@
+#include "exchange/CssColorReader.h"
+#include "exchange/CssGradientSyntax.h"
+#include "exchange/CssMixing.h"
+#include "exchange/CssQuantity.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tessaly {
+namespace {
+
+struct Side {
+    std::string_view name;
+    int right;
+    int up;
+};
+
+constexpr std::array sides{Side{"left", -1, 0}, Side{"right", 1, 0}, Side{"top", 0, 1},
+                           Side{"bottom", 0, -1}};
+
+// The angle to a side or a corner, in degrees.
+std::optional<double> readSides(CssArgument argument) {
+    int right = 0;
+    int up = 0;
+    for (const CssComponent& component : argument) {
+        const auto side =
+            std::ranges::find_if(sides, [&](const Side& s) { return component.isIdent(s.name); });
+        const bool isNew = side != sides.end() && (side->up == 0 ? right == 0 : up == 0);
+        if (!isNew) {
+            return std::nullopt;
+        }
+        right += side->right;
+        up += side->up;
+    }
+    return argument.empty() ? std::nullopt : std::optional{degreesOf(right, up)};
+}
+
+std::optional<double> readAngle(const CssComponent& component) {
+    const auto quantity = readCssQuantity(component);
+    const bool isAngle = quantity && (quantity->kind == CssQuantity::Kind::Angle ||
+                                      (quantity->kind == CssQuantity::Kind::Number && quantity->isZero()));
+    return isAngle ? std::optional{quantity->value} : std::nullopt;
+}
+
+std::optional<double> readWay(CssArgument argument) {
+    if (argument.size() == 1) {
+        return readAngle(argument.front());
+    }
+    const bool isTo = !argument.empty() && argument.front().isIdent("to");
+    return isTo ? readSides(argument.subspan(1)) : std::nullopt;
+}
+
+// The side that it starts from, or an angle, or both, of which the angle counts.
+std::optional<double> readOldWay(CssArgument argument) {
+    for (const CssComponent& component : argument) {
+        if (const auto angle = readAngle(component)) {
+            return 90 - *angle;
+        }
+    }
+    std::vector<CssComponent> named;
+    std::ranges::copy_if(argument, std::back_inserter(named),
+                         [](const CssComponent& c) { return !c.isIdent("center"); });
+    const auto from = readSides(named);
+    return from ? std::optional{*from + 180} : std::nullopt;
+}
+
+constexpr double downwards = 180; // where nothing is said
+
+} // namespace
+
+std::optional<GradientDraft> readStandardLinear(CssArguments arguments) {
+    GradientDraft draft;
+    if (startsWithColor(arguments.front())) {
+        draft.takeDirection(nearestDirection(downwards));
+        return withStops(std::move(draft), arguments);
+    }
+    const auto mixing = readCssMixing(arguments.front());
+    if (!mixing) {
+        return std::nullopt;
+    }
+    const bool onlyMixed = mixing->rest.empty() && !mixing->space.empty();
+    const auto degrees = onlyMixed ? std::optional{downwards} : readWay(mixing->rest);
+    if (!degrees) {
+        return std::nullopt;
+    }
+    draft.takeDirection(nearestDirection(*degrees));
+    return withStops(std::move(draft), arguments.subspan(1), mixing->space);
+}
+
+std::optional<GradientDraft> readPrefixedLinear(CssArguments arguments, bool knowsTo) {
+    GradientDraft draft;
+    const CssArgument first = arguments.front();
+    if (startsWithColor(first)) {
+        draft.takeDirection(nearestDirection(downwards));
+        return withStops(std::move(draft), arguments);
+    }
+    const bool saysTo = knowsTo && !first.empty() && first.front().isIdent("to");
+    const auto degrees = saysTo ? readWay(first) : readOldWay(first);
+    if (!degrees) {
+        return std::nullopt;
+    }
+    draft.takeDirection(nearestDirection(*degrees));
+    return withStops(std::move(draft), arguments.subspan(1));
+}
+
+} // namespace tessaly

@@ -1,0 +1,173 @@
+#include "exchange/CssColorReader.h"
+#include "exchange/CssGradientSyntax.h"
+#include "exchange/CssName.h"
+#include "exchange/CssQuantity.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+using Kind = CssQuantity::Kind;
+
+// Along one side of the box: a share of it, downwards for the vertical one, or px.
+struct Coordinate {
+    double value = 0.0;
+    bool isPx = false;
+};
+
+struct PointOfBox {
+    Coordinate x;
+    Coordinate y;
+
+    bool isPx() const { return x.isPx || y.isPx; }
+    bool isCenter() const { return !isPx() && x.value == 0.5 && y.value == 0.5; }
+};
+
+struct NamedCoordinate {
+    std::string_view name;
+    double share;
+};
+
+using Names = std::array<NamedCoordinate, 3>;
+constexpr Names horizontal{{{"left", 0.0}, {"center", 0.5}, {"right", 1.0}}};
+constexpr Names vertical{{{"top", 0.0}, {"center", 0.5}, {"bottom", 1.0}}};
+
+std::optional<Coordinate> readCoordinate(const CssComponent& component, const Names& names) {
+    const auto name =
+        std::ranges::find_if(names, [&](const NamedCoordinate& n) { return component.isIdent(n.name); });
+    if (name != names.end()) {
+        return Coordinate{name->share};
+    }
+    const auto quantity = readCssQuantity(component);
+    if (!quantity || quantity->kind == Kind::Angle) {
+        return std::nullopt;
+    }
+    return quantity->kind == Kind::Percent ? Coordinate{quantity->value / 100}
+                                           : Coordinate{quantity->value, !quantity->isZero()};
+}
+
+std::optional<PointOfBox> readPoint(CssArgument argument) {
+    if (argument.size() != 2) {
+        return std::nullopt;
+    }
+    const auto x = readCoordinate(argument[0], horizontal);
+    const auto y = readCoordinate(argument[1], vertical);
+    return x && y ? std::optional{PointOfBox{*x, *y}} : std::nullopt;
+}
+
+std::optional<CssQuantity> readRadius(CssArgument argument) {
+    const auto radius = argument.size() == 1 ? readCssQuantity(argument.front()) : std::nullopt;
+    const bool fits = radius && radius->kind != Kind::Angle && radius->value >= 0;
+    return fits ? radius : std::nullopt;
+}
+
+// from(), to() and color-stop(); false: it is none of them.
+bool readPointStop(const CssComponent& component, std::vector<WrittenStop>& stops, bool& hasEnds) {
+    const CssComponents content = readCssComponents(component.content, 0, 4);
+    if (!component.isFunction() || !content.complete || !content.balanced || content.list.empty()) {
+        return false;
+    }
+    const auto color = readCssColor(content.list.back());
+    const bool isFrom = isCssName(component.token.name, "from");
+    if (isFrom || isCssName(component.token.name, "to")) {
+        hasEnds = true;
+        stops.push_back({color, isFrom ? 0.0 : 1.0});
+        return color && content.list.size() == 1;
+    }
+    const auto position = readCssQuantity(content.list.front());
+    if (!isCssName(component.token.name, "color-stop") || content.list.size() != 3 || !color ||
+        !content.list[1].isComma() || !position) {
+        return false;
+    }
+    const bool isPercent = position->kind == Kind::Percent;
+    stops.push_back({color, isPercent ? position->value / 100 : position->value});
+    return isPercent || position->kind == Kind::Number;
+}
+
+// The order is that of the text. Where from() and to() are, it says nothing: browsers sort, and so it is
+// here.
+std::optional<GradientDraft> withPointStops(GradientDraft draft, CssArguments arguments) {
+    bool hasEnds = false;
+    for (const CssArgument argument : arguments) {
+        if (argument.size() != 1 || !readPointStop(argument.front(), draft.stops, hasEnds)) {
+            return std::nullopt;
+        }
+    }
+    if (hasEnds) {
+        std::ranges::stable_sort(draft.stops, {},
+                                 [](const WrittenStop& s) { return s.position.value_or(0); });
+    }
+    return draft.stops.empty() ? std::nullopt : std::optional{std::move(draft)};
+}
+
+std::optional<GradientDraft> readLinear(const PointOfBox& from, const PointOfBox& to) {
+    const double right = to.x.value - from.x.value;
+    const double up = from.y.value - to.y.value;
+    const bool mixedUnits = (from.isPx() || to.isPx()) && [&] {
+        const std::array all{from.x, from.y, to.x, to.y};
+        return std::ranges::any_of(all, [](const Coordinate& c) { return !c.isPx && c.value != 0; });
+    }();
+    if ((right == 0 && up == 0) || mixedUnits) {
+        return std::nullopt;
+    }
+    GradientDraft draft;
+    const LinearDirection direction = nearestDirection(degreesOf(right, up));
+    draft.takeDirection(direction);
+    if (from.isPx() || to.isPx()) {
+        draft.notes.emplace_back("lengths left out");
+        return draft;
+    }
+    const double x = std::round(std::sin(direction.degrees * std::numbers::pi / 180));
+    const double y = std::round(std::cos(direction.degrees * std::numbers::pi / 180));
+    const double length = std::abs(x) + std::abs(y);
+    draft.start = 0.5 + ((from.x.value - 0.5) * x + (0.5 - from.y.value) * y) / length;
+    draft.span = (right * x + up * y) / length;
+    return draft;
+}
+
+// Everything else than a circle that fills the box is told.
+GradientDraft readRadial(const PointOfBox& center, const CssQuantity& inner, const CssQuantity& outer,
+                         CssArgument size) {
+    GradientDraft draft;
+    draft.orientation = orientation::radial;
+    if (outer.kind != Kind::Percent || outer.value != 100) {
+        draft.notes.push_back("size " + std::string{size.front().text} + " taken as farthest-corner");
+    }
+    if (!center.isCenter()) {
+        draft.notes.emplace_back("other place taken as center");
+    }
+    if (inner.kind == outer.kind && outer.value > inner.value) {
+        draft.start = inner.value / outer.value;
+        draft.span = 1 - draft.start;
+    }
+    return draft;
+}
+
+} // namespace
+
+std::optional<GradientDraft> readPointToPoint(CssArguments arguments, bool radial) {
+    const std::size_t places = radial ? 4 : 2;
+    if (arguments.size() <= places) {
+        return std::nullopt;
+    }
+    const auto from = readPoint(arguments[0]);
+    const auto to = readPoint(arguments[radial ? 2 : 1]);
+    if (!from || !to) {
+        return std::nullopt;
+    }
+    if (!radial) {
+        auto draft = readLinear(*from, *to);
+        return draft ? withPointStops(std::move(*draft), arguments.subspan(places)) : std::nullopt;
+    }
+    const auto inner = readRadius(arguments[1]);
+    const auto outer = readRadius(arguments[3]);
+    if (!inner || !outer) {
+        return std::nullopt;
+    }
+    return withPointStops(readRadial(*to, *inner, *outer, arguments[3]), arguments.subspan(places));
+}
+
+} // namespace tessaly
