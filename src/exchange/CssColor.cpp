@@ -177,7 +177,7 @@ bool mixesInSrgb(const CssComponent& color) {
 
 std::optional<ReadColor> readCssColor(std::string_view text) {
     const CssComponents value = readCssComponents(text, 0, 2);
-    const bool isOne = value.complete && value.balanced && value.list.size() == 1 && value.end == text.size();
+    const bool isOne = value.complete && value.balanced && !value.closed && value.list.size() == 1;
     return isOne ? readCssColor(value.list.front()) : std::nullopt;
 }
 

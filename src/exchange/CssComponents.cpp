@@ -35,6 +35,7 @@ CssComponents readCssComponents(std::string_view text, std::size_t place, std::s
             }
             if (!within && token.is(')')) {
                 components.end = token.end();
+                components.closed = true;
                 return components;
             }
             components.balanced = false;

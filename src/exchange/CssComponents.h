@@ -25,6 +25,7 @@ struct CssComponents {
     std::vector<CssComponent> list;
     std::size_t end = 0;  ///< behind the closing bracket, or the end of the text
     bool complete = true; ///< false: there are more than are kept
+    bool closed = false;  ///< whether a bracket closed it
     bool balanced = true; ///< false: a closing bracket has no partner
 };
 

@@ -21,7 +21,8 @@ std::string nameOf(std::string_view selector) {
     CssTokenizer tokens{selector};
     for (CssToken token = tokens.next(); token.kind != Kind::End && name.size() < longestName;
          token = tokens.next()) {
-        name += token.kind == Kind::Blank ? " " : token.text.substr(0, longestName);
+        const bool isFurtherBlank = token.kind == Kind::Blank && name.ends_with(' ');
+        name += token.kind != Kind::Blank ? token.text.substr(0, longestName) : isFurtherBlank ? "" : " ";
     }
     const auto begin = std::min(name.find_first_not_of(' '), name.size());
     const auto end = name.find_last_not_of(' ') + 1;

@@ -22,6 +22,7 @@ std::optional<GradientDraft> withStops(GradientDraft draft, CssArguments stops, 
         draft.notes.push_back("mixing in " + std::string{mixing} + " taken as in srgb");
     }
     std::ranges::copy(list->notes, std::back_inserter(draft.notes));
+    draft.hasLengths = list->hasLengths;
     draft.stops = std::move(list->stops);
     return draft;
 }

@@ -77,11 +77,11 @@ std::optional<double> wholeLength(const std::vector<UnresolvedStop>& stops) {
 }
 
 void resolve(const std::vector<UnresolvedStop>& unresolved, CssStops& result) {
-    const bool hasLengths = std::ranges::any_of(unresolved, [](const UnresolvedStop& stop) {
+    result.hasLengths = std::ranges::any_of(unresolved, [](const UnresolvedStop& stop) {
         return stop.position && stop.position->kind == Kind::Length && !stop.position->isZero();
     });
     const auto whole = wholeLength(unresolved);
-    if (hasLengths) {
+    if (result.hasLengths) {
         result.notes.emplace_back(whole ? "lengths taken in proportion" : "lengths left out");
     }
     for (const UnresolvedStop& stop : unresolved) {

@@ -9,6 +9,7 @@ namespace tessaly {
 struct CssStops {
     std::vector<WrittenStop> stops;
     bool mixesInSrgb = true; ///< where the gradient says nothing else
+    bool hasLengths = false;
     std::vector<std::string> notes;
 };
 

@@ -25,7 +25,7 @@ FoundGradient GradientDraft::finished() const {
     if (std::ranges::any_of(stops, [](const WrittenStop& s) { return s.color && s.color->clipped; })) {
         found.notes.emplace_back("colors outside sRGB clipped");
     }
-    if (repeating && !placement.coversAll()) {
+    if (repeating && (hasLengths || !placement.coversAll())) {
         found.notes.emplace_back("repeating gradient taken once");
     }
     return found;

@@ -12,8 +12,9 @@ struct GradientDraft {
     std::int64_t orientation = orientation::leftToRight;
     bool turned = false;
     bool repeating = false;
-    double start = 0.0; ///< where 0 of the positions lies along the direction
-    double span = 1.0;  ///< how far 1 lies behind it
+    bool hasLengths = false; ///< the box may be larger than what the stops cover
+    double start = 0.0;      ///< where 0 of the positions lies along the direction
+    double span = 1.0;       ///< how far 1 lies behind it
     std::vector<std::string> notes;
 
     /// The direction, with a note where it is not exact.

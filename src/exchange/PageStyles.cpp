@@ -53,7 +53,7 @@ bool PageStyles::readTag() {
             return false;
         }
     }
-    ++place_;
+    place_ = std::min(place_ + 1, page_.size());
     return readContent(element);
 }
 

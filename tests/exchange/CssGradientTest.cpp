@@ -1,0 +1,172 @@
+#include "exchange/CssReader.h"
+#include "support/ReadGradients.h"
+
+#include <gtest/gtest.h>
+
+namespace tessaly {
+namespace {
+
+struct Row {
+    std::string_view text;
+    std::string_view expected;
+};
+
+void expectAll(std::string_view before, std::initializer_list<Row> rows, std::string_view after) {
+    for (const auto& [text, expected] : rows) {
+        const std::string whole = std::string{before}.append(text).append(after);
+        EXPECT_EQ(described(readCssGradients(whole)), expected) << whole;
+    }
+}
+
+TEST(CssGradient, takesTheNearestDirection) {
+    expectAll(
+        "linear-gradient(",
+        {
+            {"", "0 #0000ff 0, #ff0000 100"},
+            {"to top,", "0 #ff0000 0, #0000ff 100"},
+            {"to left, ", "1 #0000ff 0, #ff0000 100"},
+            {"TO right top, ", "2 #ff0000 0, #0000ff 100"},
+            {"to bottom right,", "3 #0000ff 0, #ff0000 100"},
+            {"0,", "0 #ff0000 0, #0000ff 100"},
+            {"-45deg,", "3 #ff0000 0, #0000ff 100"},
+            {"calc(0.25turn + 45deg),", "3 #0000ff 0, #ff0000 100"},
+            {"250grad,", "2 #0000ff 0, #ff0000 100"},
+            {"1.570796rad,", "1 #ff0000 0, #0000ff 100"},
+            {"37deg,", "2 #ff0000 0, #0000ff 100 (37° taken as 45°)"},
+            {"340deg,", "0 #ff0000 0, #0000ff 100 (340° taken as 0°)"},
+            {"-1e30turn,", "0 #ff0000 0, #0000ff 100"},
+            {"in oklch longer hue to top,", "0 #ff0000 0, #0000ff 100 (mixing in oklch taken as in srgb)"},
+            {"in srgb,", "0 #0000ff 0, #ff0000 100"},
+            {"left,", ""},
+            {"to,", ""},
+            {"to left right,", ""},
+            {"45,", ""},
+            {"in nothing,", ""},
+            {",", ""},
+        },
+        "red, blue)");
+    expectAll(
+        "-webkit-",
+        {
+            {"linear-gradient(red, blue)", "0 #0000ff 0, #ff0000 100"},
+            {"linear-gradient(left, red, blue)", "1 #ff0000 0, #0000ff 100"},
+            {"linear-gradient(bottom left, red, blue)", "2 #ff0000 0, #0000ff 100"},
+            {"linear-gradient(0deg, red, blue)", "1 #ff0000 0, #0000ff 100"},
+            {"linear-gradient(135deg, red, blue)", "3 #ff0000 0, #0000ff 100"},
+            {"linear-gradient(-90deg, red, blue)", "0 #0000ff 0, #ff0000 100"},
+            {"linear-gradient(20deg, red, blue)", "1 #ff0000 0, #0000ff 100 (70° taken as 90°)"},
+            {"linear-gradient(to left, red, blue)", ""},
+            {"radial-gradient(red, blue)", "4 #ff0000 0, #0000ff 100"},
+            {"radial-gradient(center, ellipse cover, red, blue)", "4 #ff0000 0, #0000ff 100"},
+            {"radial-gradient(50% 50%, red, blue)", "4 #ff0000 0, #0000ff 100"},
+            {"radial-gradient(left 10px, circle contain, red, blue)",
+             "4 #ff0000 0, #0000ff 100 (place left 10px taken as center; circle taken as ellipse; "
+             "size contain taken as farthest-corner)"},
+            {"gradient(linear, left top, left bottom, from(red), to(blue), color-stop(.3, lime))",
+             "0 #0000ff 0, #00ff00 70, #ff0000 100"},
+            {"gradient(linear, 25% 50%, 75% 50%, color-stop(60%,red), color-stop(0.5,blue))",
+             "1 #ff0000 55, #0000ff 50"},
+            {"gradient(linear, 0 0, 100 20, from(red), to(blue))",
+             "1 #ff0000 0, #0000ff 100 (101.3° taken as 90°; lengths left out)"},
+            {"gradient(radial, center center, 0px, center center, 100%, color-stop(0%,red))", "4 #ff0000 0"},
+            {"gradient(radial, 50% 50%, 10, 50% 50%, 20, from(red), to(blue))",
+             "4 #ff0000 50, #0000ff 100 (size 20 taken as farthest-corner)"},
+            {"gradient(linear, left top, left top, from(red), to(blue))", ""},
+            {"gradient(linear, left top, right top)", ""},
+            {"gradient(linear, left top, right top, color-stop(red))", ""},
+            {"gradient(conic, left top, right top, from(red))", ""},
+        },
+        "");
+    expectAll("-moz-linear-gradient(",
+              {
+                  {"to right", "1 #ff0000 0, #0000ff 100"},
+                  {"center top", "0 #0000ff 0, #ff0000 100"},
+                  {"left 45deg", "2 #ff0000 0, #0000ff 100"},
+              },
+              ", red, blue)");
+    expectAll("radial-gradient(",
+              {
+                  {"ellipse at center", "4 #ff0000 0, #0000ff 100"},
+                  {"farthest-corner at 50% 50%", "4 #ff0000 0, #0000ff 100"},
+                  {"circle", "4 #ff0000 0, #0000ff 100 (circle taken as ellipse)"},
+                  {"20px 30% at top in oklab",
+                   "4 #ff0000 0, #0000ff 100 (size 20px 30% taken as farthest-corner; place top taken as "
+                   "center; mixing in oklab taken as in srgb)"},
+                  {"circle circle square", ""},
+                  {"at nowhere", ""},
+              },
+              ", red, blue)");
+}
+
+TEST(CssGradient, placesTheStops) {
+    expectAll(
+        "linear-gradient(to right,",
+        {
+            {"red", "1 #ff0000 0"},
+            {"red, lime, blue 50%, white", "1 #ff0000 0, #00ff00 25, #0000ff 50, #ffffff 100"},
+            {"red 10% 30%, 60% blue 90%", "1 #ff0000 10, #ff0000 30, #0000ff 60, #0000ff 90"},
+            {"red 60%, lime 20%, blue, white 100%", "1 #ff0000 60, #00ff00 20, #0000ff 80, #ffffff 100"},
+            {"red, 50%, blue", "1 #ff0000 0, #0000ff 100"},
+            {"red, 0%, blue", "1 #ff0000 0, #0000ff 0, #0000ff 100"},
+            {"red, 100%, blue", "1 #ff0000 0, #ff0000 100, #0000ff 100"},
+            {"red, 20%, blue", "1 #ff0000 0, #7f007f 20, #0000ff 100 (color hint taken as a stop)"},
+            {"transparent, 20%, blue",
+             "1 #000000/0 0, #0000ff/50 20, #0000ff 100 (color hint taken as a stop)"},
+            {"red 10px, lime 0.5in, blue 96px",
+             "1 #ff0000 10.4, #00ff00 50, #0000ff 100 (lengths taken in proportion)"},
+            {"red 1em, blue 4EM", "1 #ff0000 25, #0000ff 100 (lengths taken in proportion)"},
+            {"red 0, lime 0px, blue", "1 #ff0000 0, #00ff00 0, #0000ff 100"},
+            {"red, lime 10px, blue", "1 #ff0000 0, #00ff00 50, #0000ff 100 (lengths left out)"},
+            {"red 1em, blue 4px", "1 #ff0000 0, #0000ff 100 (lengths left out)"},
+            {"red -100%, blue 100%", "1 #7f007f 0, #0000ff 100 (stops outside 0 to 100% cut off)"},
+            {"red 50%, #0000 150%", "1 #ff0000 50, #ff0000/50 100 (stops outside 0 to 100% cut off)"},
+            {"red -50%, blue 150%", "1 #bf003f 0, #3f00bf 100 (stops outside 0 to 100% cut off)"},
+            {"red -50%, lime 0%, blue -20%, white 100%, red 200%",
+             "1 #00ff00 0, #0000ff 0, #ffffff 100 (stops outside 0 to 100% cut off)"},
+            {"red -50%, blue -20%", "1 #0000ff 0 (stops outside 0 to 100% cut off)"},
+            {"red 150%, blue 110%", "1 #ff0000 100 (stops outside 0 to 100% cut off)"},
+            {"red 50%, blue -20%", "1 #ff0000 50, #0000ff 50"},
+            {"red calc(100% / 4), blue", "1 #ff0000 25, #0000ff 100"},
+            {"color(display-p3 1 0 0), blue",
+             "1 #ff0000 0, #0000ff 100 (mixing in oklab taken as in srgb; colors outside sRGB clipped)"},
+            {"red, 50%", ""},
+            {"50%, red", ""},
+            {"red, 20%, 30%, blue", ""},
+            {"red blue", ""},
+            {"red 1 blue", ""},
+            {"red, blue 10deg", ""},
+            {"red, var(--x)", ""},
+            {"red, , blue", ""},
+            {"red 1% 2% 3%, blue", ""},
+            {"red, blue], green", ""},
+        },
+        ")");
+    expectAll("linear-gradient(",
+              {{"200deg, red 80%, lime 20%", "0 #00ff00 20, #ff0000 20 (200° taken as 180°)"}}, ")");
+    expectAll("repeating-",
+              {
+                  {"linear-gradient(to top, red, blue)", "0 #ff0000 0, #0000ff 100"},
+                  {"linear-gradient(90deg, red, blue 20%)",
+                   "1 #ff0000 0, #0000ff 20 (repeating gradient taken once)"},
+                  {"radial-gradient(red, blue 9px)",
+                   "4 #ff0000 0, #0000ff 100 (lengths taken in proportion; repeating gradient taken once)"},
+                  {"conic-gradient(red, blue)", ""},
+              },
+              "");
+}
+
+TEST(CssGradient, readsTheFilter) {
+    expectAll(
+        "filter: progid:DXImageTransform.Microsoft.gradient(",
+        {
+            {"startColorstr='#000000',endColorstr='#ffffff',GradientType=1 ", "1 #000000 0, #ffffff 100"},
+            {"startcolorstr='#80ff0000', endColorstr='blue'", "0 #0000ff 0, #ff0000/50.1 100"},
+            {"GradientType=0,EndColorStr=\"#fff\",StartColorStr=#123456", "0 #ffffff 0, #123456 100"},
+            {"startColorstr='#000000'", ""},
+            {"startColorstr='(null)',endColorstr='#ffffff'", ""},
+        },
+        ");");
+}
+
+} // namespace
+} // namespace tessaly

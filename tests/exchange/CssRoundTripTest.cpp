@@ -1,0 +1,84 @@
+#include "codegen/StylesheetText.h"
+#include "exchange/CssReader.h"
+#include "model/ColorFormat.h"
+#include "support/Gradients.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace tessaly {
+namespace {
+
+constexpr double cutPosition = 0.001 + 1e-6; // one decimal of a percentage, cut; single precision
+
+// How far a channel may be off that was written in a notation and read again: hexadecimal digits are cut,
+// numbers up to one too high, of hue, saturation and lightness there is a decimal or none.
+double channelDigits(std::int64_t notation) {
+    return notation >= colorFormat::hsl           ? 0.01
+           : notation == colorFormat::hexadecimal ? 1.01 / 255
+                                                  : 1.51 / 255;
+}
+
+void expectSameStop(const ColorStop& read, const ColorStop& stop, std::int64_t notation) {
+    const double opacity = colorFormat::carriesOpacity(notation) ? stop.opacity : 1.0;
+    EXPECT_LE(std::abs(read.opacity - opacity), opacity * 0.5 + 1e-9); // of one digit, 0.149 is 0.1
+    EXPECT_LE(std::abs(read.opacity - opacity), 0.05 + 1e-9);
+    EXPECT_TRUE(read.position <= stop.position + 1e-6 && read.position > stop.position - cutPosition)
+        << read.position << " for " << stop.position;
+    const RGBAComponents a = read.color.calibratedRGB().value();
+    const RGBAComponents b = stop.color.calibratedRGB().value();
+    const double most =
+        std::max({std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue)});
+    EXPECT_LE(most, channelDigits(notation));
+}
+
+void expectSame(const std::string& text, const Gradient& gradient, std::int64_t notation,
+                const std::string& name) {
+    const Reading reading = readCssGradients(text);
+    ASSERT_EQ(reading.gradients.size(), 1U) << text;
+    const FoundGradient& found = reading.gradients.front();
+    EXPECT_TRUE(reading.complete && found.notes.empty() && found.name == name) << text;
+    EXPECT_EQ(found.gradient.orientation(), gradient.orientation()) << text;
+    ASSERT_EQ(found.gradient.stops().size(), gradient.stops().size()) << text;
+    for (std::size_t i = 0; i < gradient.stops().size(); ++i) {
+        expectSameStop(found.gradient.stops()[i], gradient.stops()[i], notation);
+    }
+}
+
+// Some stops share a position, some channels are full or 0.
+Gradient randomGradient(std::mt19937& random, std::int64_t orientation) {
+    std::uniform_real_distribution<double> fraction{0.0, 1.0};
+    std::vector<ColorStop> stops(std::uniform_int_distribution<std::size_t>{1, 50}(random));
+    const auto channel = [&] { return std::clamp(fraction(random) * 1.2 - 0.1, 0.0, 1.0); };
+    for (ColorStop& stop : stops) {
+        const bool repeats = &stop != &stops.front() && fraction(random) < 0.2;
+        const double position = repeats ? (&stop)[-1].position : fraction(random);
+        stop = {position, Color::calibratedRGB(channel(), channel(), channel()), fraction(random)};
+    }
+    return Gradient{std::move(stops), orientation};
+}
+
+TEST(CssRoundTrip, readsWhatTheProgramWrites) {
+    std::mt19937 random{7};
+    for (int round = 0; round < 40 && !testing::Test::HasFailure(); ++round) {
+        for (std::int64_t orientation = orientation::bottomToTop; orientation <= orientation::radial;
+             ++orientation) {
+            for (std::int64_t notation = 0; notation < std::ssize(colorFormat::notations); ++notation) {
+                const Gradient gradient = randomGradient(random, orientation);
+                const auto texts = declarationTexts(gradient, notation);
+                using enum Declaration;
+                for (const Declaration declaration : {Standard, Moz, OldWebKit, NewWebKit, Opera, IE}) {
+                    expectSame(texts[declaration], gradient, notation, "");
+                }
+                expectSame(stylesheetText(texts), gradient, notation, ".gradient");
+                EXPECT_TRUE(readCssGradients(texts[Old]).gradients.empty());
+                const Gradient ends{
+                    {{0, gradient.stops().front().color}, {1, gradient.stops().back().color}}};
+                expectSame(texts[MSFilter], ends, colorFormat::hexadecimal, "");
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace tessaly
