@@ -2,6 +2,8 @@
 
 #include "exchange/CssQuantity.h"
 
+#include <string>
+
 namespace tessaly {
 
 /// What calc() of plain arithmetic over quantities of one kind gives. Works without recursion, so that

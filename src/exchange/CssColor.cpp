@@ -71,8 +71,8 @@ std::optional<double> channelValue(const CssChannel& channel, const CssComponent
 // What may be parted by commas has but one kind of numbers, and none of them is left out.
 bool fitsCommas(const CssColorFunction& function, std::span<const CssComponent> channels) {
     const auto isPercent = [](const CssComponent& c) {
-        const auto quantity = readCssQuantity(c);
-        return quantity && quantity->kind == QuantityKind::Percent;
+        const auto quantity = c.isFunction() ? readCssQuantity(c) : std::nullopt;
+        return c.token.kind == Kind::Percentage || (quantity && quantity->kind == QuantityKind::Percent);
     };
     const bool noneLeftOut = std::ranges::none_of(channels, isNone);
     switch (function.commas) {
@@ -92,6 +92,7 @@ std::optional<std::vector<CssComponent>> channelList(const CssColorFunction& fun
                                                      CssArgument components) {
     const auto arguments = argumentsOf(components);
     std::vector<CssComponent> list;
+    list.reserve(components.size());
     if (arguments.size() == 1) {
         list.assign(components.begin(), components.end());
         if (list.size() == 5 && list[3].token.is('/')) {
@@ -171,8 +172,11 @@ std::optional<ReadColor> readCssColor(const CssComponent& component) {
 }
 
 bool mixesInSrgb(const CssComponent& color) {
+    if (!color.isFunction()) {
+        return true;
+    }
     const CssColorFunction* function = findColorFunction(color.token.name);
-    return !color.isFunction() || (function && function->mixesInSrgb);
+    return function && function->mixesInSrgb;
 }
 
 std::optional<ReadColor> readCssColor(std::string_view text) {

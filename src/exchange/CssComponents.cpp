@@ -10,6 +10,8 @@ namespace tessaly {
 
 using Kind = CssToken::Kind;
 
+constexpr std::size_t usualCount = 16;
+
 bool CssComponent::isIdent(std::string_view name) const {
     return token.kind == Kind::Ident && isCssName(token.name, name);
 }
@@ -17,6 +19,7 @@ bool CssComponent::isIdent(std::string_view name) const {
 CssComponents readCssComponents(std::string_view text, std::size_t place, std::size_t most) {
     CssTokenizer tokens{text, place};
     CssComponents components;
+    components.list.reserve(std::min(most, usualCount));
     CssBrackets brackets;
     const auto complete = [&](std::size_t contentEnd, std::size_t end) {
         CssComponent& last = components.list.back();
@@ -58,10 +61,12 @@ CssComponents readCssComponents(std::string_view text, std::size_t place, std::s
 }
 
 std::vector<CssArgument> argumentsOf(CssArgument components) {
+    const auto isComma = [](const CssComponent& component) { return component.isComma(); };
     std::vector<CssArgument> arguments;
+    arguments.reserve(1 + static_cast<std::size_t>(std::ranges::count_if(components, isComma)));
     auto begin = components.begin();
     for (;;) {
-        const auto end = std::find_if(begin, components.end(), [](const auto& c) { return c.isComma(); });
+        const auto end = std::find_if(begin, components.end(), isComma);
         arguments.emplace_back(begin, end);
         if (end == components.end()) {
             return arguments;

@@ -55,7 +55,13 @@ std::string cssName(std::string_view written) {
 }
 
 bool isCssName(std::string_view written, std::string_view name) {
-    if (written.find('\\') != written.npos) {
+    constexpr char escape = '\\';
+    const bool mayBe = !written.empty() && written.size() >= name.size() &&
+                       (lowered(written.front()) == name.front() || written.front() == escape);
+    if (!mayBe) {
+        return false; // most names
+    }
+    if (written.find(escape) != written.npos) {
         return cssName(written) == name;
     }
     return std::ranges::equal(written, name, {}, lowered);

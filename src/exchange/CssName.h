@@ -11,7 +11,7 @@ std::string withoutCssEscapes(std::string_view text);
 /// A name as it is looked up: escapes resolved, letters of ASCII in lower case.
 std::string cssName(std::string_view written);
 
-/// Whether a name as written is `name`, which is in lower case.
+/// Whether a name as written is `name`, which is in lower case and not empty.
 bool isCssName(std::string_view written, std::string_view name);
 
 } // namespace tessaly

@@ -3,6 +3,7 @@
 #include "exchange/CssCalculation.h"
 #include "exchange/CssCharacter.h"
 #include "exchange/CssName.h"
+#include "exchange/CssNumber.h"
 
 #include <algorithm>
 #include <array>
@@ -47,13 +48,12 @@ constexpr std::array<std::string_view, 42> relativeUnits{
 std::optional<CssQuantity> withUnit(double number, std::string_view written) {
     const auto unit = std::ranges::find_if(units, [&](const Unit& u) { return isCssName(written, u.name); });
     if (unit != units.end()) {
-        return CssQuantity{unit->kind, number * unit->factor, std::string{unit->base}};
+        return CssQuantity{unit->kind, number * unit->factor, unit->base};
     }
     const std::string name = cssName(written);
-    if (std::ranges::find(relativeUnits, name) == relativeUnits.end()) {
-        return std::nullopt;
-    }
-    return CssQuantity{Kind::Length, number, name};
+    const auto* const relative = std::ranges::find(relativeUnits, name);
+    return relative == relativeUnits.end() ? std::nullopt
+                                           : std::optional{CssQuantity{Kind::Length, number, *relative}};
 }
 
 } // namespace
@@ -62,11 +62,11 @@ std::optional<CssQuantity> readCssQuantity(const CssComponent& component) {
     const CssToken& token = component.token;
     switch (token.kind) {
     case CssToken::Kind::Number:
-        return CssQuantity{Kind::Number, token.number};
+        return CssQuantity{Kind::Number, numberOf(token)};
     case CssToken::Kind::Percentage:
-        return CssQuantity{Kind::Percent, token.number};
+        return CssQuantity{Kind::Percent, numberOf(token)};
     case CssToken::Kind::Dimension:
-        return withUnit(token.number, token.name);
+        return withUnit(numberOf(token), token.name);
     case CssToken::Kind::Function:
         return isCssName(token.name, "calc") ? CssCalculation::result(component.content) : std::nullopt;
     default:

@@ -3,7 +3,6 @@
 #include "exchange/CssComponents.h"
 
 #include <optional>
-#include <string>
 
 namespace tessaly {
 
@@ -12,8 +11,8 @@ struct CssQuantity {
     enum class Kind { Number, Percent, Angle, Length };
 
     Kind kind = Kind::Number;
-    double value = 0.0; ///< angles in degrees, absolute lengths in px
-    std::string unit{}; ///< of a length, in lower case
+    double value = 0.0;      ///< angles in degrees, absolute lengths in px
+    std::string_view unit{}; ///< of a length, in lower case
 
     bool isZero() const { return value == 0.0; }
     bool operator==(const CssQuantity&) const = default;

@@ -60,16 +60,16 @@ bool hintsAreBetweenStops(const std::vector<UnresolvedStop>& stops) {
 
 // The length that is the whole gradient; none: the lengths have no common measure.
 std::optional<double> wholeLength(const std::vector<UnresolvedStop>& stops) {
-    const std::string* unit = nullptr;
+    std::string_view unit;
     double longest = 0.0;
     for (const UnresolvedStop& stop : stops) {
         if (!stop.position || stop.position->isZero()) {
             continue;
         }
-        if (stop.position->kind != Kind::Length || (unit && *unit != stop.position->unit)) {
+        if (stop.position->kind != Kind::Length || (!unit.empty() && unit != stop.position->unit)) {
             return std::nullopt;
         }
-        unit = &stop.position->unit;
+        unit = stop.position->unit;
         longest = std::max(longest, stop.position->value);
     }
     const bool endIsLength = stops.size() == 1 || stops.back().position;

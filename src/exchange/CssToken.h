@@ -32,7 +32,6 @@ struct CssToken {
     std::size_t begin = 0;   ///< offset in the text
     std::string_view text{}; ///< as it is written
     std::string_view name{}; ///< without the marks around it, escapes included; of a dimension the unit
-    double number = 0.0;
 
     bool is(char mark) const { return text.size() == 1 && text.front() == mark; }
     std::size_t end() const { return begin + text.size(); }

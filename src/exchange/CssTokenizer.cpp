@@ -4,31 +4,9 @@
 #include "exchange/CssName.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace tessaly {
-namespace {
-
 using Kind = CssToken::Kind;
-
-// Larger ones serve nobody, and what is computed from these stays finite.
-constexpr double largestNumber = 1e30;
-
-double numberOf(std::string_view text) {
-    if (text.starts_with('+')) {
-        text.remove_prefix(1);
-    }
-    double number = 0.0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (result.ec == std::errc::result_out_of_range) {
-        const auto exponent = text.find_first_of("eE");
-        const bool tiny = exponent != text.npos ? text[exponent + 1] == '-' : text.find('.') < 5;
-        return tiny ? 0.0 : text.starts_with('-') ? -largestNumber : largestNumber;
-    }
-    return std::clamp(number, -largestNumber, largestNumber);
-}
-
-} // namespace
 
 bool CssTokenizer::startsEscape(std::size_t place) const {
     return at(place) == '\\' && place + 1 < text_.size() && !isCssLineBreak(text_[place + 1]);
@@ -123,20 +101,21 @@ CssToken CssTokenizer::takeName() {
     return take(Kind::Function, end + 1, name);
 }
 
+CssToken CssTokenizer::takeMarkedName(Kind kind) {
+    const std::size_t end = nameEnd(place_ + 1);
+    return take(kind, end, text_.substr(place_ + 1, end - place_ - 1));
+}
+
 CssToken CssTokenizer::takeNumber() {
     const std::size_t end = numberEnd(place_);
-    const double number = numberOf(text_.substr(place_, end - place_));
-    CssToken token;
     if (at(end) == '%') {
-        token = take(Kind::Percentage, end + 1);
-    } else if (startsName(end)) {
-        const std::size_t unitEnd = nameEnd(end);
-        token = take(Kind::Dimension, unitEnd, text_.substr(end, unitEnd - end));
-    } else {
-        token = take(Kind::Number, end);
+        return take(Kind::Percentage, end + 1);
     }
-    token.number = number;
-    return token;
+    if (startsName(end)) {
+        const std::size_t unitEnd = nameEnd(end);
+        return take(Kind::Dimension, unitEnd, text_.substr(end, unitEnd - end));
+    }
+    return take(Kind::Number, end);
 }
 
 CssToken CssTokenizer::takeString() {
@@ -190,13 +169,18 @@ CssToken CssTokenizer::takeMark() {
 }
 
 CssToken CssTokenizer::next() {
-    passComments();
-    const char c = at(place_);
+    if (at(place_) == '/') {
+        passComments();
+    }
     if (place_ >= text_.size()) {
         return take(Kind::End, place_);
     }
+    const char c = text_[place_];
     if (isCssBlank(c)) {
         return take(Kind::Blank, blanksEnd(place_));
+    }
+    if (startsCssName(c)) {
+        return takeName();
     }
     if (c == '"' || c == '\'') {
         return takeString();
@@ -208,12 +192,10 @@ CssToken CssTokenizer::next() {
         return takeName();
     }
     if (c == '#' && (isInCssName(at(place_ + 1)) || startsEscape(place_ + 1))) {
-        const std::size_t end = nameEnd(place_ + 1);
-        return take(Kind::Hash, end, text_.substr(place_ + 1, end - place_ - 1));
+        return takeMarkedName(Kind::Hash);
     }
     if (c == '@' && startsName(place_ + 1)) {
-        const std::size_t end = nameEnd(place_ + 1);
-        return take(Kind::AtKeyword, end, text_.substr(place_ + 1, end - place_ - 1));
+        return takeMarkedName(Kind::AtKeyword);
     }
     return takeMark();
 }

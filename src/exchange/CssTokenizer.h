@@ -30,6 +30,7 @@ class CssTokenizer {
 
     CssToken take(CssToken::Kind kind, std::size_t end, std::string_view name = {});
     CssToken takeName();
+    CssToken takeMarkedName(CssToken::Kind kind);
     CssToken takeNumber();
     CssToken takeString();
     CssToken takeUrl(std::size_t place);
