@@ -24,7 +24,7 @@ constexpr std::size_t longestReference = 10; // with the largest number
 // Of what stands between & and ;.
 std::optional<char32_t> characterOf(std::string_view reference) {
     if (!reference.starts_with('#')) {
-        const auto* const row = std::ranges::find(references, reference, &Reference::name);
+        const Reference* const row = std::ranges::find(references, reference, &Reference::name);
         return row == references.end() ? std::nullopt : std::optional{row->character};
     }
     reference.remove_prefix(1);
@@ -49,7 +49,8 @@ std::string withoutCharacterReferences(std::string_view text) {
         plain += text.substr(0, mark);
         text.remove_prefix(mark);
         const auto length = text.substr(0, longestReference + 2).find(';');
-        const auto character = length == text.npos ? std::nullopt : characterOf(text.substr(1, length - 1));
+        const auto character =
+            length == std::string_view::npos ? std::nullopt : characterOf(text.substr(1, length - 1));
         if (character) {
             appendUtf8(plain, *character);
             text.remove_prefix(length + 1);

@@ -92,9 +92,7 @@ Triple fromHwb(const Triple& hwb) {
         return {grey, grey, grey};
     }
     Triple rgb = fromHsl({hwb[0], 100, 50});
-    for (double& channel : rgb) {
-        channel = channel * (1 - white - black) + white;
-    }
+    std::ranges::transform(rgb, rgb.begin(), [&](double c) { return c * (1 - white - black) + white; });
     return rgb;
 }
 

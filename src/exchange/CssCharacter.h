@@ -40,15 +40,17 @@ constexpr bool startsCssName(char c) {
     return isLetter(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80;
 }
 
-/// By the value of the byte: most of a stylesheet is names.
-inline constexpr auto cssNameBytes = [] {
+constexpr std::array<bool, 256> makeCssNameBytes() {
     std::array<bool, 256> bytes{};
     for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
         const char c = static_cast<char>(static_cast<unsigned char>(byte));
         bytes[byte] = startsCssName(c) || isDigit(c) || c == '-';
     }
     return bytes;
-}();
+}
+
+/// By the value of the byte: most of a stylesheet is names.
+inline constexpr std::array<bool, 256> cssNameBytes = makeCssNameBytes();
 
 constexpr bool isInCssName(char c) {
     return cssNameBytes[static_cast<unsigned char>(c)];

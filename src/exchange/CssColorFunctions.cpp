@@ -12,11 +12,11 @@ using Commas = CssColorFunction::Commas;
 
 // The same single-precision fraction that the number fields make of a channel.
 Triple fromBytes(const Triple& bytes) {
-    Triple rgb{};
-    std::ranges::transform(bytes, rgb.begin(), [](double byte) {
+    Triple fractions{};
+    std::ranges::transform(bytes, fractions.begin(), [](double byte) {
         return static_cast<double>(static_cast<float>(byte) / 255.0F);
     });
-    return rgb;
+    return fractions;
 }
 
 Triple fromLch(const Triple& lch) {

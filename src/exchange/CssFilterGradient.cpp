@@ -1,6 +1,8 @@
 #include "exchange/CssGradientSyntax.h"
 #include "exchange/CssName.h"
 
+#include <algorithm>
+
 namespace tessaly {
 namespace {
 
@@ -8,13 +10,13 @@ constexpr std::string_view vertical = "0";
 
 // What is behind "name=", without quotes; empty: nothing is.
 std::string valueOf(CssArguments arguments, std::string_view name) {
-    for (const CssArgument argument : arguments) {
-        if (argument.size() == 3 && argument[0].isIdent(name) && argument[1].token.is('=')) {
-            const CssToken& token = argument[2].token;
-            return withoutCssEscapes(token.kind == CssToken::Kind::String ? token.name : token.text);
-        }
+    const auto argument = std::ranges::find_if(
+        arguments, [&](CssArgument a) { return a.size() == 3 && a[0].isIdent(name) && a[1].token.is('='); });
+    if (argument == arguments.end()) {
+        return {};
     }
-    return {};
+    const CssToken& token = (*argument)[2].token;
+    return withoutCssEscapes(token.kind == CssToken::Kind::String ? token.name : token.text);
 }
 
 // As in CSS, but of eight digits the first two are the alpha.

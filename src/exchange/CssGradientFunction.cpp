@@ -49,7 +49,7 @@ std::optional<GradientDraft> readDraft(const CssGradientFunction& function, CssA
 
 std::optional<CssGradientFunction> findGradientFunction(std::string_view written) {
     constexpr std::string_view suffix = "gradient";
-    const bool isPlain = written.find('\\') == written.npos;
+    const bool isPlain = written.find('\\') == std::string_view::npos;
     if (isPlain && (written.size() < suffix.size() ||
                     !isCssName(written.substr(written.size() - suffix.size()), suffix))) {
         return std::nullopt; // nearly all names

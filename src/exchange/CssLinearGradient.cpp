@@ -23,8 +23,8 @@ std::optional<double> readSides(CssArgument argument) {
     int right = 0;
     int up = 0;
     for (const CssComponent& component : argument) {
-        const auto side =
-            std::ranges::find_if(sides, [&](const Side& s) { return component.isIdent(s.name); });
+        const auto named = [&](const Side& side) { return component.isIdent(side.name); };
+        const Side* const side = std::ranges::find_if(sides, named);
         const bool isNew = side != sides.end() && (side->up == 0 ? right == 0 : up == 0);
         if (!isNew) {
             return std::nullopt;
@@ -52,10 +52,10 @@ std::optional<double> readWay(CssArgument argument) {
 
 // The side that it starts from, or an angle, or both, of which the angle counts.
 std::optional<double> readOldWay(CssArgument argument) {
-    for (const CssComponent& component : argument) {
-        if (const auto angle = readAngle(component)) {
-            return 90 - *angle;
-        }
+    const auto isAngle = [](const CssComponent& component) { return readAngle(component).has_value(); };
+    const auto angle = std::ranges::find_if(argument, isAngle);
+    if (angle != argument.end()) {
+        return 90 - readAngle(*angle).value_or(0.0);
     }
     std::vector<CssComponent> named;
     std::ranges::copy_if(argument, std::back_inserter(named),

@@ -61,7 +61,7 @@ bool isCssName(std::string_view written, std::string_view name) {
     if (!mayBe) {
         return false; // most names
     }
-    if (written.find(escape) != written.npos) {
+    if (written.find(escape) != std::string_view::npos) {
         return cssName(written) == name;
     }
     return std::ranges::equal(written, name, {}, lowered);

@@ -12,7 +12,7 @@ constexpr double largestNumber = 1e30;
 // Of a number that no double can hold: 0, or the largest.
 double outOfRange(std::string_view text) {
     const auto exponent = text.find_first_of("eE");
-    const bool isTiny = exponent != text.npos ? text[exponent + 1] == '-' : text.find('.') < 5;
+    const bool isTiny = exponent != std::string_view::npos ? text[exponent + 1] == '-' : text.find('.') < 5;
     if (isTiny) {
         return 0.0;
     }

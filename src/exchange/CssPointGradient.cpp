@@ -36,8 +36,8 @@ constexpr Names horizontal{{{"left", 0.0}, {"center", 0.5}, {"right", 1.0}}};
 constexpr Names vertical{{{"top", 0.0}, {"center", 0.5}, {"bottom", 1.0}}};
 
 std::optional<Coordinate> readCoordinate(const CssComponent& component, const Names& names) {
-    const auto name =
-        std::ranges::find_if(names, [&](const NamedCoordinate& n) { return component.isIdent(n.name); });
+    const auto isNamed = [&](const NamedCoordinate& n) { return component.isIdent(n.name); };
+    const NamedCoordinate* const name = std::ranges::find_if(names, isNamed);
     if (name != names.end()) {
         return Coordinate{name->share};
     }
@@ -91,16 +91,17 @@ bool readPointStop(const CssComponent& component, std::vector<WrittenStop>& stop
 // here.
 std::optional<GradientDraft> withPointStops(GradientDraft draft, CssArguments arguments) {
     bool hasEnds = false;
-    for (const CssArgument argument : arguments) {
-        if (argument.size() != 1 || !readPointStop(argument.front(), draft.stops, hasEnds)) {
-            return std::nullopt;
-        }
+    const bool allFit = std::ranges::all_of(arguments, [&](CssArgument argument) {
+        return argument.size() == 1 && readPointStop(argument.front(), draft.stops, hasEnds);
+    });
+    if (!allFit || draft.stops.empty()) {
+        return std::nullopt;
     }
     if (hasEnds) {
         std::ranges::stable_sort(draft.stops, {},
                                  [](const WrittenStop& s) { return s.position.value_or(0); });
     }
-    return draft.stops.empty() ? std::nullopt : std::optional{std::move(draft)};
+    return draft;
 }
 
 std::optional<GradientDraft> readLinear(const PointOfBox& from, const PointOfBox& to) {

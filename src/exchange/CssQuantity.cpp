@@ -46,7 +46,8 @@ constexpr std::array<std::string_view, 42> relativeUnits{
 };
 
 std::optional<CssQuantity> withUnit(double number, std::string_view written) {
-    const auto unit = std::ranges::find_if(units, [&](const Unit& u) { return isCssName(written, u.name); });
+    const auto isNamed = [&](const Unit& u) { return isCssName(written, u.name); };
+    const Unit* const unit = std::ranges::find_if(units, isNamed);
     if (unit != units.end()) {
         return CssQuantity{unit->kind, number * unit->factor, unit->base};
     }

@@ -17,6 +17,7 @@ Reading readCssGradients(std::string_view text, const Progress& progress) {
     if (!isPage) {
         CssFinder{read, found, share}.run();
     }
+    share.startOver();
     if (isPage || found.empty()) { // a piece of a page may begin with its text
         PageStyles{read, found, share}.run();
     }

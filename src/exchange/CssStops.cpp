@@ -45,9 +45,9 @@ bool readStop(CssArgument argument, std::vector<UnresolvedStop>& stops, bool& mi
     if (positions.empty()) {
         stops.push_back({color, std::nullopt});
     }
-    for (const CssQuantity& position : positions) {
-        stops.push_back({color, position});
-    }
+    std::ranges::transform(positions, std::back_inserter(stops), [&](const CssQuantity& position) {
+        return UnresolvedStop{color, position};
+    });
     return true;
 }
 
@@ -102,12 +102,10 @@ void resolve(const std::vector<UnresolvedStop>& unresolved, CssStops& result) {
 std::optional<CssStops> readCssStops(std::span<const CssArgument> arguments) {
     CssStops result;
     std::vector<UnresolvedStop> unresolved;
-    for (const CssArgument argument : arguments) {
-        if (!readStop(argument, unresolved, result.mixesInSrgb)) {
-            return std::nullopt;
-        }
-    }
-    if (unresolved.empty() || !hintsAreBetweenStops(unresolved)) {
+    unresolved.reserve(arguments.size());
+    const bool allFit = std::ranges::all_of(
+        arguments, [&](CssArgument argument) { return readStop(argument, unresolved, result.mixesInSrgb); });
+    if (!allFit || unresolved.empty() || !hintsAreBetweenStops(unresolved)) {
         return std::nullopt;
     }
     resolve(unresolved, result);

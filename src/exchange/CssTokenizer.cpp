@@ -75,10 +75,20 @@ std::size_t CssTokenizer::numberEnd(std::size_t place) const {
     return end;
 }
 
+// And the marks that old pages put around a stylesheet.
 void CssTokenizer::passComments() {
-    while (at(place_) == '/' && at(place_ + 1) == '*') {
-        const auto close = text_.find("*/", place_ + 2);
-        place_ = close == text_.npos ? text_.size() : close + 2;
+    for (;;) {
+        const std::string_view rest = text_.substr(place_);
+        if (rest.starts_with("/*")) {
+            const auto close = rest.find("*/", 2);
+            place_ = close == std::string_view::npos ? text_.size() : place_ + close + 2;
+        } else if (rest.starts_with("<!--")) {
+            place_ += 4;
+        } else if (rest.starts_with("-->")) {
+            place_ += 3;
+        } else {
+            return;
+        }
     }
 }
 
@@ -169,7 +179,7 @@ CssToken CssTokenizer::takeMark() {
 }
 
 CssToken CssTokenizer::next() {
-    if (at(place_) == '/') {
+    if (at(place_) == '/' || at(place_) == '<' || at(place_) == '-') {
         passComments();
     }
     if (place_ >= text_.size()) {

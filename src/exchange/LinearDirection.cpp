@@ -43,7 +43,8 @@ LinearDirection nearestDirection(double degrees) {
     const double angle = degrees - std::floor(degrees / turn) * turn;
     const double steps = std::floor(std::clamp(angle, 0.0, turn) / step + 0.5);
     const auto place = static_cast<std::size_t>(steps) % ways.size();
-    return {ways[place].orientation, ways[place].turned, static_cast<int>(place) * 45, angle - steps * step};
+    const Way& way = ways[place];
+    return {way.orientation, way.turned, static_cast<int>(place) * 45, angle - steps * step};
 }
 
 double degreesOf(double right, double up) {

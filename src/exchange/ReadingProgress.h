@@ -2,6 +2,7 @@
 
 #include "exchange/Reading.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace tessaly {
@@ -17,10 +18,14 @@ class ReadingProgress {
         constexpr std::size_t interval = 1U << 16U;
         if (progress_ && goesOn_ && place >= next_) {
             next_ = place + interval;
-            goesOn_ = progress_(static_cast<double>(place) / static_cast<double>(length_));
+            share_ = std::max(share_, static_cast<double>(place) / static_cast<double>(length_));
+            goesOn_ = progress_(share_);
         }
         return goesOn_;
     }
+
+    /// The text is read once more; the share that was told stays.
+    void startOver() { next_ = 0; }
 
     bool goesOn() const { return goesOn_; }
 
@@ -28,6 +33,7 @@ class ReadingProgress {
     std::size_t length_;
     const Progress& progress_;
     std::size_t next_ = 0;
+    double share_ = 0.0;
     bool goesOn_ = true;
 };
 

@@ -91,7 +91,7 @@ TEST(CssFinder, findsWhatIsInAPage) {
          "a > b: CD"},
         {"<p>a { background: AB }</p>", ""},
         {"<p style='background: AB", "AB"},
-        {"<style>a { background: AB; &lt; }", "a: AB"},
+        {"<style><!-- a { background: AB; &lt; } --> b { background: CD }", "a: AB\nb: CD"},
     });
 }
 
