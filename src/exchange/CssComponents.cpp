@@ -16,23 +16,24 @@ bool CssComponent::isIdent(std::string_view name) const {
     return token.kind == Kind::Ident && isCssName(token.name, name);
 }
 
+static void setContent(CssComponent& component, std::string_view text, std::size_t contentEnd,
+                       std::size_t end) {
+    const std::size_t contentBegin = component.token.end();
+    component.text = text.substr(component.token.begin, end - component.token.begin);
+    component.content = text.substr(contentBegin, contentEnd - contentBegin);
+}
+
 CssComponents readCssComponents(std::string_view text, std::size_t place, std::size_t most) {
     CssTokenizer tokens{text, place};
     CssComponents components;
     components.list.reserve(std::min(most, usualCount));
     CssBrackets brackets;
-    const auto complete = [&](std::size_t contentEnd, std::size_t end) {
-        CssComponent& last = components.list.back();
-        const std::size_t contentBegin = last.token.end();
-        last.text = text.substr(last.token.begin, end - last.token.begin);
-        last.content = text.substr(contentBegin, contentEnd - contentBegin);
-    };
     for (CssToken token = tokens.next(); token.kind != Kind::End; token = tokens.next()) {
         const bool within = !brackets.empty();
         if (token.kind == Kind::Close) {
             if (brackets.close(token.text.front())) {
                 if (brackets.empty() && components.complete) {
-                    complete(token.begin, token.end());
+                    setContent(components.list.back(), text, token.begin, token.end());
                 }
                 continue;
             }
@@ -54,7 +55,7 @@ CssComponents readCssComponents(std::string_view text, std::size_t place, std::s
         }
     }
     if (!brackets.empty() && components.complete) {
-        complete(text.size(), text.size());
+        setContent(components.list.back(), text, text.size(), text.size());
     }
     components.end = text.size();
     return components;

@@ -108,7 +108,7 @@ void CssFinder::openRule(const CssToken& brace) {
         ++tooDeep_;
         found_.setIncomplete();
     } else {
-        rules_.push_back({isAtRule ? rules_.back().selector : prelude, {}});
+        rules_.push_back({prelude, isAtRule ? rules_.back().named : rules_.size()});
     }
     item_ = {Item::Part::Start, brace.end()};
 }
@@ -124,6 +124,14 @@ bool CssFinder::endItem(std::size_t end) {
     }
     item_ = {Item::Part::Start, std::min(end + 1, text_.size())};
     return goesOn;
+}
+
+const std::string& CssFinder::ruleName() {
+    OpenRule& rule = rules_[rules_.back().named];
+    if (!rule.name) {
+        rule.name = nameOf(rule.selector);
+    }
+    return *rule.name;
 }
 
 // A value that is a string holds a filter.
@@ -143,7 +151,7 @@ bool CssFinder::readDeclaration(std::string_view value) {
         return found_.add(std::move(found));
     }
     OpenRule& rule = rules_.back();
-    found.name = nameOf(rule.selector);
+    found.name = ruleName();
     return found_.add(rule.gradients, item_.name, read.gradient->form, std::move(found));
 }
 

@@ -5,6 +5,7 @@
 #include "exchange/FoundGradients.h"
 #include "exchange/ReadingProgress.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,8 +37,10 @@ class CssFinder {
     };
 
     struct OpenRule {
-        std::string_view selector;
-        RuleGradients gradients;
+        std::string_view selector{};
+        std::size_t named = 0;             ///< the rule whose selector counts: that around an at-rule
+        std::optional<std::string> name{}; ///< as it is told, once it was needed
+        RuleGradients gradients{};
     };
 
     bool take(const CssToken& token);
@@ -45,6 +48,7 @@ class CssFinder {
     void follow(const CssToken& token);
     void openRule(const CssToken& brace);
     bool endItem(std::size_t end);
+    const std::string& ruleName();
     bool readDeclaration(std::string_view value);
 
     std::string_view text_;

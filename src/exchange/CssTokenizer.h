@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exchange/CssText.h"
 #include "exchange/CssToken.h"
 
 namespace tessaly {
@@ -18,14 +19,6 @@ class CssTokenizer {
     void moveTo(std::size_t place) { place_ = place; }
 
   private:
-    char at(std::size_t place) const { return place < text_.size() ? text_[place] : '\0'; }
-    bool startsEscape(std::size_t place) const;
-    bool startsName(std::size_t place) const;
-    bool startsNumber(std::size_t place) const;
-    std::size_t blanksEnd(std::size_t place) const;
-    std::size_t escapeEnd(std::size_t place) const;
-    std::size_t nameEnd(std::size_t place) const;
-    std::size_t numberEnd(std::size_t place) const;
     void passComments();
 
     CssToken take(CssToken::Kind kind, std::size_t end, std::string_view name = {});
@@ -36,7 +29,7 @@ class CssTokenizer {
     CssToken takeUrl(std::size_t place);
     CssToken takeMark();
 
-    std::string_view text_;
+    CssText text_;
     std::size_t place_;
 };
 
