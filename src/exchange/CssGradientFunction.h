@@ -23,8 +23,8 @@ struct CssGradientFunction {
     bool knowsTo = true; ///< "to right" besides "left"
 };
 
-/// None: no gradient has that name.
-std::optional<CssGradientFunction> findGradientFunction(std::string_view name);
+/// By its name as it is written; none: no gradient has it.
+std::optional<CssGradientFunction> findGradientFunction(std::string_view written);
 
 /// The gradient that the arguments describe; none: there are mistakes in them, or they cannot be said here.
 std::optional<FoundGradient> readGradientFunction(const CssGradientFunction& function,

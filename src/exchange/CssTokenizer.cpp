@@ -4,9 +4,37 @@
 #include "exchange/CssName.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tessaly {
 using Kind = CssToken::Kind;
+
+namespace {
+
+// What a token can be that starts with a byte.
+enum class Start : unsigned char { Mark, Blank, Name, Digit, Quote, Sign };
+
+constexpr std::array<Start, 256> makeStarts() {
+    std::array<Start, 256> starts{};
+    for (std::size_t byte = 0; byte < starts.size(); ++byte) {
+        const char c = static_cast<char>(static_cast<unsigned char>(byte));
+        starts[byte] = isCssBlank(c)                                   ? Start::Blank
+                       : startsCssName(c)                              ? Start::Name
+                       : isDigit(c)                                    ? Start::Digit
+                       : c == '"' || c == '\''                         ? Start::Quote
+                       : c == '+' || c == '-' || c == '.' || c == '\\' ? Start::Sign
+                                                                       : Start::Mark;
+    }
+    return starts;
+}
+
+constexpr std::array<Start, 256> startsByByte = makeStarts();
+
+Start startOf(char c) {
+    return startsByByte[static_cast<unsigned char>(c)];
+}
+
+} // namespace
 
 // And the marks that old pages put around a stylesheet.
 void CssTokenizer::passComments() {
@@ -119,20 +147,19 @@ CssToken CssTokenizer::next() {
         return take(Kind::End, place_);
     }
     const char c = text_.at(place_);
-    if (isCssBlank(c)) {
+    switch (startOf(c)) {
+    case Start::Blank:
         return take(Kind::Blank, text_.blanksEnd(place_));
-    }
-    if (startsCssName(c)) {
+    case Start::Name:
         return takeName();
-    }
-    if (c == '"' || c == '\'') {
-        return takeString();
-    }
-    if (text_.startsNumber(place_)) {
+    case Start::Digit:
         return takeNumber();
-    }
-    if (text_.startsName(place_)) {
-        return takeName();
+    case Start::Quote:
+        return takeString();
+    case Start::Sign:
+        return text_.startsNumber(place_) ? takeNumber() : text_.startsName(place_) ? takeName() : takeMark();
+    case Start::Mark:
+        break;
     }
     if (c == '#' && (isInCssName(text_.at(place_ + 1)) || text_.startsEscape(place_ + 1))) {
         return takeMarkedName(Kind::Hash);
