@@ -1,0 +1,23 @@
+#pragma once
+
+#include "exchange/SvgGradient.h"
+#include "foundation/Geometry.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+/// How a radial gradient of SVG lies in a square box, told by what is not as in the program's own: in the
+/// middle of the box, its last color on the corners.
+struct SvgDisc {
+    bool isPoint = false; ///< it has no extent: the color of the last stop is everywhere
+    std::vector<std::string> notes;
+};
+
+/// None: the gradient's transform flattens everything, and nothing is painted. In user space the box is not
+/// known, nor then the size and the place in it. `viewport` is what percentages are shares of there.
+std::optional<SvgDisc> svgDisc(const SvgGradient& gradient, Size viewport);
+
+} // namespace tessaly

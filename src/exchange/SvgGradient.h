@@ -1,0 +1,40 @@
+#pragma once
+
+#include "exchange/SvgTransform.h"
+#include "exchange/SvgValue.h"
+#include "model/ColorStop.h"
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+
+namespace tessaly {
+
+/// A stop as it stands in the document.
+struct SvgStop {
+    ColorStop stop;         ///< position 0 ... 1, not yet in order
+    bool isClipped = false; ///< its color was outside sRGB
+    bool isHelped = false;  ///< a stop that only helps the mixing stood between it and the next one
+};
+
+/// A gradient element: what is written there, or comes from the one that it refers to.
+struct SvgGradient {
+    /// What only gradients of the same kind hand on: x1, y1, x2, y2, or cx, cy, r, fx, fy, fr.
+    using Geometry = std::array<std::optional<SvgLength>, 6>;
+
+    bool isRadial = false;
+    std::string id;
+    std::string reference; ///< the id of another gradient, or empty
+
+    Geometry geometry;
+    std::optional<bool> isInUserSpace; ///< rather than in shares of the box that is filled
+    std::optional<SvgTransform> transform;
+    std::optional<bool> isRepeated;
+    bool isMixedLinearly = false; ///< in linear light
+
+    std::size_t firstStop = 0; ///< in the document's list
+    std::size_t stopCount = 0;
+};
+
+} // namespace tessaly

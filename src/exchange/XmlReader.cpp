@@ -1,0 +1,95 @@
+#include "exchange/XmlReader.h"
+
+#include <expat.h>
+#include <memory>
+
+namespace tessaly {
+namespace {
+
+// With every piece the parser looks at an unfinished token from its beginning.
+constexpr std::size_t pieceSize = std::size_t{1} << 20U;
+
+struct ParserEnd {
+    void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+};
+using Parser = std::unique_ptr<XML_ParserStruct, ParserEnd>;
+
+bool isUtf8(std::string_view text) {
+    std::size_t following = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool continues = (byte & 0xC0U) == 0x80U;
+        if (continues != (following > 0)) {
+            return false;
+        }
+        following = continues ? following - 1 : byte >= 0xF0U ? 3 : byte >= 0xE0U ? 2 : byte >= 0xC0U ? 1 : 0;
+    }
+    return true;
+}
+
+// None: the parser finds it out from the byte-order mark.
+const char* encodingOf(std::string_view text) {
+    if (text.starts_with("\xFE\xFF") || text.starts_with("\xFF\xFE")) {
+        return nullptr;
+    }
+    return isUtf8(text) ? "UTF-8" : "ISO-8859-1";
+}
+
+XmlHandler& handlerOf(void* parser) {
+    return *static_cast<XmlHandler*>(XML_GetUserData(static_cast<XML_Parser>(parser)));
+}
+
+void start(void* parser, const XML_Char* name, const XML_Char** attributes) {
+    const std::string_view whole = name;
+    handlerOf(parser).startElement(whole.substr(whole.find(':') + 1), XmlAttributes{attributes});
+}
+
+void end(void* parser, const XML_Char* /*name*/) {
+    handlerOf(parser).endElement();
+}
+
+void characters(void* parser, const XML_Char* text, int length) {
+    handlerOf(parser).characters({text, static_cast<std::size_t>(length)});
+}
+
+// A few lines of entities can stand for gigabytes of text.
+void refuse(void* parser, const XML_Char*, int, const XML_Char*, int, const XML_Char*, const XML_Char*,
+            const XML_Char*, const XML_Char*) {
+    XML_StopParser(static_cast<XML_Parser>(parser), XML_FALSE);
+}
+
+Parser makeParser(const char* encoding, XmlHandler& handler) {
+    Parser parser{XML_ParserCreate(encoding)};
+    if (parser) {
+        XML_SetUserData(parser.get(), &handler);
+        XML_UseParserAsHandlerArg(parser.get());
+        XML_SetElementHandler(parser.get(), start, end);
+        XML_SetCharacterDataHandler(parser.get(), characters);
+        XML_SetEntityDeclHandler(parser.get(), refuse);
+    }
+    return parser;
+}
+
+} // namespace
+
+XmlEnd readXml(std::string_view text, XmlHandler& handler, const Progress& progress) {
+    const bool isWhole = text.size() <= longestXml;
+    text = text.substr(0, longestXml);
+    const Parser parser = makeParser(encodingOf(text), handler);
+    std::size_t read = 0;
+    while (parser && read < text.size()) {
+        const std::string_view piece = text.substr(read, pieceSize);
+        read += piece.size();
+        const bool isLast = isWhole && read == text.size();
+        if (XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isLast ? 1 : 0) !=
+            XML_STATUS_OK) {
+            return XmlEnd::Malformed;
+        }
+        if (progress && !progress(static_cast<double>(read) / static_cast<double>(text.size()))) {
+            return XmlEnd::Cancelled;
+        }
+    }
+    return parser && read > 0 ? XmlEnd::Whole : XmlEnd::Malformed;
+}
+
+} // namespace tessaly
