@@ -1,5 +1,6 @@
 #include "exchange/XmlReader.h"
 
+#include <algorithm>
 #include <expat.h>
 #include <memory>
 
@@ -33,6 +34,13 @@ const char* encodingOf(std::string_view text) {
         return nullptr;
     }
     return isUtf8(text) ? "UTF-8" : "ISO-8859-1";
+}
+
+// The document without what may precede it in a pasted text but not in XML.
+std::string_view withoutMargin(std::string_view text) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    text.remove_prefix(text.starts_with(mark) ? mark.size() : 0);
+    return text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
 }
 
 XmlHandler& handlerOf(void* parser) {
@@ -74,7 +82,7 @@ Parser makeParser(const char* encoding, XmlHandler& handler) {
 
 XmlEnd readXml(std::string_view text, XmlHandler& handler, const Progress& progress) {
     const bool isWhole = text.size() <= longestXml;
-    text = text.substr(0, longestXml);
+    text = withoutMargin(text.substr(0, longestXml));
     const Parser parser = makeParser(encodingOf(text), handler);
     std::size_t read = 0;
     while (parser && read < text.size()) {
