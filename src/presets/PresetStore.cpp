@@ -5,6 +5,7 @@
 #include "presets/PresetTable.h"
 #include "presets/PrivateFile.h"
 #include "presets/SqliteStatement.h"
+#include "presets/StoredStop.h"
 
 #include <algorithm>
 #include <array>
@@ -30,7 +31,7 @@ const std::array tables{
                                " red FLOAT, green FLOAT, blue FLOAT, opacity FLOAT);"}};
 
 const std::string stopsQuery =
-    "select position, red, green, blue, opacity from " + additionalTable + " where mainIndex=";
+    std::string{"select "} + storedStopColumns + " from " + additionalTable + " where mainIndex=";
 const std::string insertMainRow = "insert into " + mainTable + " (mainIndex, orientationType) VALUES (?, ?);";
 const std::string insertStopRow =
     "insert into " + additionalTable +
@@ -133,8 +134,7 @@ void PresetStore::readAdditionalData(SqliteStatement& query, const MainRow& row)
     std::vector<ColorStop> stops;
     int result = query.step();
     for (; result == SQLITE_ROW; result = query.step()) {
-        stops.push_back({query.real(0), Color::calibratedRGB(query.real(1), query.real(2), query.real(3)),
-                         query.real(4)});
+        stops.push_back(storedStop(query, 0));
     }
     query.reset();
     complete_ = complete_ && result == SQLITE_DONE;

@@ -88,6 +88,21 @@ void SqliteConnection::liftLimit() {
     }
 }
 
+void SqliteConnection::distrust(std::chrono::milliseconds patience) {
+    constexpr int largestValue = 1'000'000; // bytes
+    constexpr int stepsAtOnce = 1'000;
+    if (!isOpen()) {
+        return;
+    }
+    sqlite3_limit(handle(), SQLITE_LIMIT_LENGTH, largestValue);
+    sqlite3_db_config(handle(), SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    const auto isOver = [](void* deadline) {
+        return Clock::now() < *static_cast<const Clock::time_point*>(deadline) ? 0 : 1;
+    };
+    deadline_ = std::make_unique<Clock::time_point>(Clock::now() + patience);
+    sqlite3_progress_handler(handle(), stepsAtOnce, isOver, deadline_.get());
+}
+
 bool SqliteConnection::isReadOnly() const {
     return isOpen() && sqlite3_db_readonly(handle(), "main") == 1;
 }

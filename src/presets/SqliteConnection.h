@@ -51,6 +51,10 @@ class SqliteConnection {
     void limitToSize();
     void liftLimit();
 
+    /// For a file from anywhere: queries fail when that time is over, and so do values too large for a preset
+    /// and functions that do anything but compute.
+    void distrust(std::chrono::milliseconds patience);
+
     /// It can be read and not written: it is of a later format.
     bool isReadOnly() const;
     sqlite3* handle() const { return handle_.get(); }
@@ -76,7 +80,10 @@ class SqliteConnection {
 
     static SqliteConnection open(const std::string& name, int flags);
 
-    std::unique_ptr<std::int64_t> stepsLeft_; ///< where SQLite finds it, wherever the connection is moved
+    using Clock = std::chrono::steady_clock;
+
+    std::unique_ptr<Clock::time_point> deadline_; ///< of one that is not trusted, as below
+    std::unique_ptr<std::int64_t> stepsLeft_;     ///< where SQLite finds it, wherever the connection is moved
     std::unique_ptr<sqlite3, Closer> handle_;
 };
 
