@@ -188,7 +188,12 @@ TEST_F(PresetReaderTest, takesFromADamagedOrHostileFileWhatThereIs) {
               2, 2},
              {"too many presets", [&] { add("MainTable(orientationType)", "i", 10'010); }, 10'000, 2},
              {"too many stops", [&] { add("AdditionalTable(mainIndex)", "0", 10'010); }, 2, 10'000},
-             {"stops of no preset", [&] { add("AdditionalTable(mainIndex)", "7 + i", 10); }, 2, 2},
+             {"stops of no preset",
+              [&] {
+                  add("AdditionalTable(mainIndex)", "case i when 1 then null when 2 then 0.5 else 7 + i end",
+                      10);
+              },
+              2, 2},
          }) {
         SCOPED_TRACE(name);
         fs::remove_all(folder);
