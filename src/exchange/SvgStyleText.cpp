@@ -11,12 +11,12 @@ std::string withoutComments(std::string_view style) {
     while (!style.empty()) {
         const std::size_t begin = style.find("/*");
         text += style.substr(0, begin);
-        if (begin == style.npos) {
+        if (begin == std::string_view::npos) {
             break;
         }
         text += ' ';
         const std::size_t end = style.find("*/", begin + 2);
-        style = end == style.npos ? std::string_view{} : style.substr(end + 2);
+        style = end == std::string_view::npos ? std::string_view{} : style.substr(end + 2);
     }
     return text;
 }
@@ -27,7 +27,7 @@ std::string_view takeUpTo(std::string_view& style, std::string_view enders, char
     ender = 0;
     for (std::size_t i = 0; i < whole.size(); ++i) {
         const char c = whole[i];
-        if (depth == 0 && enders.find(c) != enders.npos) {
+        if (depth == 0 && enders.find(c) != std::string_view::npos) {
             ender = c;
             style.remove_prefix(i + 1);
             return whole.substr(0, i);
@@ -52,7 +52,7 @@ std::optional<SvgDeclaration> takeDeclaration(std::string_view& list) {
         char ender = 0;
         const std::string_view text = takeUpTo(list, ";", ender);
         const std::size_t colon = text.find(':');
-        if (colon == text.npos) {
+        if (colon == std::string_view::npos) {
             continue;
         }
         SvgDeclaration declaration{trimmed(text.substr(0, colon)), trimmed(text.substr(colon + 1))};

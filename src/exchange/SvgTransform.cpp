@@ -52,7 +52,7 @@ std::optional<SvgTransform> takeFunction(std::string_view& text) {
     const std::size_t open = text.find('(');
     const Function* const function =
         std::ranges::find(functions, trimmed(text.substr(0, open)), &Function::name);
-    if (open == text.npos || function == functions.end()) {
+    if (open == std::string_view::npos || function == functions.end()) {
         return std::nullopt;
     }
     text.remove_prefix(open + 1);

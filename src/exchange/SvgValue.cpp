@@ -11,15 +11,15 @@ constexpr std::string_view blanks = " \t\r\n\f";
 } // namespace
 
 void skipSeparators(std::string_view& text) {
-    while (!text.empty() && (text.front() == ',' || blanks.find(text.front()) != blanks.npos)) {
+    while (!text.empty() && (text.front() == ',' || blanks.find(text.front()) != std::string_view::npos)) {
         text.remove_prefix(1);
     }
 }
 
 std::string_view trimmed(std::string_view text) {
     const std::size_t begin = text.find_first_not_of(blanks);
-    return begin == text.npos ? std::string_view{}
-                              : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+    return begin == std::string_view::npos ? std::string_view{}
+                                           : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
 std::optional<std::string_view> takeWord(std::string_view& text) {

@@ -8,7 +8,7 @@ namespace tessaly {
 namespace {
 
 // With every piece the parser looks at an unfinished token from its beginning.
-constexpr std::size_t pieceSize = std::size_t{1} << 20U;
+constexpr std::size_t pieceSize = std::size_t{4} << 20U;
 
 struct ParserEnd {
     void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
