@@ -17,6 +17,9 @@ class CodeTextAdapter : public CodeText {
     void replaceCharacters(TextRange range, std::string_view text) override {
         view_.replaceCharacters(range, std::u16string(text.begin(), text.end()));
     }
+    void typeOver(std::string_view text) override {
+        view_.typeOver(std::u16string(text.begin(), text.end()));
+    }
 
   private:
     CustomTextView& view_;

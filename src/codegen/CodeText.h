@@ -18,6 +18,9 @@ class CodeText {
     /// Replaces a range that lies within the text, straight in the storage: caret, selection and scroll
     /// position stay, and it is no undo step.
     virtual void replaceCharacters(TextRange range, std::string_view text) = 0;
+
+    /// Replaces the whole text as if the user had typed it, undo step and report included.
+    virtual void typeOver(std::string_view text) = 0;
 };
 
 } // namespace tessaly

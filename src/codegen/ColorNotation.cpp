@@ -7,19 +7,6 @@
 namespace tessaly::colorNotation {
 namespace {
 
-// "#rrggbb" in lower case; none for a colour without RGB form.
-std::optional<std::string> hexadecimalText(const Color& color) {
-    if (!color.calibratedRGB()) {
-        return std::nullopt;
-    }
-    const auto [red, green, blue] = bytesOf(color);
-    std::string text = "#";
-    for (const std::int32_t channel : {red, green, blue}) {
-        text += hexByteText(static_cast<std::uint32_t>(channel));
-    }
-    return text;
-}
-
 std::string channels(const Color& color) {
     const RGBValue rgb = rgbValueOfAnNSColor(color);
     return std::to_string(rgb.red) + ',' + std::to_string(rgb.green) + ',' + std::to_string(rgb.blue);

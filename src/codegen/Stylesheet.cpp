@@ -1,7 +1,7 @@
 #include "codegen/Stylesheet.h"
 
 #include "codegen/CodeText.h"
-#include "codegen/DeclarationText.h"
+#include "codegen/StylesheetText.h"
 #include "foundation/DiagnosticLog.h"
 
 #include <algorithm>
@@ -11,17 +11,6 @@
 
 namespace tessaly {
 namespace {
-
-constexpr std::string_view opening = ".gradient {\n\theight: 236px;\n";
-constexpr std::string_view closing = "}\n";
-
-PerDeclaration<std::string> declarationTexts(const Gradient& gradient, std::int64_t notation) {
-    PerDeclaration<std::string> texts;
-    for (const Declaration declaration : allDeclarations) {
-        texts[declaration] = declarationText(declaration, gradient, notation);
-    }
-    return texts;
-}
 
 // Where an offset lies once `removed` units at `position` are gone.
 std::size_t afterRemoval(std::size_t offset, std::size_t position, std::size_t removed) {
@@ -68,15 +57,28 @@ constexpr std::hash<std::u16string_view> hashOf;
 } // namespace
 
 void Stylesheet::insertCSS3Code(const Gradient& gradient, std::int64_t notation) {
-    texts_ = declarationTexts(gradient, notation);
-    std::string text{opening};
-    for (const Declaration declaration : allDeclarations) {
-        ranges_[declaration] = {text.size(), texts_[declaration].size()};
-        text += texts_[declaration];
-    }
-    view_.replaceCharacters({0, view_.text().size()}, text.append(closing));
+    const std::string text = laidOut(gradient, notation);
+    view_.replaceCharacters({0, view_.text().size()}, text);
     DiagnosticLog::write("backgroundColorOldText: " + texts_[Declaration::Old]);
     written(gradient, notation);
+}
+
+void Stylesheet::writeAnew(const Gradient& gradient, std::int64_t notation) {
+    view_.typeOver(stylesheetText(declarationTexts(gradient, notation)));
+    laidOut(gradient, notation); // once what is typed has been followed
+    written_ = Written{gradient, notation, view_.text().size()};
+    rangesOfTexts_[hashOf(view_.text())] = ranges_; // those of the text before stay, for an undo
+}
+
+// Of the whole text, which is answered.
+std::string Stylesheet::laidOut(const Gradient& gradient, std::int64_t notation) {
+    texts_ = declarationTexts(gradient, notation);
+    std::size_t location = stylesheetOpening.size();
+    for (const Declaration declaration : allDeclarations) {
+        ranges_[declaration] = {location, texts_[declaration].size()};
+        location = ranges_[declaration].end();
+    }
+    return stylesheetText(texts_);
 }
 
 bool Stylesheet::update(const Gradient& gradient, std::int64_t notation) {

@@ -29,6 +29,9 @@ class Stylesheet {
     /// Writes the whole text.
     void insertCSS3Code(const Gradient& gradient, std::int64_t notation);
 
+    /// Writes the whole text as the user would type it over: that can be taken back in the view.
+    void writeAnew(const Gradient& gradient, std::int64_t notation);
+
     /// Rewrites every declaration. False: they stand there already, and nothing was done.
     bool update(const Gradient& gradient, std::int64_t notation);
 
@@ -47,6 +50,7 @@ class Stylesheet {
         bool operator==(const Written&) const = default;
     };
 
+    std::string laidOut(const Gradient& gradient, std::int64_t notation);
     void written(const Gradient& gradient, std::int64_t notation);
     void keepLineFeedsApart(const DeclarationRanges& before, std::size_t typedAt);
     void findDeclarations(const DeclarationRanges& before, const TextEdit& edit);

@@ -33,7 +33,7 @@ std::string degrees(double angle) {
 
 } // namespace
 
-SvgDirection nearestDirection(double angle) {
+SvgDirection nearestSvgDirection(double angle) {
     constexpr double seen = 0.1; // moves the outermost colors by less than half a level
     const double nearest = std::round(angle / step);
     const Turn& turn = turns[static_cast<std::size_t>(nearest) % turns.size()];

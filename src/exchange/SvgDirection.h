@@ -14,6 +14,6 @@ struct SvgDirection {
 };
 
 /// For an angle of CSS, 0 ... 360 degrees, 0 upwards, clockwise.
-SvgDirection nearestDirection(double angle);
+SvgDirection nearestSvgDirection(double angle);
 
 } // namespace tessaly

@@ -32,7 +32,7 @@ std::optional<std::int64_t> takeLinear(const SvgGradient& gradient, Size viewpor
         keepLast(stops, notes);
         return orientation::leftToRight;
     }
-    const SvgDirection direction = nearestDirection(line->angle);
+    const SvgDirection direction = nearestSvgDirection(line->angle);
     if (!direction.note.empty()) {
         notes.push_back(direction.note);
     }

@@ -1,5 +1,6 @@
 #include "model/ColorConversion.h"
 
+#include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
 
 #include <algorithm>
@@ -112,6 +113,18 @@ RGBValue hslToRGB(const HSLValue& hsl) {
     };
     const auto [red, green, blue] = huePositions(hsl.hue);
     return {channel(red), channel(green), channel(blue)};
+}
+
+std::optional<std::string> hexadecimalText(const Color& color) {
+    if (!color.calibratedRGB()) {
+        return std::nullopt;
+    }
+    const auto [red, green, blue] = bytesOf(color);
+    std::string text = "#";
+    for (const std::int32_t channel : {red, green, blue}) {
+        text += hexByteText(static_cast<std::uint32_t>(channel));
+    }
+    return text;
 }
 
 } // namespace tessaly

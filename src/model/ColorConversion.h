@@ -4,6 +4,8 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
 
 namespace tessaly {
 
@@ -30,6 +32,9 @@ RGBValue rgbValueOfAnNSColor(const Color& color);
 
 /// Channels cut toward zero, so that a full one is 255; zeros for a colour without RGB form.
 RGBValue bytesOf(const Color& color);
+
+/// "#rrggbb" in lower case; none for a colour without RGB form.
+std::optional<std::string> hexadecimalText(const Color& color);
 
 /// Hue as a whole number 0 ... 360; zeros for a colour without RGB form.
 HSLValue hslValueOfAnNSColor(const Color& color);

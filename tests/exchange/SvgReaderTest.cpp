@@ -1,7 +1,7 @@
 #include "exchange/SvgReader.h"
 
-#include "codegen/ColorNotation.h"
 #include "foundation/NumberText.h"
+#include "model/ColorConversion.h"
 #include "raster/GradientRaster.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ std::string radial(const std::string& attributes) {
 std::string told(const FoundGradient& found) {
     std::string text = std::to_string(found.gradient.orientation()) + ":";
     for (const ColorStop& stop : found.gradient.stops()) {
-        text += (text.ends_with(':') ? " " : ", ") + *colorNotation::hexadecimalText(stop.color) +
+        text += (text.ends_with(':') ? " " : ", ") + *hexadecimalText(stop.color) +
                 (stop.opacity < 1 ? "/" + significantText(stop.opacity, 3) : "") + " " +
                 significantText(stop.position, 15);
     }

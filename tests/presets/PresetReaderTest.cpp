@@ -20,12 +20,12 @@ class PresetReaderTest : public testing::Test {
   protected:
     PresetReaderTest() {
         PresetProgram program{support.path};
-        program.gallery.addGradientIntoPreset(this);
+        program.gallery.addGradientIntoPreset();
         program.record.gradient =
             Gradient{{{1.0 / 3, Color::white(), 0.5}, {0.25, Color::calibratedRGB(0.1, 0.2, 0.3)}},
                      orientation::radial};
-        program.gallery.addGradientIntoPreset(this);
-        std::ranges::transform(program.presets(), std::back_inserter(saved), &Preset::gradient);
+        program.gallery.addGradientIntoPreset();
+        saved = program.presets();
     }
 
     /// Another program's connection, in the midst of something.
@@ -197,8 +197,8 @@ TEST_F(PresetReaderTest, takesFromADamagedOrHostileFileWhatThereIs) {
          }) {
         SCOPED_TRACE(name);
         fs::remove_all(folder);
-        PresetProgram{support.path}.gallery.addGradientIntoPreset(this);
-        PresetProgram{support.path}.gallery.addGradientIntoPreset(this);
+        PresetProgram{support.path}.gallery.addGradientIntoPreset();
+        PresetProgram{support.path}.gallery.addGradientIntoPreset();
         before();
         const auto read = readPresetFile(file);
         EXPECT_EQ(read ? read->size() : none, presets);

@@ -16,6 +16,7 @@ class FakeCodeText : public CodeText {
         rangesInBounds = rangesInBounds && range.end() <= contents.size();
         contents.replace(range.location, range.length, std::u16string(text.begin(), text.end()));
     }
+    void typeOver(std::string_view text) override { contents.assign(text.begin(), text.end()); }
 
     std::string utf8() const { return toUtf8(contents); }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "codegen/ColorNotation.h"
 #include "exchange/Reading.h"
 #include "foundation/NumberText.h"
+#include "model/ColorConversion.h"
 
 namespace tessaly {
 
@@ -12,7 +12,7 @@ inline std::string described(const FoundGradient& found) {
     text += std::to_string(found.gradient.orientation());
     for (const ColorStop& stop : found.gradient.stops()) {
         text += &stop == &found.gradient.stops().front() ? " " : ", ";
-        text += colorNotation::hexadecimalText(stop.color).value_or("none");
+        text += hexadecimalText(stop.color).value_or("none");
         text += stop.opacity < 1 ? "/" + percentText(stop.opacity) : "";
         text += " " + percentText(stop.position);
     }

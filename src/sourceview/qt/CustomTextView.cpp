@@ -88,6 +88,12 @@ void CustomTextView::replaceUnrecorded(const TextEdit& edit, std::u16string_view
     verticalScrollBar()->setValue(scroll.second);
 }
 
+void CustomTextView::typeOver(std::u16string_view text) {
+    QTextCursor cursor{document()};
+    cursor.select(QTextCursor::Document);
+    insertInto(cursor, text);
+}
+
 TextRange CustomTextView::selection() const {
     const auto start = static_cast<std::size_t>(textCursor().selectionStart());
     return {start, static_cast<std::size_t>(textCursor().selectionEnd()) - start};

@@ -39,6 +39,9 @@ class CustomTextView : public QPlainTextEdit, public TextLayout {
     /// the first two beside the text that they stood in.
     void replaceCharacters(TextRange range, std::u16string_view text);
 
+    /// Replaces the whole text as the user would.
+    void typeOver(std::u16string_view text);
+
     TextRange selection() const;
     void redisplay() { viewport()->update(); }
 
