@@ -28,6 +28,7 @@ constexpr const char* help = QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Help");
 
 constexpr std::array<Item, commandCount> items{{
     {Command::New, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&New"), Qt::CTRL | Qt::Key_N},
+    {Command::Open, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Open..."), Qt::CTRL | Qt::Key_O},
     {Command::Quit, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Quit"), Qt::CTRL | Qt::Key_Q, true,
      Qt::ApplicationShortcut},
     {Command::Undo, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Undo"), Qt::CTRL | Qt::Key_Z, false,
@@ -36,8 +37,12 @@ constexpr std::array<Item, commandCount> items{{
      false, Qt::ApplicationShortcut},
     {Command::CopyStylesheet, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Copy Stylesheet"),
      QKeyCombination::fromCombined(0), true},
+    {Command::PasteGradient, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Paste Gradient"),
+     Qt::CTRL | Qt::Key_V},
     {Command::AddStop, gradient, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Add Stop"), Qt::Key_Insert},
     {Command::DeleteStop, gradient, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Delete Stop"), Qt::Key_Delete},
+    {Command::WriteStylesheetAnew, gradient, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Write Stylesheet Anew"),
+     QKeyCombination::fromCombined(0), true},
     {Command::About, help, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&About")},
     {Command::Homepage, help, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Homepage")},
     {Command::RelatedApplications, help, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Related Applications")},

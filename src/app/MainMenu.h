@@ -12,12 +12,15 @@ namespace tessaly {
 /// What the menus offer, in their order.
 enum class Command {
     New,
+    Open,
     Quit,
     Undo,
     Redo,
     CopyStylesheet,
+    PasteGradient,
     AddStop,
     DeleteStop,
+    WriteStylesheetAnew,
     About,
     Homepage,
     RelatedApplications

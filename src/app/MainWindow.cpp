@@ -12,7 +12,9 @@
 #include "presets/qt/PresetPanel.h"
 #include "sourceview/qt/SourceView.h"
 
+#include <QDragEnterEvent>
 #include <QHBoxLayout>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
@@ -45,8 +47,20 @@ MainWindow::MainWindow(QWidget* parent)
              new QPushButton{tr("Related Applications")},
              new MessageLine} {
     setWindowTitle(toQString(product::name));
+    setAcceptDrops(true);
     layOut();
     resize(startSize.boundedTo(room()));
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls() || event->mimeData()->hasText()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    Q_EMIT dropped(*event->mimeData());
 }
 
 QSize MainWindow::room() const {

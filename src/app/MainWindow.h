@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QBoxLayout;
+class QMimeData;
 class QPushButton;
 class QStackedWidget;
 
@@ -43,6 +44,14 @@ class MainWindow : public QWidget {
         MessageLine* message;
     };
     const Views& views() const { return views_; }
+
+  Q_SIGNALS:
+    /// A text, or files, beside the views that take texts themselves.
+    void dropped(const QMimeData& data);
+
+  protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     void layOut();

@@ -23,15 +23,35 @@ QString pathFor(const QString& folder, const char* ending) {
            QString::fromLatin1(hash) + QString::fromLatin1(ending);
 }
 
-bool tellFirst(const QString& socketPath) {
+constexpr char separator = '\0'; // the one character that no path has
+
+bool tellFirst(const QString& socketPath, const QStringList& files) {
     QLocalSocket first;
     first.connectToServer(socketPath);
-    return first.waitForConnected(patience);
+    if (!first.waitForConnected(patience)) {
+        return false;
+    }
+    for (const QString& file : files) {
+        first.write(file.toUtf8() + separator);
+    }
+    while (first.bytesToWrite() > 0 && first.waitForBytesWritten(patience)) {
+    }
+    return true;
+}
+
+QStringList filesIn(const QByteArray& told) {
+    QStringList files;
+    for (const QByteArray& file : told.split(separator)) {
+        if (!file.isEmpty()) {
+            files += QString::fromUtf8(file);
+        }
+    }
+    return files;
 }
 
 } // namespace
 
-SingleInstance::SingleInstance(const QString& folder, QObject* parent)
+SingleInstance::SingleInstance(const QString& folder, const QStringList& files, QObject* parent)
     : QObject{parent}, lock_{pathFor(folder, ".lock")} {
     lock_.setStaleLockTime(0); // held for as long as its owner lives
     // What stops us is another copy alone, not a lock that cannot be had for another reason.
@@ -39,7 +59,7 @@ SingleInstance::SingleInstance(const QString& folder, QObject* parent)
     const QString socketPath = pathFor(folder, ".socket");
     // A copy that does not answer is closing, or has started just now.
     const QDeadlineTimer end{patience};
-    while (!first_ && !tellFirst(socketPath)) {
+    while (!first_ && !tellFirst(socketPath, files)) {
         if (end.hasExpired()) {
             DiagnosticLog::write("Another copy runs but does not answer");
             break;
@@ -57,8 +77,15 @@ void SingleInstance::listen(const QString& socketPath) {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* const caller = server_.nextPendingConnection()) {
-            caller->deleteLater();
-            Q_EMIT startedAgain();
+            const auto heard = [this, caller] {
+                Q_EMIT startedAgain(filesIn(caller->readAll()));
+                caller->deleteLater();
+            };
+            if (caller->state() == QLocalSocket::UnconnectedState) {
+                heard();
+            } else {
+                connect(caller, &QLocalSocket::disconnected, this, heard);
+            }
         }
     });
     // From then on a new start waits for the lock instead of asking in vain.

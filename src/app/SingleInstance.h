@@ -3,7 +3,7 @@
 #include <QLocalServer>
 #include <QLockFile>
 #include <QObject>
-#include <QString>
+#include <QStringList>
 
 namespace tessaly {
 
@@ -14,15 +14,15 @@ class SingleInstance : public QObject {
 
   public:
     /// `folder` is what must not be worked on twice. A copy that was killed does not count, and one that is
-    /// closing is waited for.
-    explicit SingleInstance(const QString& folder, QObject* parent = nullptr);
+    /// closing is waited for. The one that runs is handed the paths of `files`.
+    explicit SingleInstance(const QString& folder, const QStringList& files = {}, QObject* parent = nullptr);
 
     /// False when another copy runs; it has been told.
     bool isFirst() const { return first_; }
 
   Q_SIGNALS:
-    /// Another copy was started, and ends in favour of this one.
-    void startedAgain();
+    /// Another copy was started, and ends in favour of this one; with files to open.
+    void startedAgain(const QStringList& files);
 
   private:
     void listen(const QString& socketPath);

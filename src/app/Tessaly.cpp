@@ -45,6 +45,7 @@ Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem
                  mainWindow_->views().stopControls->controlSet(), *mainWindow_->views().presets},
                 applicationSupport,
                 [this] { updateMenu(); }},
+      intake_{document_, *mainWindow_},
       htmlTextView_{mainWindow_->views().page->textView()},
       css3TextView_{mainWindow_->views().stylesheet->textView()},
       stylesheet_{css3TextView_},
@@ -72,6 +73,8 @@ void Tessaly::lendToViews() {
     connect(&views.stylesheet->textView(), &CustomTextView::userEdited, this,
             [this](const TextEdit& edit) { stylesheet_.edited(edit); });
     connect(views.copy, &QPushButton::clicked, this, &Tessaly::copyCode);
+    connect(views.stopControls, &StopControlPanel::colorTyped, &intake_, &GradientIntake::takeTypedColor);
+    connect(mainWindow_.get(), &MainWindow::dropped, &intake_, &GradientIntake::drop);
 }
 
 void Tessaly::answerMenu() {
@@ -86,6 +89,9 @@ void Tessaly::answerMenu() {
     answer(Command::RelatedApplications, views.relatedApps,
            [this] { openDialog(relatedApps_, *mainWindow_); });
     menu.onCommand(Command::New, [this] { document_.newGradient(); });
+    menu.onCommand(Command::Open, [this] { intake_.open(); });
+    menu.onCommand(Command::PasteGradient, [this] { intake_.paste(); });
+    menu.onCommand(Command::WriteStylesheetAnew, [this] { writeCodeAnew(); });
     menu.onCommand(Command::Quit, [this] { mainWindow_->close(); });
     menu.onCommand(Command::Undo, [this] { takeStep(&History::undo, document_.history().undoName()); });
     menu.onCommand(Command::Redo, [this] { takeStep(&History::redo, document_.history().redoName()); });
@@ -137,6 +143,11 @@ void Tessaly::updateCode() {
     if (changed || !previewFiles_.isAsWritten()) {
         previewFiles_.writeCSSFile();
     }
+}
+
+void Tessaly::writeCodeAnew() {
+    stylesheet_.writeAnew(document_.record().gradient, document_.record().colorFormatType);
+    previewFiles_.writeCSSFile();
 }
 
 // The stylesheet (0), the page (1) or the preview (any other index).

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/CodeTextAdapter.h"
+#include "app/GradientIntake.h"
 #include "codegen/PreviewFiles.h"
 #include "codegen/Stylesheet.h"
 #include "document/Document.h"
@@ -33,6 +34,9 @@ class Tessaly : public QObject {
 
     MainWindow& mainWindow() { return *mainWindow_; }
 
+    /// Takes the gradients of a file, as "Open..." does.
+    void openFile(const QString& path) { intake_.openFile(path); }
+
   private:
     void lendToViews();
     void answerMenu();
@@ -41,11 +45,13 @@ class Tessaly : public QObject {
     void updateMenu();
     void writeCode();
     void updateCode();
+    void writeCodeAnew();
     void showSourceCodeView(std::int64_t index);
     void copyCode();
 
     std::unique_ptr<MainWindow> mainWindow_;
     Document document_;
+    GradientIntake intake_;
     CodeTextAdapter htmlTextView_;
     CodeTextAdapter css3TextView_;
     Stylesheet stylesheet_;

@@ -32,6 +32,9 @@ void answerCommandLine(int argc, char** argv) {
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(toQString(product::purpose));
     parser.addOptions({help, version});
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QStringLiteral("A stylesheet, page, SVG picture or preset file to open."),
+                                 QStringLiteral("[FILE]"));
     QStringList arguments;
     for (const char* const argument : std::span{argv, static_cast<std::size_t>(argc)}) {
         arguments += QString::fromLocal8Bit(argument);
@@ -44,6 +47,17 @@ void answerCommandLine(int argc, char** argv) {
     if (parser.isSet(version)) {
         parser.showVersion();
     }
+}
+
+// What the toolkit left of the command line, as whole paths.
+QStringList filesToOpen() {
+    QStringList files;
+    for (const QString& argument : QCoreApplication::arguments().mid(1)) {
+        if (!argument.startsWith(u'-')) {
+            files += QDir::current().absoluteFilePath(argument);
+        }
+    }
+    return files;
 }
 
 // The folder that the presets' own folder lies in. A relative one from the environment is ignored, as the
@@ -79,7 +93,8 @@ int main(int argc, char** argv) {
     const std::jthread fonts = loadFontConfiguration();
     QApplication application{argc, argv};
     QApplication::setDesktopFileName(toQString(product::desktopId()));
-    const SingleInstance instance{applicationSupport()};
+    const QStringList files = filesToOpen();
+    const SingleInstance instance{applicationSupport(), files};
     if (!instance.isFirst()) {
         return 0;
     }
@@ -87,8 +102,17 @@ int main(int argc, char** argv) {
 
     Tessaly program{temporaryFolder().toStdString(), applicationSupport().toStdString()};
     MainWindow& mainWindow = program.mainWindow();
-    QObject::connect(&instance, &SingleInstance::startedAgain, &mainWindow, [&] { showAgain(mainWindow); });
+    const auto open = [&program](const QStringList& paths) {
+        for (const QString& path : paths) {
+            program.openFile(path);
+        }
+    };
+    QObject::connect(&instance, &SingleInstance::startedAgain, &mainWindow, [&](const QStringList& paths) {
+        showAgain(mainWindow);
+        open(paths);
+    });
     afterFirstPaint(mainWindow, [] { QApplication::setWindowIcon(programIcon()); });
     mainWindow.show();
+    open(files);
     return QApplication::exec();
 }

@@ -9,10 +9,10 @@
 /// What the rules of the canvas ask of the controls beside it. Setting a value never counts as user input.
 namespace tessaly {
 
-/// A text field that holds a number.
-class NumberField {
+/// A text field.
+class TextField {
   public:
-    virtual ~NumberField() = default;
+    virtual ~TextField() = default;
     virtual std::string text() const = 0;
     virtual void setText(std::string_view text) = 0;
     virtual void setEnabled(bool enabled) = 0;

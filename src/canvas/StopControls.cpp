@@ -131,6 +131,17 @@ void StopControls::colorChanged() {
     });
 }
 
+void StopControls::takeColor(const Color& color, double opacity) {
+    handle(editStep::changeColor, {}, [&] {
+        controls_.selectedColor->setBackgroundColor(color);
+        markers_.changeSelected([&](ColorStop& stop) {
+            stop.color = color;
+            stop.opacity = colorFormat::carriesOpacity(record_.colorFormatType) ? opacity : stop.opacity;
+        });
+        showColor();
+    });
+}
+
 void StopControls::pickingGivenUp() {
     history_.undoRun(picking.control);
 }
@@ -200,6 +211,7 @@ void StopControls::showSelectedStop() {
         return;
     }
     controls_.selectedColor->setBackgroundColor(stop->color);
+    controls_.hexadecimal->setText(hexadecimalText(stop->color).value_or(""));
     formReady_ = false;
     for (const auto& [value, number] :
          {std::pair{StopValue::Position, stop->position}, std::pair{StopValue::Opacity, stop->opacity}}) {
@@ -217,6 +229,7 @@ void StopControls::updateEnabledState() {
         pair(traits.value).field->setEnabled(enabled);
         pair(traits.value).stepper->setEnabled(enabled);
     }
+    controls_.hexadecimal->setEnabled(anyStop);
     controls_.selectedColor->setEnabled(anyStop);
 }
 

@@ -15,12 +15,13 @@ namespace tessaly {
 /// The controls beside the canvas. They outlive what works with them.
 struct StopControlSet {
     struct Pair {
-        NumberField* field = nullptr;
+        TextField* field = nullptr;
         Stepper* stepper = nullptr;
     };
 
     std::array<Pair, stopValues.size()> pairs; ///< by StopValue
     ColorWell* selectedColor = nullptr;
+    TextField* hexadecimal = nullptr;
     ComboBox* selectedOrientationComboBox = nullptr;
     ComboBox* selectedColorFormatComboBox = nullptr;
 };
@@ -41,6 +42,9 @@ class StopControls {
 
     void updateOrientationComboBoxValue();
     void updateColorFormatComboBoxValue();
+
+    /// The user gave the selected stop a colour outright; its opacity counts where the notation carries one.
+    void takeColor(const Color& color, double opacity);
 
     /// The colour well has a new colour.
     void colorChanged();

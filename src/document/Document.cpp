@@ -2,6 +2,7 @@
 
 #include "model/EditStep.h"
 
+#include <algorithm>
 #include <iterator>
 #include <memory>
 #include <utility>
@@ -28,9 +29,34 @@ void Document::open() {
 
 void Document::newGradient() {
     history_.act(editStep::newGradient, [this] {
-        record_.gradient = Gradient{{{0.0, Color::black()}, {1.0, Color::white()}}};
-        editor_.gradientReplaced(std::ssize(record_.gradient.stops()) - 1);
+        replaceGradient(Gradient{{{0.0, Color::black()}, {1.0, Color::white()}}});
     });
+}
+
+void Document::takeGradient(const Gradient& gradient, std::string_view step) {
+    history_.act(step, [&] {
+        const auto isOpaque = [](const ColorStop& stop) { return stop.opacity >= 1.0; };
+        if (!std::ranges::all_of(gradient.stops(), isOpaque)) {
+            record_.colorFormatType = colorFormat::carryingOpacity(record_.colorFormatType);
+        }
+        replaceGradient(gradient);
+    });
+}
+
+// The selection stays where it is, if there is such a stop.
+void Document::replaceGradient(const Gradient& gradient) {
+    record_.gradient = gradient;
+    const std::int64_t last = std::ssize(gradient.stops()) - 1;
+    editor_.gradientReplaced(std::clamp<std::int64_t>(editor_.markers().selectedColorMarkerIndex(), 0,
+                                                      std::max<std::int64_t>(last, 0)));
+}
+
+bool Document::takeColor(const ReadColor& color) {
+    const bool isSelected = editor_.markers().selectedStop().has_value();
+    if (isSelected) {
+        editor_.controls().takeColor(color.color, color.alpha);
+    }
+    return isSelected;
 }
 
 DocumentState Document::state() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvas/GradientEditor.h"
+#include "exchange/CssColor.h"
 #include "model/GlobalData.h"
 #include "model/History.h"
 #include "presets/PresetGallery.h"
@@ -8,6 +9,8 @@
 
 #include <filesystem>
 #include <functional>
+#include <string_view>
+#include <vector>
 
 namespace tessaly {
 
@@ -39,10 +42,21 @@ class Document {
     PresetGallery& gallery() { return gallery_; }
     History& history() { return history_; }
 
-    /// Edits the gradient of the start; one step.
+    // Each is one step.
+
+    /// Edits the gradient of the start.
     void newGradient();
 
+    /// Edits a gradient that came in, in a notation that can say its opacities.
+    void takeGradient(const Gradient& gradient, std::string_view step);
+
+    /// Gives the selected stop the colour. False: there is no such stop.
+    bool takeColor(const ReadColor& color);
+
+    void addToPresets(const std::vector<Gradient>& gradients) { gallery_.addGradientsIntoPreset(gradients); }
+
   private:
+    void replaceGradient(const Gradient& gradient);
     DocumentState state() const;
     void restore(const DocumentState& shown, const DocumentState& wanted);
 

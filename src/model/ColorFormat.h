@@ -33,4 +33,12 @@ constexpr bool carriesOpacity(std::int64_t code) {
     return isKnown(code) && notations[static_cast<std::size_t>(code)].carriesOpacity;
 }
 
+/// The notation that writes colours alike, and opacity too.
+constexpr std::int64_t carryingOpacity(std::int64_t code) {
+    if (carriesOpacity(code) || !isKnown(code)) {
+        return code;
+    }
+    return code == hsl ? hsla : rgba;
+}
+
 } // namespace tessaly::colorFormat

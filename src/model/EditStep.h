@@ -18,5 +18,8 @@ inline constexpr std::string_view addPreset = "Add Preset";
 inline constexpr std::string_view applyPreset = "Apply Preset";
 inline constexpr std::string_view deletePreset = "Delete Preset";
 inline constexpr std::string_view newGradient = "New Gradient";
+inline constexpr std::string_view pasteGradient = "Paste Gradient";
+inline constexpr std::string_view openGradient = "Open Gradient";
+inline constexpr std::string_view addToPresets = "Add to Presets";
 
 } // namespace tessaly::editStep

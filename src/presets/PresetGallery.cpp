@@ -59,6 +59,15 @@ void PresetGallery::addGradientIntoPreset() {
     });
 }
 
+void PresetGallery::addGradientsIntoPreset(const std::vector<Gradient>& gradients) {
+    history_.act(editStep::addToPresets, [&] {
+        for (const Gradient& gradient : gradients) {
+            addGradientIntoPreset(gradient);
+        }
+        actions_.insertData();
+    });
+}
+
 void PresetGallery::applyPreset(std::size_t position) {
     DiagnosticLog::write("updateGradientNotification");
     history_.act(editStep::applyPreset, [&] {

@@ -45,6 +45,9 @@ class PresetGallery {
     /// Appends the gradient being edited and saves the list.
     void addGradientIntoPreset();
 
+    /// Appends gradients that came in, and saves the list once.
+    void addGradientsIntoPreset(const std::vector<Gradient>& gradients);
+
     /// Appends a stored preset; saves nothing.
     void addGradientIntoPreset(Gradient gradient);
 

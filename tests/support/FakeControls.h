@@ -17,7 +17,7 @@ struct FakeControl : Control {
     bool enabled = true;
 };
 
-struct FakeField : FakeControl<NumberField> {
+struct FakeField : FakeControl<TextField> {
     std::string text() const override { return shown; }
     void setText(std::string_view text) override { shown = text; }
     std::string shown;
@@ -63,9 +63,10 @@ struct FakeControls {
     std::array<FakeField, stopValues.size()> fields;
     std::array<FakeStepper, stopValues.size()> steppers;
     FakeWell well;
+    FakeField hexadecimal;
     FakeComboBox orientation;
     FakeComboBox colorFormat;
-    StopControlSet set{{}, &well, &orientation, &colorFormat};
+    StopControlSet set{{}, &well, &hexadecimal, &orientation, &colorFormat};
 };
 
 } // namespace tessaly

@@ -1,6 +1,7 @@
 #include "canvas/qt/StopControlPanel.h"
 
 #include "canvas/qt/ColorPickerImageView.h"
+#include "canvas/qt/FieldEdit.h"
 #include "canvas/qt/NumberFieldEdit.h"
 #include "canvas/qt/TitledComboBox.h"
 #include "canvas/qt/ValueStepper.h"
@@ -38,6 +39,7 @@ constexpr std::array<Cell, stopValues.size()> cells{{
     {StopValue::Opacity, "Opa&city", "selectedOpacityTextField", "selectedOpacityStepper", 1, 2},
 }};
 
+constexpr int hexadecimalDigits = 8;
 constexpr int columnsPerBlock = 4;
 constexpr int lastBlock = 3;
 
@@ -53,6 +55,7 @@ QLabel* labelFor(QWidget& buddy, const QString& text) {
 StopControlPanel::StopControlPanel(QWidget* parent)
     : QWidget{parent},
       selectedColor_{new ColorPickerImageView},
+      hexadecimal_{new FieldEdit{hexadecimalDigits}},
       selectedOrientationComboBox_{new TitledComboBox},
       selectedColorFormatComboBox_{new TitledComboBox} {
     auto* const grid = new QGridLayout{this};
@@ -97,6 +100,9 @@ void StopControlPanel::addPair(QGridLayout& grid, const StopValueTraits& traits,
 void StopControlPanel::addLists(QGridLayout& grid) {
     selectedColor_->setAccessibleName(tr("Stop color"));
     selectedColor_->setToolTip(tr("Pick the color of the selected stop"));
+    hexadecimal_->setAccessibleName(tr("Hex"));
+    hexadecimal_->setToolTip(tr("The color of the selected stop: type any CSS color"));
+    connect(hexadecimal_, &FieldEdit::edited, this, [this] { Q_EMIT colorTyped(hexadecimal_->text()); });
     selectedOrientationComboBox_->setAccessibleName(tr("Orientation"));
     selectedColorFormatComboBox_->setAccessibleName(tr("Color notation"));
     for (const orientation::Item& item : orientation::items) {
@@ -117,6 +123,7 @@ void StopControlPanel::addLists(QGridLayout& grid) {
     add(*selectedColor_, tr("C&olor"), 2, stopBlock);
     add(*selectedOrientationComboBox_, tr("Or&ientation"), 0, listBlock);
     add(*selectedColorFormatComboBox_, tr("Not&ation"), 1, listBlock);
+    add(*hexadecimal_, tr("He&x"), 2, listBlock);
 }
 
 StopControlSet StopControlPanel::controlSet() const {
@@ -125,6 +132,7 @@ StopControlSet StopControlPanel::controlSet() const {
         set.pairs[i] = {pairs_[i].field, pairs_[i].stepper};
     }
     set.selectedColor = selectedColor_;
+    set.hexadecimal = hexadecimal_;
     set.selectedOrientationComboBox = selectedOrientationComboBox_;
     set.selectedColorFormatComboBox = selectedColorFormatComboBox_;
     return set;

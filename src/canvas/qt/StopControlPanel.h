@@ -4,12 +4,14 @@
 
 #include <QWidget>
 #include <array>
+#include <string>
 
 class QGridLayout;
 
 namespace tessaly {
 
 class ColorPickerImageView;
+class FieldEdit;
 class NumberFieldEdit;
 class TitledComboBox;
 class ValueStepper;
@@ -28,6 +30,10 @@ class StopControlPanel : public QWidget {
     /// Tells the rules from now on what the user does.
     void connectTo(StopControls& rules);
 
+  Q_SIGNALS:
+    /// The user typed a colour for the selected stop.
+    void colorTyped(const std::string& text);
+
   private:
     struct Pair {
         NumberFieldEdit* field = nullptr;
@@ -39,6 +45,7 @@ class StopControlPanel : public QWidget {
 
     std::array<Pair, stopValues.size()> pairs_;
     ColorPickerImageView* selectedColor_;
+    FieldEdit* hexadecimal_;
     TitledComboBox* selectedOrientationComboBox_;
     TitledComboBox* selectedColorFormatComboBox_;
 };

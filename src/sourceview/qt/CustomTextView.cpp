@@ -6,6 +6,7 @@
 #include "sourceview/qt/CodeDocumentLayout.h"
 #include "sourceview/qt/ExactText.h"
 
+#include <QDragEnterEvent>
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -162,6 +163,15 @@ void CustomTextView::insertFromMimeData(const QMimeData* source) {
         QTextCursor cursor = textCursor();
         insertInto(cursor, source->text().toStdU16String());
         setTextCursor(cursor); // Up and Down go on from the column that it is in now
+    }
+}
+
+// Files are for the window to open.
+void CustomTextView::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->ignore();
+    } else {
+        QPlainTextEdit::dragEnterEvent(event);
     }
 }
 

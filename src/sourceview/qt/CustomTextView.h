@@ -69,6 +69,7 @@ class CustomTextView : public QPlainTextEdit, public TextLayout {
     bool focusNextPrevChild(bool next) override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
     QMimeData* createMimeDataFromSelection() const override;
 
   private:

@@ -1,0 +1,132 @@
+#include "app/GradientIntake.h"
+
+#include "app/GradientChooser.h"
+#include "app/MainWindow.h"
+#include "app/MessageLine.h"
+#include "app/ReadingBeside.h"
+#include "canvas/qt/StopControlPanel.h"
+#include "document/Document.h"
+#include "foundation/qt/ToQString.h"
+#include "model/EditStep.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QUrl>
+
+namespace tessaly {
+namespace {
+
+constexpr std::size_t readAtOnce = std::size_t{256} << 10U; // what takes longer than a picture of the display
+
+const QString svg = QStringLiteral("image/svg+xml");
+
+} // namespace
+
+void GradientIntake::paste() {
+    takeFrom(*QGuiApplication::clipboard()->mimeData(), tr("the clipboard"), editStep::pasteGradient);
+}
+
+void GradientIntake::drop(const QMimeData& data) {
+    takeFrom(data, tr("what was dropped"), editStep::openGradient);
+}
+
+void GradientIntake::takeFrom(const QMimeData& data, const QString& source, std::string_view step) {
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) {
+            openFile(url.toLocalFile());
+            return;
+        }
+    }
+    const std::string text =
+        (data.hasText() ? data.text().toUtf8() : data.data(svg)).toStdString(); // a copy, for another thread
+    read([text, name = source.toStdString()](
+             const Progress& progress) { return readIncomingText(text, name, progress); },
+         text.size(), step);
+}
+
+void GradientIntake::open() {
+    auto* const dialog = new QFileDialog{&window_,
+                                         tr("Open Gradient"),
+                                         {},
+                                         tr("Gradients (*.css *.html *.htm *.svg *.sqlite3);;All files (*)")};
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, &QFileDialog::fileSelected, this, &GradientIntake::openFile);
+    dialog->open();
+}
+
+void GradientIntake::openFile(const QString& path) {
+    read([file = std::filesystem::path{path.toStdU16String()}](
+             const Progress& progress) { return readIncomingFile(file, progress); },
+         static_cast<std::size_t>(QFileInfo{path}.size()), editStep::openGradient);
+}
+
+void GradientIntake::takeTypedColor(const std::string& text) {
+    const auto color = readCssColor(text);
+    if (color) {
+        takeColor(*color);
+    } else {
+        say(tr("“%1” is no color").arg(toQString(text)));
+    }
+    document_.editor().controls().showSelectedStop(); // in the form that the field has
+}
+
+void GradientIntake::read(const Reader& reader, std::size_t size, std::string_view step) {
+    if (size <= readAtOnce) {
+        take(reader({}), step);
+        return;
+    }
+    readBeside(window_, reader, [this, step](const Incoming& incoming) { take(incoming, step); });
+}
+
+void GradientIntake::take(const Incoming& incoming, std::string_view step) {
+    if (incoming.color) {
+        takeColor(*incoming.color);
+    } else if (incoming.gradients.empty()) {
+        say(toQString(incoming.failure));
+    } else if (incoming.gradients.size() == 1) {
+        takeGradient(incoming.gradients.front(), incoming.complete, step);
+    } else {
+        choose(incoming, step);
+    }
+}
+
+void GradientIntake::takeGradient(const FoundGradient& found, bool isAll, std::string_view step) {
+    document_.takeGradient(found.gradient, step);
+    QStringList told;
+    for (const std::string& note : found.notes) {
+        told += toQString(note);
+    }
+    if (!isAll) {
+        told += tr("there is more than could be read");
+    }
+    say(told.join(QStringLiteral("; ")));
+}
+
+void GradientIntake::takeColor(const ReadColor& color) {
+    if (!document_.takeColor(color)) {
+        say(tr("No stop is selected"));
+    } else if (color.clipped) {
+        say(tr("The color lies outside sRGB and was clipped"));
+    }
+}
+
+void GradientIntake::choose(const Incoming& incoming, std::string_view step) {
+    auto* const chooser = new GradientChooser{incoming.gradients, &window_};
+    connect(chooser, &GradientChooser::editThis, this,
+            [this, step, isAll = incoming.complete](const FoundGradient& found) {
+                takeGradient(found, isAll, step);
+            });
+    connect(chooser, &GradientChooser::addToPresets, this,
+            [this](const std::vector<Gradient>& gradients) { document_.addToPresets(gradients); });
+    chooser->open();
+}
+
+void GradientIntake::say(const QString& message) {
+    window_.views().message->say(message);
+}
+
+} // namespace tessaly

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "document/Incoming.h"
+
+#include <QObject>
+#include <QStringList>
+#include <functional>
+#include <string_view>
+
+class QMimeData;
+
+namespace tessaly {
+
+class Document;
+class MainWindow;
+
+/// Takes what comes in from outside: pasted, opened, dropped on the window, named on the command line, typed
+/// as a colour. One gradient replaces the one being edited, of several the user chooses, a colour goes to the
+/// selected stop; what was changed on the way, or why there is nothing to take, the window says.
+class GradientIntake : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Both must outlive the object.
+    GradientIntake(Document& document, MainWindow& window) : document_{document}, window_{window} {}
+
+    void paste();
+    void open();
+    void drop(const QMimeData& data);
+    void openFile(const QString& path);
+    void takeTypedColor(const std::string& text);
+
+  private:
+    using Reader = std::function<Incoming(const Progress& progress)>;
+
+    void takeFrom(const QMimeData& data, const QString& source, std::string_view step);
+    void read(const Reader& reader, std::size_t size, std::string_view step);
+    void take(const Incoming& incoming, std::string_view step);
+    void takeGradient(const FoundGradient& found, bool isAll, std::string_view step);
+    void takeColor(const ReadColor& color);
+    void choose(const Incoming& incoming, std::string_view step);
+    void say(const QString& message);
+
+    Document& document_;
+    MainWindow& window_;
+};
+
+} // namespace tessaly

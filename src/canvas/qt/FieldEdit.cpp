@@ -1,0 +1,65 @@
+#include "canvas/qt/FieldEdit.h"
+
+#include "foundation/qt/KeptKeys.h"
+#include "foundation/qt/ToQString.h"
+
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+namespace tessaly {
+
+FieldEdit::FieldEdit(int digits, QWidget* parent) : QLineEdit{parent}, digits_{digits} {
+    connect(this, &QLineEdit::editingFinished, this, &FieldEdit::endEditing);
+}
+
+void FieldEdit::setText(std::string_view text) {
+    const QString wanted = toQString(text);
+    shown_ = wanted;
+    if (QLineEdit::text() != wanted) {
+        QLineEdit::setText(wanted);
+    }
+}
+
+QSize FieldEdit::sizeHint() const {
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const int textWidth = fontMetrics().horizontalAdvance(QString(digits_, u'8'));
+    const int height = QLineEdit::sizeHint().height();
+    constexpr int textMargins = 8;
+    return style()->sizeFromContents(QStyle::CT_LineEdit, &option,
+                                     {textWidth + textMargins, height - 2 * option.lineWidth}, this);
+}
+
+// Undo and redo are the field's as long as its text is not applied, and else the document's.
+bool FieldEdit::event(QEvent* event) {
+    if (keepKeys(*event, {Qt::Key_Insert})) {
+        return true;
+    }
+    if (event->type() == QEvent::ShortcutOverride && QLineEdit::text() == shown_) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
+void FieldEdit::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && QLineEdit::text() != shown_) {
+        QLineEdit::setText(shown_);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void FieldEdit::endEditing() {
+    if (QLineEdit::text() != shown_) {
+        shown_ = QLineEdit::text();
+        Q_EMIT edited();
+    }
+}
+
+} // namespace tessaly

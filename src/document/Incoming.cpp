@@ -1,0 +1,75 @@
+#include "document/Incoming.h"
+
+#include "exchange/Readers.h"
+#include "presets/PresetReader.h"
+
+#include <fstream>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+namespace tessaly {
+namespace {
+
+constexpr std::string_view databaseStart = "SQLite format 3";
+constexpr std::size_t longestColor = 256; // a colour with its comments
+
+Incoming failed(std::string sentence) {
+    Incoming incoming;
+    incoming.failure = std::move(sentence);
+    return incoming;
+}
+
+Incoming readPresets(const std::filesystem::path& file, const std::string& name) {
+    const auto presets = readPresetFile(file);
+    if (!presets || presets->empty()) {
+        return failed("No presets in " + name);
+    }
+    Incoming incoming;
+    for (const Gradient& gradient : *presets) {
+        incoming.gradients.push_back({gradient, {}, {}});
+    }
+    return incoming;
+}
+
+} // namespace
+
+Incoming readIncomingText(std::string_view text, const std::string& source, const Progress& progress) {
+    if (text.size() > longestIncoming) {
+        return failed("More than 16 MB in " + source + ": not read");
+    }
+    Incoming incoming;
+    if (text.size() <= longestColor) {
+        incoming.color = readCssColor(text);
+    }
+    if (!incoming.color) {
+        Reading reading = readGradients(text, progress);
+        incoming.gradients = std::move(reading.gradients);
+        incoming.complete = reading.complete;
+        if (incoming.gradients.empty()) {
+            incoming.failure = "No gradient in " + source;
+        }
+    }
+    return incoming;
+}
+
+Incoming readIncomingFile(const std::filesystem::path& file, const Progress& progress) {
+    const std::string name = file.filename().string();
+    std::error_code error;
+    const auto status = std::filesystem::status(file, error);
+    if (!error && !std::filesystem::is_regular_file(status)) {
+        return failed(name + (std::filesystem::exists(status) ? " is no file" : " does not exist"));
+    }
+    const std::uintmax_t size = error ? 0 : std::filesystem::file_size(file, error);
+    std::ifstream stream{file, std::ios::binary};
+    if (error || !stream) {
+        return failed(name + " cannot be read");
+    }
+    if (size > longestIncoming) {
+        return failed("More than 16 MB in " + name + ": not read");
+    }
+    const std::string text{std::istreambuf_iterator<char>{stream}, {}};
+    return text.starts_with(databaseStart) ? readPresets(file, name) : readIncomingText(text, name, progress);
+}
+
+} // namespace tessaly
