@@ -47,6 +47,7 @@ GradientChooser::GradientChooser(std::vector<FoundGradient> gradients, QWidget* 
     buttons->addButton(edit_, QDialogButtonBox::AcceptRole);
     buttons->addButton(add_, QDialogButtonBox::ActionRole);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
     edit_->setDefault(true);
     auto* const layout = new QVBoxLayout{this};
     layout->setContentsMargins(margin, margin, margin, margin);
@@ -59,6 +60,7 @@ GradientChooser::GradientChooser(std::vector<FoundGradient> gradients, QWidget* 
     layout->addWidget(buttons);
     resize(startSize);
     list_->setCurrentIndex(list_->model()->index(0, 0));
+    list_->setFocus();
 }
 
 std::vector<int> GradientChooser::chosenRows() const {

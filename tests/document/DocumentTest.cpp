@@ -178,6 +178,33 @@ TEST_F(DocumentTest, undoGivesBackEveryStateThatAnyActionsMade) {
     EXPECT_FALSE(history().undo());
 }
 
+TEST_F(DocumentTest, takesAGradientInANotationThatCanSayIt) {
+    const Gradient opaque{{{0.0, Color::white()}, {0.5}, {1.0}}, orientation::radial};
+    const Gradient translucent{{{0.5, Color::white(), 0.5}}};
+    for (const auto& [notation, carrying] : {std::pair{0, 2}, {1, 2}, {2, 2}, {3, 4}, {4, 4}}) {
+        controls.colorFormat.selected = notation;
+        document.editor().controls().updateColorFormatComboBoxValue();
+        document.takeGradient(opaque, editStep::openGradient);
+        EXPECT_EQ(document.record(), (GlobalData{opaque, notation}));
+        mouse().select(2);
+        document.takeGradient(translucent, editStep::pasteGradient);
+        EXPECT_EQ(document.record(), (GlobalData{translucent, carrying}));
+        EXPECT_EQ(controls.colorFormat.selected, carrying);
+        EXPECT_EQ(selection(), 0);
+        EXPECT_EQ(history().undoName(), "Paste Gradient");
+        history().undo();
+        EXPECT_EQ(document.record(), (GlobalData{opaque, notation}));
+        EXPECT_EQ(selection(), 2);
+    }
+    EXPECT_TRUE(document.takeColor({Color::black(), 0.25}));
+    EXPECT_EQ(document.record().gradient.stopAt(2)->opacity, 0.25);
+    EXPECT_EQ(controls.hexadecimal.shown, "#000000");
+    document.addToPresets({opaque, translucent});
+    EXPECT_EQ(gradientsIn(document.gallery()), (std::vector{opaque, translucent}));
+    history().undo();
+    EXPECT_EQ(content().presets, std::vector<Gradient>{});
+}
+
 TEST_F(DocumentTest, oneActionIsOneStepAndNothingIsNone) {
     const auto steps = [this](const std::function<void()>& act) {
         const std::size_t before = history().stepCount();
