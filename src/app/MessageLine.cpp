@@ -9,7 +9,7 @@ namespace {
 
 bool isNextAction(const QEvent& event) {
     if (event.type() != QEvent::KeyPress) {
-        return event.type() == QEvent::MouseButtonPress;
+        return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::Wheel;
     }
     const int key = static_cast<const QKeyEvent&>(event).key();
     return key < Qt::Key_Shift || key > Qt::Key_ScrollLock; // those in between only modify others
@@ -48,8 +48,8 @@ void MessageLine::resizeEvent(QResizeEvent* event) {
     showElided();
 }
 
-bool MessageLine::eventFilter(QObject* /*watched*/, QEvent* event) {
-    if (isNextAction(*event)) {
+bool MessageLine::eventFilter(QObject* watched, QEvent* event) {
+    if (watched->isWindowType() && isNextAction(*event)) { // to widgets the same event may come several times
         say({});
     }
     return false;

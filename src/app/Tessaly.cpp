@@ -6,6 +6,7 @@
 #include "app/MessageLine.h"
 #include "canvas/CanvasNotification.h"
 #include "canvas/qt/CanvasView.h"
+#include "canvas/qt/FieldEdit.h"
 #include "canvas/qt/StopControlPanel.h"
 #include "chrome/ProductInfo.h"
 #include "chrome/TabNotification.h"
@@ -16,10 +17,10 @@
 #include "codegen/PageText.h"
 #include "codegen/qt/WebPreviewView.h"
 #include "foundation/qt/ToQString.h"
-#include "model/EditStep.h"
 #include "presets/qt/PresetPanel.h"
 #include "sourceview/qt/SourceView.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <functional>
@@ -44,7 +45,10 @@ Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem
       document_{{mainWindow_->views().canvas->geometry(), *mainWindow_->views().canvas,
                  mainWindow_->views().stopControls->controlSet(), *mainWindow_->views().presets},
                 applicationSupport,
-                [this] { updateMenu(); }},
+                [this] {
+                    mainWindow_->views().message->say({});
+                    updateMenu();
+                }},
       intake_{document_, *mainWindow_},
       htmlTextView_{mainWindow_->views().page->textView()},
       css3TextView_{mainWindow_->views().stylesheet->textView()},
@@ -61,7 +65,9 @@ Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem
 }
 
 Tessaly::~Tessaly() {
+    mainWindow_->hide(); // which ends what is being typed
     document_.close();
+    needToUpdateWebCode_.reset();
     mainWindow_.reset(); // its views have borrowed what goes next
 }
 
@@ -79,32 +85,50 @@ void Tessaly::lendToViews() {
 
 void Tessaly::answerMenu() {
     const MainWindow::Views& views = mainWindow_->views();
-    MainMenu& menu = *views.menu;
-    const auto answer = [&](Command command, QPushButton* button, const std::function<void()>& run) {
-        menu.onCommand(command, run);
+    const auto on = [&](Command command, const std::function<void()>& run) {
+        views.menu->onCommand(command, [this, run] { runCommand(run); });
+    };
+    const auto onBoth = [&](Command command, QPushButton* button, const std::function<void()>& run) {
+        on(command, run);
         connect(button, &QPushButton::clicked, this, run);
     };
-    answer(Command::About, views.about, [this] { openDialog(about_, *mainWindow_); });
-    answer(Command::Homepage, views.homepage, [] { WebAddressOpener::open(toQString(product::homepage())); });
-    answer(Command::RelatedApplications, views.relatedApps,
+    onBoth(Command::About, views.about, [this] { openDialog(about_, *mainWindow_); });
+    onBoth(Command::Homepage, views.homepage, [] { WebAddressOpener::open(toQString(product::homepage())); });
+    onBoth(Command::RelatedApplications, views.relatedApps,
            [this] { openDialog(relatedApps_, *mainWindow_); });
-    menu.onCommand(Command::New, [this] { document_.newGradient(); });
-    menu.onCommand(Command::Open, [this] { intake_.open(); });
-    menu.onCommand(Command::PasteGradient, [this] { intake_.paste(); });
-    menu.onCommand(Command::WriteStylesheetAnew, [this] { writeCodeAnew(); });
-    menu.onCommand(Command::Quit, [this] { mainWindow_->close(); });
-    menu.onCommand(Command::Undo, [this] { takeStep(&History::undo, document_.history().undoName()); });
-    menu.onCommand(Command::Redo, [this] { takeStep(&History::redo, document_.history().redoName()); });
-    menu.onCommand(Command::CopyStylesheet,
-                   [this] { mainWindow_->views().copy->copy(toQString(css3TextView_.text())); });
-    menu.onCommand(Command::AddStop, [this] { document_.editor().interaction().addBesideSelected(); });
-    menu.onCommand(Command::DeleteStop, [this] { document_.editor().interaction().deleteColorMarker(); });
+    views.menu->onCommand(Command::Quit, [this] { mainWindow_->close(); });
+    on(Command::New, [this] { document_.newGradient(); });
+    on(Command::Open, [this] { intake_.open(); });
+    on(Command::Undo, [this] { takeStep(&History::undo); });
+    on(Command::Redo, [this] { takeStep(&History::redo); });
+    on(Command::CopyStylesheet, [this] { mainWindow_->views().copy->copy(toQString(css3TextView_.text())); });
+    on(Command::PasteGradient, [this] { intake_.paste(); });
+    on(Command::AddStop, [this] { document_.editor().interaction().addBesideSelected(); });
+    on(Command::DeleteStop, [this] { document_.editor().interaction().deleteColorMarker(); });
+    on(Command::WriteStylesheetAnew, [this] { writeCodeAnew(); });
 }
 
-void Tessaly::takeStep(bool (History::*step)(), std::string_view name) {
-    if ((document_.history().*step)() && name == editStep::boundTrack) { // the one that cannot be seen
-        mainWindow_->views().message->say(step == &History::undo ? tr("The track reaches to its start again")
-                                                                 : tr("The track is bound again"));
+// Nothing happens beneath an open menu, nor while a mouse button is down: what these act on must not change
+// under the hand. What is being typed is applied first.
+void Tessaly::runCommand(const std::function<void()>& run) {
+    if (QApplication::activePopupWidget() != nullptr || QApplication::mouseButtons() != Qt::NoButton) {
+        return;
+    }
+    mainWindow_->views().message->say({});
+    if (auto* const field = qobject_cast<FieldEdit*>(QApplication::focusWidget())) {
+        field->endEditing();
+    }
+    run();
+}
+
+void Tessaly::takeStep(bool (History::*step)()) {
+    const std::int64_t before = document_.editor().interaction().lowerBound();
+    (document_.history().*step)();
+    const std::int64_t after = document_.editor().interaction().lowerBound();
+    if (before != after) { // which cannot be seen
+        mainWindow_->views().message->say(after < before
+                                              ? tr("Markers can be moved along the whole track again")
+                                              : tr("Markers keep to half of the track again"));
     }
 }
 

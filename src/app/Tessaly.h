@@ -10,6 +10,7 @@
 #include <QObject>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 namespace tessaly {
@@ -40,8 +41,9 @@ class Tessaly : public QObject {
   private:
     void lendToViews();
     void answerMenu();
+    void runCommand(const std::function<void()>& run);
     void observe();
-    void takeStep(bool (History::*step)(), std::string_view name);
+    void takeStep(bool (History::*step)());
     void updateMenu();
     void writeCode();
     void updateCode();

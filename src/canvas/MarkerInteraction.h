@@ -70,7 +70,7 @@ class MarkerInteraction {
     Point startDragCursorPos_;
     std::int64_t startDragImagePosX_ = 0; ///< points along the track when the marker was grabbed
     std::int64_t startDragImagePosY_ = 0;
-    std::int64_t minColorMarkerPos_ = 0; ///< deliberately never lowered again: see addAt
+    std::int64_t minColorMarkerPos_ = 0; ///< deliberately not lowered by editing: see addAt
     std::int64_t markerDragOrientation_ = 0;
 };
 

@@ -48,6 +48,8 @@ class StopControls {
 
     /// The colour well has a new colour.
     void colorChanged();
+    /// The colour panel was opened.
+    void pickingBegun() { history_.endRun(); }
     /// Takes back what was picked in the colour panel, unless something else was touched since.
     void pickingGivenUp();
 

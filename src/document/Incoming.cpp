@@ -56,9 +56,12 @@ Incoming readIncomingText(std::string_view text, const std::string& source, cons
 Incoming readIncomingFile(const std::filesystem::path& file, const Progress& progress) {
     const std::string name = file.filename().string();
     std::error_code error;
-    const auto status = std::filesystem::status(file, error);
-    if (!error && !std::filesystem::is_regular_file(status)) {
-        return failed(name + (std::filesystem::exists(status) ? " is no file" : " does not exist"));
+    const auto type = std::filesystem::status(file, error).type();
+    if (type == std::filesystem::file_type::not_found) {
+        return failed(name + " does not exist");
+    }
+    if (!error && type != std::filesystem::file_type::regular) {
+        return failed(name + " is no file");
     }
     const std::uintmax_t size = error ? 0 : std::filesystem::file_size(file, error);
     std::ifstream stream{file, std::ios::binary};

@@ -1,6 +1,8 @@
 #include "model/History.h"
 
 #include <algorithm>
+#include <map>
+#include <memory>
 #include <utility>
 
 namespace tessaly {
@@ -59,7 +61,7 @@ void History::end() {
     }
     DocumentState after = document_.state();
     share(after, open_.before);
-    if (!open_.forgotten && !sameContent(open_.before, after)) {
+    if (!sameContent(open_.before, after)) {
         record(std::move(after));
         document_.historyChanged();
     }
@@ -170,12 +172,24 @@ void History::restore(const DocumentState& shown, const DocumentState& wanted) {
     document_.historyChanged();
 }
 
-void History::forget() {
-    steps_.clear();
-    done_ = bytes_ = 0;
-    run_.reset();
-    open_.forgotten = true;
-    document_.historyChanged();
+void History::prependPresets(const GradientList& presets) {
+    std::map<std::shared_ptr<const GradientList>, std::shared_ptr<const GradientList>> longer;
+    const auto prepend = [&](DocumentState& state) {
+        std::shared_ptr<const GradientList>& known = longer[state.presets];
+        if (known == nullptr) {
+            GradientList list = presets;
+            list.insert(list.end(), state.presets->begin(), state.presets->end());
+            known = std::make_shared<const GradientList>(std::move(list));
+        }
+        state.presets = known;
+    };
+    for (Step& step : steps_) {
+        prepend(step.before);
+        prepend(step.after);
+    }
+    if (depth_ > 0) {
+        prepend(open_.before);
+    }
 }
 
 } // namespace tessaly

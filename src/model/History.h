@@ -62,8 +62,8 @@ class History {
     std::string_view undoName() const { return done_ == 0 ? "" : steps_[done_ - 1].name; }
     std::string_view redoName() const { return done_ == steps_.size() ? "" : steps_[done_].name; }
 
-    /// Drops every step, and does not record the action under way.
-    void forget();
+    /// Puts presets in front of those of every state, as if they had always been there.
+    void prependPresets(const GradientList& presets);
 
     /// How full it is: asked by nobody but who measures it.
     std::size_t stepCount() const { return steps_.size(); }
@@ -80,7 +80,6 @@ class History {
         std::string_view name;
         Run run;
         DocumentState before;
-        bool forgotten = false;
     };
     struct RunUnderWay {
         Run run;

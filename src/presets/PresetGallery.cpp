@@ -95,20 +95,23 @@ std::shared_ptr<const GradientList> PresetGallery::snapshot() const {
 }
 
 void PresetGallery::restore(const std::shared_ptr<const GradientList>& snapshot) {
+    const auto first = std::ranges::mismatch(presetGradient_, *snapshot).in2;
+    const auto changed = static_cast<std::size_t>(first - snapshot->begin());
     presetGradient_ = *snapshot;
     snapshot_ = snapshot;
     room_ = std::max(room_, presetGradient_.size());
     redrawPresetGradientContainer(true);
+    view_.showThumbnail(changed);
     actions_.insertData();
 }
 
 void PresetGallery::insertStored(const std::function<void()>& readStored) {
     const GradientList added = std::exchange(presetGradient_, {});
     readStored();
+    history_.prependPresets(presetGradient_);
     for (const auto& gradient : added) {
         append(gradient);
     }
-    history_.forget();
 }
 
 } // namespace tessaly

@@ -35,8 +35,8 @@ class PresetGallery {
     /// Brings a snapshot back and saves it.
     void restore(const std::shared_ptr<const GradientList>& snapshot);
 
-    /// Puts stored presets, which could not be read before, in front of those there are. No step goes back
-    /// behind this.
+    /// Puts stored presets, which could not be read before, in front of those there are, now and in all that
+    /// can be taken back.
     void insertStored(const std::function<void()>& readStored);
 
     /// Where the thumbnails lie now.

@@ -2,6 +2,8 @@
 
 #include "foundation/Geometry.h"
 
+#include <cstddef>
+
 namespace tessaly {
 
 /// What the gallery asks of the toolkit: the container of the thumbnails and the scroll view around it.
@@ -17,6 +19,10 @@ class PresetGalleryView {
 
     /// The list of presets has changed, or the places of their thumbnails.
     virtual void thumbnailsChanged() = 0;
+
+    /// Makes the thumbnail the current one and brings it into view; nothing where there is none of that
+    /// position.
+    virtual void showThumbnail(std::size_t position) = 0;
 };
 
 } // namespace tessaly

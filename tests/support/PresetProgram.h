@@ -16,10 +16,12 @@ class FakeGalleryView : public PresetGalleryView {
     double scrollViewHeight() const override { return scrollHeight; }
     void setContainerSize(Size size) override { containerSize = size; }
     void thumbnailsChanged() override { ++changes; }
+    void showThumbnail(std::size_t position) override { shown = position; }
 
     double scrollHeight = 250.0;
     Size containerSize;
     int changes = 0;
+    std::size_t shown = 0; ///< the thumbnail brought into view last
 };
 
 inline std::vector<Gradient> gradientsIn(const PresetGallery& gallery) {

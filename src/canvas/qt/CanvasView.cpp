@@ -152,11 +152,21 @@ void CanvasView::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(handled);
 }
 
-void CanvasView::focusOutEvent(QFocusEvent* event) {
-    if (event->reason() == Qt::PopupFocusReason) {
-        editor_->interaction().mouseUp(); // the menu takes the mouse
+// With any of these the release of the mouse may go elsewhere.
+bool CanvasView::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::FocusOut:
+    case QEvent::Hide:
+    case QEvent::UngrabMouse:
+    case QEvent::WindowDeactivate:
+        if (editor_ != nullptr) {
+            editor_->interaction().mouseUp();
+        }
+        break;
+    default:
+        break;
     }
-    QWidget::focusOutEvent(event);
+    return QWidget::event(event);
 }
 
 bool CanvasView::focusNextPrevChild(bool next) {

@@ -6,6 +6,7 @@
 
 #include <QColorDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -75,9 +76,13 @@ void ColorPickerImageView::openColorPanel() {
         colorPanel_->setWindowTitle(tr("Stop color"));
         colorPanel_->setModal(false);
         colorPanel_->installEventFilter(this);
+        for (QLineEdit* const field : colorPanel_->findChildren<QLineEdit*>()) {
+            field->installEventFilter(this);
+        }
         connect(colorPanel_, &QColorDialog::currentColorChanged, this,
                 [this](const QColor& color) { setBackgroundColor(fromQColor(color)); });
     }
+    Q_EMIT pickingBegun();
     colorPanel_->show();
     showInColorPanel();
     colorPanel_->raise();
@@ -85,11 +90,19 @@ void ColorPickerImageView::openColorPanel() {
 }
 
 bool ColorPickerImageView::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == colorPanel_ && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) {
+        return QAbstractButton::eventFilter(watched, event);
+    }
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (watched == colorPanel_ && event->type() == QEvent::KeyPress && key.key() == Qt::Key_Escape) {
         Q_EMIT pickingGivenUp(); // and then the panel closes
     }
-    return QAbstractButton::eventFilter(watched, event);
+    // All that is typed in the panel is picked at once: what takes it back is the document's.
+    const bool isStep = key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+    if (isStep && watched != colorPanel_) {
+        event->ignore();
+    }
+    return isStep && watched != colorPanel_;
 }
 
 void ColorPickerImageView::showInColorPanel() {

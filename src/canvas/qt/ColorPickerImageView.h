@@ -29,7 +29,9 @@ class ColorPickerImageView : public QAbstractButton, public ColorWell {
     QSize sizeHint() const override;
 
   Q_SIGNALS:
-    /// The panel was left by Escape.
+    /// The panel was opened.
+    void pickingBegun();
+    /// It was left by Escape.
     void pickingGivenUp();
 
   protected:

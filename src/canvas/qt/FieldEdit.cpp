@@ -17,8 +17,8 @@ FieldEdit::FieldEdit(int digits, QWidget* parent) : QLineEdit{parent}, digits_{d
 void FieldEdit::setText(std::string_view text) {
     const QString wanted = toQString(text);
     shown_ = wanted;
-    if (QLineEdit::text() != wanted) {
-        QLineEdit::setText(wanted);
+    if (QLineEdit::text() != wanted || isUndoAvailable()) {
+        QLineEdit::setText(wanted); // and no undo goes back behind what was applied
     }
 }
 

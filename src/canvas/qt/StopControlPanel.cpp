@@ -100,6 +100,7 @@ void StopControlPanel::addPair(QGridLayout& grid, const StopValueTraits& traits,
 void StopControlPanel::addLists(QGridLayout& grid) {
     selectedColor_->setAccessibleName(tr("Stop color"));
     selectedColor_->setToolTip(tr("Pick the color of the selected stop"));
+    hexadecimal_->setObjectName(QStringLiteral("hexadecimalField"));
     hexadecimal_->setAccessibleName(tr("Hex"));
     hexadecimal_->setToolTip(tr("The color of the selected stop: type any CSS color"));
     connect(hexadecimal_, &FieldEdit::edited, this, [this] { Q_EMIT colorTyped(hexadecimal_->text()); });
@@ -147,6 +148,7 @@ void StopControlPanel::connectTo(StopControls& rules) {
         connect(stepper, &ValueStepper::steppedByUser, this,
                 [&rules, value] { rules.updateStepperValue(value); });
     }
+    connect(selectedColor_, &ColorPickerImageView::pickingBegun, this, [&rules] { rules.pickingBegun(); });
     connect(selectedColor_, &ColorPickerImageView::pickingGivenUp, this,
             [&rules] { rules.pickingGivenUp(); });
     connect(selectedOrientationComboBox_, &QComboBox::activated, this,

@@ -127,7 +127,7 @@ void PresetGradienContainerView::keyPressEvent(QKeyEvent* event) {
         break;
     default:
         if (const int step = stepFor(event->key()); step != 0) {
-            moveCurrent(step);
+            moveTo(current_ + static_cast<std::size_t>(step)); // before the first: wraps, and there is none
         } else {
             QWidget::keyPressEvent(event);
         }
@@ -145,11 +145,10 @@ bool PresetGradienContainerView::event(QEvent* event) {
     return QWidget::event(event);
 }
 
-void PresetGradienContainerView::moveCurrent(int by) {
-    const auto wanted = static_cast<std::ptrdiff_t>(current_) + by;
-    if (wanted >= 0 && wanted < static_cast<std::ptrdiff_t>(count())) {
-        setCurrent(static_cast<std::size_t>(wanted));
-        Q_EMIT currentMoved(placeOf(current_));
+void PresetGradienContainerView::moveTo(std::size_t position) {
+    if (position < count()) {
+        setCurrent(position);
+        Q_EMIT currentMoved(placeOf(position));
     }
 }
 

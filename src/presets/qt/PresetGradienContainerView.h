@@ -26,6 +26,9 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     /// The number of thumbnails, or their places, changed.
     void thumbnailsChanged();
 
+    /// Makes a thumbnail the current one, if there is one of that position, and tells with `currentMoved`.
+    void moveTo(std::size_t position);
+
     QAccessible::Role accessibleListRole() const override { return QAccessible::List; }
     QAccessible::Role accessibleItemRole() const override { return QAccessible::Button; }
     int accessibleItemCount() const override { return static_cast<int>(count()); }
@@ -37,7 +40,7 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     void openAccessibleItemMenu(int item) override;
 
   Q_SIGNALS:
-    /// A key moved on to the thumbnail that is there, in this widget's coordinates.
+    /// The current thumbnail is now the one that is there, in this widget's coordinates.
     void currentMoved(const QRect& place);
 
   protected:
@@ -52,7 +55,6 @@ class PresetGradienContainerView : public QWidget, public AccessibleItems {
     std::optional<std::size_t> positionAt(QPointF point) const;
     QRect placeOf(std::size_t position) const;
     void setCurrent(std::size_t position);
-    void moveCurrent(int by);
     void apply(std::size_t position);
     void remove(std::size_t position);
     void popUpMenu(std::size_t position, QPoint globalPosition);

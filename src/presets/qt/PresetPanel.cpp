@@ -32,6 +32,8 @@ PresetPanel::PresetPanel(QWidget* parent)
       addButton_{new QPushButton{tr("A&dd Preset")}},
       presetGradienContainerScrollView_{new QScrollArea},
       presetGradienContainerView_{new PresetGradienContainerView} {
+    addButton_->setObjectName(QStringLiteral("addPreset"));
+    presetGradienContainerView_->setObjectName(QStringLiteral("presets"));
     addButton_->setAccessibleName(tr("Add Preset"));
     addButton_->setToolTip(tr("Keep the gradient being edited"));
     QScrollArea& scrollView = *presetGradienContainerScrollView_;
@@ -68,6 +70,10 @@ double PresetPanel::scrollViewHeight() const {
 
 void PresetPanel::setContainerSize(Size size) {
     presetGradienContainerView_->resize(static_cast<int>(size.width), static_cast<int>(size.height));
+}
+
+void PresetPanel::showThumbnail(std::size_t position) {
+    presetGradienContainerView_->moveTo(position);
 }
 
 void PresetPanel::thumbnailsChanged() {

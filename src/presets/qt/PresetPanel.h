@@ -25,6 +25,7 @@ class PresetPanel : public QWidget, public PresetGalleryView {
     double scrollViewHeight() const override;
     void setContainerSize(Size size) override;
     void thumbnailsChanged() override;
+    void showThumbnail(std::size_t position) override;
 
   private:
     QPushButton* addButton_;
