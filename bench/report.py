@@ -14,7 +14,7 @@ import subprocess
 import sys
 
 BENCH = pathlib.Path(__file__).resolve().parent
-PER_UNIT = {"µs": 1e6, "ms": 1e3, "s": 1.0, "times": 1.0}  # from seconds, or from a ratio
+PER_UNIT = {"µs": 1e6, "ms": 1e3, "s": 1.0, "times": 1.0, "kB": 1e-3}  # from seconds, a ratio or bytes
 
 
 def run(*command, log=None):

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Drives the real program on the current display as a person would: drags, types, keeps a preset, looks at the preview,
-# closes; starts again, applies the preset and deletes it, and takes everything back by keys and by the menu.
+# closes; starts again, applies the preset and deletes it, takes everything back by keys and
+# by the menu, and opens and pastes gradients.
 set -euo pipefail
 program=$1
 
@@ -80,5 +81,14 @@ eventually none_is_stored
 expect '50%);'
 xdotool key ctrl+z ctrl+z
 eventually rows_are_stored
-finish xdotool key ctrl+q
+echo '.a { background: linear-gradient(to top, teal 0%, gold 100%) }' >"$work/a.css"
+timeout 10 "$program" "$work/a.css" 2>"$work/third" || fail "a second start with a file did not end"
+expect '#008080 0%,'
+printf 'radial-gradient(lime, navy)' | xclip -in -selection clipboard
+xdotool key ctrl+v
+expect '#00ff00 0%,'
+xdotool key ctrl+z ctrl+z
+expect '#ffffff 100%);'
+click_at $red && xdotool type 12 # not applied
+finish kill -TERM "$pid"
 echo "ok"
