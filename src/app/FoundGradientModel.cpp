@@ -49,6 +49,7 @@ QVariant FoundGradientModel::data(const QModelIndex& index, int role) const {
     case Qt::DecorationRole:
         return thumbnailOf(found.gradient);
     case Qt::ToolTipRole:
+        return notesOf(found).toHtmlEscaped(); // they carry words of the file
     case Qt::AccessibleDescriptionRole:
         return notesOf(found);
     case Qt::AccessibleTextRole:

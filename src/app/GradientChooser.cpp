@@ -64,10 +64,9 @@ GradientChooser::GradientChooser(std::vector<FoundGradient> gradients, QWidget* 
 }
 
 std::vector<int> GradientChooser::chosenRows() const {
-    std::vector<int> rows;
-    for (const QModelIndex& index : list_->selectionModel()->selectedIndexes()) {
-        rows.push_back(index.row());
-    }
+    const QModelIndexList chosen = list_->selectionModel()->selectedIndexes();
+    std::vector<int> rows(static_cast<std::size_t>(chosen.size()));
+    std::ranges::transform(chosen, rows.begin(), &QModelIndex::row);
     std::ranges::sort(rows);
     return rows;
 }
@@ -86,10 +85,10 @@ void GradientChooser::edit() {
 }
 
 void GradientChooser::add() {
-    std::vector<Gradient> chosen;
-    for (const int row : chosenRows()) {
-        chosen.push_back(gradients_[static_cast<std::size_t>(row)].gradient);
-    }
+    const std::vector<int> rows = chosenRows();
+    std::vector<Gradient> chosen(rows.size());
+    std::ranges::transform(rows, chosen.begin(),
+                           [this](int row) { return gradients_[static_cast<std::size_t>(row)].gradient; });
     Q_EMIT addToPresets(chosen);
     accept();
 }

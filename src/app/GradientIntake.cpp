@@ -9,12 +9,14 @@
 #include "foundation/qt/ToQString.h"
 #include "model/EditStep.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QMimeData>
+#include <QTimer>
 #include <QUrl>
+#include <algorithm>
 
 namespace tessaly {
 namespace {
@@ -25,6 +27,10 @@ const QString svg = QStringLiteral("image/svg+xml");
 
 } // namespace
 
+bool GradientIntake::canTake(const QMimeData& data) {
+    return data.hasUrls() || data.hasText() || data.hasFormat(svg);
+}
+
 void GradientIntake::paste() {
     takeFrom(*QGuiApplication::clipboard()->mimeData(), tr("the clipboard"), editStep::pasteGradient);
 }
@@ -34,11 +40,15 @@ void GradientIntake::drop(const QMimeData& data) {
 }
 
 void GradientIntake::takeFrom(const QMimeData& data, const QString& source, std::string_view step) {
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile()) {
-            openFile(url.toLocalFile());
-            return;
+    const QList<QUrl> urls = data.urls();
+    const auto file = std::ranges::find_if(urls, &QUrl::isLocalFile);
+    if (file != urls.end()) {
+        openFile(file->toLocalFile());
+        if (const auto further = std::ranges::count_if(file + 1, urls.end(), &QUrl::isLocalFile);
+            further > 0) {
+            say(tr("%n more file(s) left out", nullptr, static_cast<int>(further)));
         }
+        return;
     }
     const std::string text =
         (data.hasText() ? data.text().toUtf8() : data.data(svg)).toStdString(); // a copy, for another thread
@@ -59,6 +69,11 @@ void GradientIntake::open() {
 }
 
 void GradientIntake::openFile(const QString& path) {
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activeModalWidget() != nullptr) {
+        constexpr int pause = 100; // milliseconds
+        QTimer::singleShot(pause, this, [this, path] { openFile(path); });
+        return;
+    }
     read([file = std::filesystem::path{path.toStdU16String()}](
              const Progress& progress) { return readIncomingFile(file, progress); },
          static_cast<std::size_t>(QFileInfo{path}.size()), editStep::openGradient);
@@ -101,7 +116,7 @@ void GradientIntake::takeGradient(const FoundGradient& found, bool isAll, std::s
         told += toQString(note);
     }
     if (!isAll) {
-        told += tr("there is more than could be read");
+        told += tr("what was too much to read is left out");
     }
     say(told.join(QStringLiteral("; ")));
 }
@@ -111,6 +126,8 @@ void GradientIntake::takeColor(const ReadColor& color) {
         say(tr("No stop is selected"));
     } else if (color.clipped) {
         say(tr("The color lies outside sRGB and was clipped"));
+    } else if (color.alpha < 1.0 && !colorFormat::carriesOpacity(document_.record().colorFormatType)) {
+        say(tr("Opacity left out: the notation carries none"));
     }
 }
 
@@ -121,7 +138,10 @@ void GradientIntake::choose(const Incoming& incoming, std::string_view step) {
                 takeGradient(found, isAll, step);
             });
     connect(chooser, &GradientChooser::addToPresets, this,
-            [this](const std::vector<Gradient>& gradients) { document_.addToPresets(gradients); });
+            [this, isAll = incoming.complete](const std::vector<Gradient>& gradients) {
+                document_.addToPresets(gradients);
+                say(isAll ? QString{} : tr("what was too much to read is left out"));
+            });
     chooser->open();
 }
 

@@ -24,9 +24,12 @@ class GradientIntake : public QObject {
     /// Both must outlive the object.
     GradientIntake(Document& document, MainWindow& window) : document_{document}, window_{window} {}
 
+    static bool canTake(const QMimeData& data);
+
     void paste();
     void open();
     void drop(const QMimeData& data);
+    /// Waits until no mouse button is down and nothing else is asked of the user.
     void openFile(const QString& path);
     void takeTypedColor(const std::string& text);
 

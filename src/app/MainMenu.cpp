@@ -71,17 +71,17 @@ MainMenu::MainMenu(QWidget* parent) : QMenuBar{parent} {
 }
 
 void MainMenu::onCommand(Command command, std::function<void()> run) {
-    connect(&action(command), &QAction::triggered, this, std::move(run));
+    connect(&actionOf(command), &QAction::triggered, this, std::move(run));
 }
 
 void MainMenu::setEnabled(Command command, bool enabled) {
-    action(command).setEnabled(enabled);
+    actionOf(command).setEnabled(enabled);
 }
 
 void MainMenu::setStep(Command command, std::string_view step) {
     const QString title = tr(itemOf(command).title);
-    action(command).setText(step.empty() ? title : title + u' ' + toQString(step));
-    action(command).setEnabled(!step.empty());
+    actionOf(command).setText(step.empty() ? title : title + u' ' + toQString(step));
+    actionOf(command).setEnabled(!step.empty());
 }
 
 } // namespace tessaly

@@ -44,7 +44,7 @@ class MainMenu : public QMenuBar {
     void setStep(Command command, std::string_view step);
 
   private:
-    QAction& action(Command command) { return *actions_[static_cast<std::size_t>(command)]; }
+    QAction& actionOf(Command command) { return *actions_[static_cast<std::size_t>(command)]; }
 
     std::array<QAction*, commandCount> actions_{};
 };

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/CopyButton.h"
+#include "app/GradientIntake.h"
 #include "app/MainMenu.h"
 #include "app/MessageLine.h"
 #include "canvas/qt/CanvasView.h"
@@ -28,6 +29,14 @@ constexpr int spacing = 8;
 constexpr QSize startSize{980, 760};
 constexpr QSize frame{16, 40}; // what a desktop's window borders and title take at most
 
+// A copy, whatever is proposed: after a move the source would take its text away.
+void acceptCopy(QDropEvent& event) {
+    if (event.possibleActions().testFlag(Qt::CopyAction)) {
+        event.setDropAction(Qt::CopyAction);
+        event.accept();
+    }
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
@@ -53,13 +62,13 @@ MainWindow::MainWindow(QWidget* parent)
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls() || event->mimeData()->hasText()) {
-        event->acceptProposedAction();
+    if (GradientIntake::canTake(*event->mimeData())) {
+        acceptCopy(*event);
     }
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
+    acceptCopy(*event);
     Q_EMIT dropped(*event->mimeData());
 }
 

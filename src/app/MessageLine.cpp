@@ -34,7 +34,7 @@ void MessageLine::say(const QString& message) {
         }
     }
     message_ = message;
-    setToolTip(message);
+    setToolTip(message.toHtmlEscaped()); // which may carry words of a file
     setAccessibleDescription(message);
     showElided();
     if (!message.isEmpty()) {

@@ -52,7 +52,8 @@ StopControls::StopControls(const StopControlSet& controls, GlobalData& record, C
       repaint_{std::move(repaint)},
       announce_{std::move(announce)} {}
 
-bool StopControls::handle(std::string_view step, History::Run run, const std::function<void()>& change) {
+bool StopControls::handle(std::string_view step, const History::Run& run,
+                          const std::function<void()>& change) {
     if (!formReady_) {
         return false;
     }

@@ -69,7 +69,7 @@ class StopControls {
     const StopControlSet::Pair& pair(StopValue value) const {
         return controls_.pairs[static_cast<std::size_t>(value)];
     }
-    bool handle(std::string_view step, History::Run run, const std::function<void()>& change);
+    bool handle(std::string_view step, const History::Run& run, const std::function<void()>& change);
     void takeStepper(StopValue value); ///< into the field beside it and the gradient
     void updateColorBoxFromHSL();
     void showRGB(const RGBValue& rgb);

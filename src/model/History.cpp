@@ -42,7 +42,7 @@ History::History(Document document, Clock clock) : History{std::move(document), 
 History::History(Document document, Clock clock, Limits limits)
     : document_{std::move(document)}, clock_{std::move(clock)}, limits_{limits} {}
 
-void History::begin(std::string_view name, Run run) {
+void History::begin(std::string_view name, const Run& run) {
     if (depth_++ > 0) {
         return;
     }
@@ -71,7 +71,7 @@ void History::end() {
     open_ = {};
 }
 
-void History::act(std::string_view name, Run run, const std::function<void()>& change) {
+void History::act(std::string_view name, const Run& run, const std::function<void()>& change) {
     begin(name, run);
     change();
     end();
@@ -126,17 +126,17 @@ void History::dropOldest() {
 // What the step holds that the one before it does not.
 std::size_t History::bytesOf(const Step& step) const {
     const DocumentState* held = steps_.empty() ? nullptr : &steps_.back().after;
-    std::size_t bytes = sizeof(Step);
+    std::size_t taken = sizeof(Step);
     for (const DocumentState* state : {&step.before, &step.after}) {
         if (held == nullptr || held->gradient != state->gradient) {
-            bytes += tessaly::bytesOf(*state->gradient);
+            taken += tessaly::bytesOf(*state->gradient);
         }
         if (held == nullptr || held->presets != state->presets) {
-            bytes += sizeof(GradientList) + state->presets->size() * sizeof(GradientList::value_type);
+            taken += sizeof(GradientList) + state->presets->size() * sizeof(GradientList::value_type);
         }
         held = state;
     }
-    return bytes + bytesOfOthers(*step.after.presets, *step.before.presets) +
+    return taken + bytesOfOthers(*step.after.presets, *step.before.presets) +
            bytesOfOthers(*step.before.presets, *step.after.presets);
 }
 

@@ -48,7 +48,7 @@ class History {
 
     /// A whole action.
     void act(std::string_view name, const std::function<void()>& change) { act(name, {}, change); }
-    void act(std::string_view name, Run run, const std::function<void()>& change);
+    void act(std::string_view name, const Run& run, const std::function<void()>& change);
 
     /// False: there is no such step, or an action is under way.
     bool undo();
@@ -87,7 +87,7 @@ class History {
         bool madeStep = false; ///< the last one done
     };
 
-    void begin(std::string_view name, Run run);
+    void begin(std::string_view name, const Run& run);
     bool continuesRun() const;
     void record(DocumentState after);
     void push(Step step);

@@ -54,15 +54,15 @@ void CanvasView::announceToAssistiveTools() {
     const int current = currentAccessibleItem();
     const QString description = current < 0 ? QString{} : accessibleItemDescription(current);
     if (std::exchange(announcedCount_, count) != count) {
-        QAccessibleEvent event{this, QAccessible::ObjectReorder};
-        QAccessible::updateAccessibility(&event);
+        QAccessibleEvent change{this, QAccessible::ObjectReorder};
+        QAccessible::updateAccessibility(&change);
     }
     if (std::exchange(announcedItem_, current) != current) {
         announceCurrentAccessibleItem(*this, *this);
     } else if (current >= 0 && announcedDescription_ != description) {
-        QAccessibleEvent event{this, QAccessible::DescriptionChanged};
-        event.setChild(current);
-        QAccessible::updateAccessibility(&event);
+        QAccessibleEvent change{this, QAccessible::DescriptionChanged};
+        change.setChild(current);
+        QAccessible::updateAccessibility(&change);
     }
     announcedDescription_ = description;
 }
