@@ -49,7 +49,9 @@ void SqliteStatement::bindAt(int parameter, double value) {
 }
 
 int SqliteStatement::step() {
-    return handle_ ? sqlite3_step(handle_.get()) : SQLITE_MISUSE;
+    const int result = handle_ ? sqlite3_step(handle_.get()) : SQLITE_MISUSE;
+    // The first generation answers every failure alike, and tells which it was when it is reset.
+    return result == SQLITE_ERROR ? sqlite3_reset(handle_.get()) : result;
 }
 
 void SqliteStatement::reset() {

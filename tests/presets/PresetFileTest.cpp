@@ -5,6 +5,7 @@
 #include "support/LogCapture.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
+#include "support/WithoutPrivileges.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -87,29 +88,35 @@ class PresetFileTest : public testing::Test {
 };
 
 TEST_F(PresetFileTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAside) {
-    const std::vector<std::pair<const char*, std::function<void()>>> rows{
-        {"no damage", [] {}},
-        {"no database", [&] { overwrite(0, 'x', 100); }},
-        {"a later format that can only be read", [&] { overwrite(18, '!', 1); }},
-        {"cut short", [this] { fs::resize_file(file, 4096); }},
-        {"a broken page of stops", [&] { overwrite(8192, '\xFF', 100); }},
-        {"a cut page that reads as other values", [this] { fs::resize_file(file, 12'200); }},
-        {"another column", [this] { other("alter table MainTable rename orientationType to kind"); }},
-        {"a view that never ends",
+    struct Row {
+        const char* name;
+        std::size_t shown; ///< presets, before the first save
+        std::function<void()> damage;
+    };
+    const std::vector<Row> rows{
+        {"no damage", 7, [] {}},
+        {"no database", 0, [&] { overwrite(0, 'x', 100); }},
+        {"a later format that can only be read", 7, [&] { overwrite(18, '!', 1); }},
+        {"cut short", 0, [this] { fs::resize_file(file, 4096); }},
+        {"a broken page of stops", 7, [&] { overwrite(8192, '\xFF', 100); }},
+        {"a cut page that reads as other values", 7, [this] { fs::resize_file(file, 12'200); }},
+        {"another column", 0, [this] { other("alter table MainTable rename orientationType to kind"); }},
+        {"a view that never ends", 0,
          [this] {
              other("drop table MainTable; create view MainTable as with recursive n(mainIndex) as (select 1 "
                    "union all select mainIndex + 1 from n) select mainIndex, 1 as orientationType from n");
          }},
-        {"a view", [this] {
+        {"a view", 7, [this] {
              other("alter table AdditionalTable rename to Stops;"
                    "create view AdditionalTable as select * from Stops");
          }}};
-    for (const auto& [name, damage] : rows) {
+    for (const Row& row : rows) {
         fs::remove_all(folder);
         saveAlone(27);
-        damage();
-        const bool isDamaged = &name != &rows[0].first;
+        row.damage();
+        const bool isDamaged = &row != &rows[0];
         const std::string bytes = contentsOf(file);
+        EXPECT_EQ(stored().size(), row.shown) << row.name;
         const auto isKept = [&](const fs::path& path) {
             return contentsOf(path) == bytes && fs::status(path).permissions() == fs::perms{0600};
         };
@@ -119,7 +126,7 @@ TEST_F(PresetFileTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAsid
             int call = 1;
             for (bool struck = true; struck; ++call) {
                 SCOPED_TRACE(testing::Message()
-                             << name << ", failure " << failure.error << " at call " << call);
+                             << row.name << ", failure " << failure.error << " at call " << call);
                 fs::remove_all(folder);
                 fs::create_directory(folder);
                 log.messages.clear(); // every fork copies them
@@ -144,6 +151,7 @@ TEST_F(PresetFileTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAsid
 }
 
 TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
+    const auto unprivileged = withoutPrivileges();
     const fs::path elsewhere = support.path / "elsewhere.sqlite3";
     std::shared_ptr<void> held;
     const auto nothing = [] {};
@@ -154,6 +162,12 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
         std::function<void()> meanwhile; ///< the program runs, and then saves list 22, or ends
         std::vector<std::string> presetsSetAside{};
         std::vector<Gradient> expected = listOf({22});
+        fs::perms permissions{0600}; ///< of the file, or of that behind the link
+    };
+    const auto makeLink = [&](fs::perms permissions) {
+        fs::rename(file, elsewhere);
+        fs::permissions(elsewhere, permissions);
+        fs::create_symlink("../elsewhere.sqlite3", file);
     };
     const std::vector<Row> rows{
         {"nothing", nothing, nothing},
@@ -168,13 +182,7 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
         {"read by another program", nothing, [&] { held = other("begin; select * from MainTable"); }},
         {"locked", [&] { held = other("begin exclusive"); }, [&] { held.reset(); }, {}, listOf({27, 22})},
         {"no room", nothing, [&] { held = limitFileSize(0); }},
-        {"a link",
-         [&] {
-             fs::rename(file, elsewhere);
-             fs::permissions(elsewhere, fs::perms{0640});
-             fs::create_symlink("../elsewhere.sqlite3", file);
-         },
-         nothing},
+        {"a link", [&] { makeLink(fs::perms{0640}); }, nothing, {}, listOf({22}), fs::perms{0640}},
         {"a log that a crash left",
          [&] {
              other("pragma journal_mode=wal; update MainTable set orientationType=99");
@@ -202,9 +210,11 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
         SCOPED_TRACE(row.name);
         fs::remove_all(folder);
         saveAlone(24);
-        fs::copy_file(file, elsewhere, fs::copy_options::overwrite_existing);
+        fs::remove(elsewhere);
+        fs::copy_file(file, elsewhere);
         saveAlone(27);
         row.before();
+        const bool isLink = fs::is_symlink(file);
         {
             PresetProgram program{support.path};
             row.meanwhile();
@@ -217,10 +227,8 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
             found.push_back(countIn(path));
         }
         EXPECT_EQ(found, row.presetsSetAside);
-        if (fs::is_symlink(file)) {
-            EXPECT_EQ(fs::status(elsewhere).permissions(), fs::perms{0640});
-            EXPECT_EQ(countIn(elsewhere), "2");
-        }
+        EXPECT_EQ(fs::is_symlink(file), isLink);
+        EXPECT_EQ(fs::status(file).permissions(), row.permissions);
     }
 }
 
