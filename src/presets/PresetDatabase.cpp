@@ -15,33 +15,51 @@ namespace {
 // by a query of its own, and would go through the whole table.
 const std::string indexedCopy = "temp." + presetTable::additional;
 
-// -1 for what is no sound database of presets.
-std::int64_t rowsIn(SqliteConnection database) {
+struct Rows {
+    std::int64_t count = -1; ///< of what is no sound database of presets
+    SqliteResult failure;
+
+    /// For reasons that may pass.
+    bool areUnknown() const { return failure.isLock() || failure.isDiskFailure(); }
+};
+
+Rows rowsIn(SqliteConnection database, std::chrono::milliseconds patience) {
+    database.waitForLocks(patience);
+    SqliteResult firstRead = database.execute("begin; select count(*) from sqlite_master"); // no lock later
+    if (firstRead.code != SQLITE_OK) {
+        return {-1, std::move(firstRead)};
+    }
     database.limitToSize();
     const std::optional<std::string> rows =
         database.value("select (select count(*) from " + presetTable::main + ") + (select count(*) from " +
                        presetTable::additional + ")");
-    return rows && database.value("pragma quick_check(1)") == "ok" ? std::stoll(*rows) : -1;
+    const bool isSound = rows && database.value("pragma quick_check(1)") == "ok";
+    return isSound ? Rows{std::stoll(*rows), {}} : Rows{-1, database.lastResult()};
 }
 
 // Up to version 0.1 a copy of the database stood beside it while a save was under way. One that holds more
-// than the database, which a save then emptied, takes its place once; any other is set aside.
-void takeOverSafetyCopy(const std::filesystem::path& database) {
+// than the database, which a save then emptied, takes its place once; any other is set aside. While one of
+// them cannot be read, both stay. Answers why the database cannot.
+SqliteResult takeOverSafetyCopy(const std::filesystem::path& database, std::chrono::milliseconds patience) {
     const std::filesystem::path copy = withSuffix(database, ".safety");
     std::error_code error;
     std::filesystem::remove(withSuffix(database, ".safety-unfinished"), error); // of a save that crashed
     if (!std::filesystem::exists(copy, error)) {
-        return;
+        return {};
     }
-    const std::int64_t stored =
-        std::filesystem::exists(database, error) ? rowsIn(SqliteConnection::open(database)) : -1;
-    const bool holdsMore = rowsIn(SqliteConnection::openImmutable(copy)) > stored;
-    if (!holdsMore) {
+    const bool isThere = std::filesystem::exists(database, error);
+    const Rows stored = isThere ? rowsIn(SqliteConnection::open(database), patience) : Rows{};
+    const Rows copied = rowsIn(SqliteConnection::openImmutable(copy), {});
+    if (stored.areUnknown() || copied.areUnknown()) {
+        return stored.failure;
+    }
+    if (copied.count <= stored.count) {
         setAside(copy);
     } else if (setAside(database)) {
         std::filesystem::rename(copy, database, error);
         DiagnosticLog::write("The last save did not finish: presets restored");
     }
+    return {};
 }
 
 } // namespace
@@ -51,8 +69,10 @@ PresetDatabase::PresetDatabase(std::filesystem::path folder)
 
 bool PresetDatabase::open(std::chrono::milliseconds patience) {
     makePrivate(folder_);
-    takeOverSafetyCopy(file_.path());
-    const SqliteResult result = file_.read(memory_, patience);
+    SqliteResult result = takeOverSafetyCopy(file_.path(), patience);
+    if (!result.isLock()) { // that was waited for already
+        result = file_.read(memory_, patience);
+    }
     unread_ = result.code != SQLITE_OK && !result.isDamage();
     usable_ = false;
     checked_ = false;

@@ -134,6 +134,10 @@ std::optional<std::string> SqliteConnection::value(const std::string& query) con
     return statement.step() == SQLITE_ROW ? std::optional{statement.text(0)} : std::nullopt;
 }
 
+SqliteResult SqliteConnection::lastResult() const {
+    return {isOpen() ? sqlite3_errcode(handle()) : SQLITE_CANTOPEN, errorText()};
+}
+
 std::string SqliteConnection::errorText() const {
     return isOpen() ? sqlite3_errmsg(handle()) : sqlite3_errstr(SQLITE_CANTOPEN);
 }

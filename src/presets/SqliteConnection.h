@@ -70,6 +70,9 @@ class SqliteConnection {
     /// First column of a query's first row.
     std::optional<std::string> value(const std::string& query) const;
 
+    /// What the last call answered.
+    SqliteResult lastResult() const;
+
     /// Text of the last error.
     std::string errorText() const;
 

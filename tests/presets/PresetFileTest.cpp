@@ -203,6 +203,14 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
          },
          nothing,
          {"1"}},
+        {"locked, and a safety copy that holds less",
+         [&] {
+             fs::copy_file(elsewhere, safetyCopy);
+             held = other("begin exclusive");
+         },
+         [&] { held.reset(); },
+         {"4"},
+         listOf({27, 22})},
         {"a safety copy that holds no more", [&] { fs::copy_file(file, safetyCopy); }, nothing, {"7"}},
         {"an empty safety copy", [&] { std::ofstream{safetyCopy}; }, nothing, {"none"}},
         {"a broken safety copy", [&] { std::ofstream{safetyCopy} << "neither is this"; }, nothing, {"none"}}};
