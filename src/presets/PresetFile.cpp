@@ -108,11 +108,12 @@ std::optional<std::string> PresetFile::replaceBy(const SqliteConnection& databas
     const std::filesystem::path fresh = freshName(target);
     std::filesystem::remove(fresh, error);
     createPrivateFile(fresh);
-    if (std::filesystem::is_symlink(path_, error)) {
-        std::filesystem::permissions(fresh, std::filesystem::status(target, error).permissions(), error);
-    }
     const SqliteResult written = writeTo(fresh, database);
     std::optional<std::string> reason = written.message;
+    const std::filesystem::file_status linked = std::filesystem::status(target, error);
+    if (std::filesystem::is_symlink(path_, error) && std::filesystem::is_regular_file(linked)) {
+        std::filesystem::permissions(fresh, linked.permissions(), error); // else it stays private
+    }
     if (!reason && !syncToDisk(fresh)) {
         reason = "it cannot be forced to the disk";
     }

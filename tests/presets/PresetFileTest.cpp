@@ -183,6 +183,14 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
         {"locked", [&] { held = other("begin exclusive"); }, [&] { held.reset(); }, {}, listOf({27, 22})},
         {"no room", nothing, [&] { held = limitFileSize(0); }},
         {"a link", [&] { makeLink(fs::perms{0640}); }, nothing, {}, listOf({22}), fs::perms{0640}},
+        {"a link to a file that can only be read",
+         [&] { makeLink(fs::perms{0400}); },
+         nothing,
+         {},
+         listOf({22}),
+         fs::perms{0400}},
+        {"a link to a file that is removed", [&] { makeLink(fs::perms{0640}); },
+         [&] { fs::remove(elsewhere); }},
         {"a log that a crash left",
          [&] {
              other("pragma journal_mode=wal; update MainTable set orientationType=99");
