@@ -82,6 +82,11 @@ bool PresetDatabase::open(std::chrono::milliseconds patience) {
     return result.code != SQLITE_CANTOPEN;
 }
 
+void PresetDatabase::close() {
+    memory_ = {};
+    unsaved_ = false;
+}
+
 bool PresetDatabase::write() {
     const std::optional<std::string> reason =
         memory_.isOpen() ? file_.replaceBy(memory_) : "the database cannot be opened";

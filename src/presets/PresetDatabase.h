@@ -23,7 +23,8 @@ class PresetDatabase {
     /// opened.
     bool open(std::chrono::milliseconds patience = {});
 
-    void close() { memory_ = {}; }
+    /// What is still unsaved is given up.
+    void close();
 
     /// Not open when the file could not be read; then every operation fails.
     const SqliteConnection& connection() const { return memory_; }

@@ -27,7 +27,7 @@ class PresetStore {
     /// preset to the gallery. Where the file cannot be opened, every other operation fails and does no harm.
     void openDB();
 
-    /// Saves once more what the last save could not.
+    /// Saves once more what the last save could not; that once only, however often it is called.
     void closeDB();
 
     /// Saves the whole list. After a save that fails the file has the list from before it.

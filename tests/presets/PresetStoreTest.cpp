@@ -1,5 +1,6 @@
 #include "presets/PresetStore.h"
 
+#include "support/FileSizeLimit.h"
 #include "support/LogCapture.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
@@ -115,6 +116,24 @@ TEST_F(PresetStoreTest, worksOnWithoutADatabase) {
     EXPECT_EQ(log.count("Error delete data!"), 2);
     EXPECT_TRUE(log.has("Error while inserting: unable to open database file"));
     EXPECT_EQ(log.messages.back(), "Presets not saved: the database cannot be opened");
+}
+
+TEST_F(PresetStoreTest, saysWhyItCannotSaveAndTriesOnceMoreAtTheEnd) {
+    const std::pair<std::string, std::function<std::shared_ptr<void>()>> rows[] = {
+        {"disk I/O error", [] { return limitFileSize(0); }}};
+    for (const auto& [reason, prevent] : rows) {
+        fs::remove_all(folder);
+        start();
+        std::shared_ptr<void> held = prevent();
+        std::optional<PresetProgram> program{std::in_place, support.path / "deep"};
+        program->gallery.addGradientIntoPreset();
+        program->store.closeDB();
+        EXPECT_EQ(log.count("Presets not saved: " + reason), 2);
+        held.reset();
+        const std::vector<std::string> messages = log.messages;
+        program.reset();
+        EXPECT_EQ(log.messages, messages) << "not when its window may be gone";
+    }
 }
 
 } // namespace
