@@ -23,15 +23,15 @@ void PreviewFiles::createHTMLIndexFile() {
     }
     folder_.swap(folder); // the one from before goes at the end
     const std::filesystem::path htmlPath = folder_->path() / PreviewFolder::pageName;
-    folder_->write(PreviewFolder::pageName, toUtf8(page_.text()));
+    folder_->write(PreviewFolder::pageName, toUtf8(page_.text())); // missing, it is not in place
     writeStylesheet();
     DiagnosticLog::write("htmlPath: " + htmlPath.native());
     webView_.loadFile(htmlPath);
 }
 
 void PreviewFiles::writeStylesheet() {
-    folder_->write(PreviewFolder::stylesheetName, toUtf8(stylesheet_.text()));
-    written_ = folder_->stateOf(PreviewFolder::stylesheetName);
+    const bool isWritten = folder_->write(PreviewFolder::stylesheetName, toUtf8(stylesheet_.text()));
+    written_ = isWritten ? folder_->stateOf(PreviewFolder::stylesheetName) : std::nullopt;
 }
 
 void PreviewFiles::writeCSSFile() {
@@ -46,7 +46,8 @@ void PreviewFiles::writeCSSFile() {
 }
 
 bool PreviewFiles::isAsWritten() const {
-    return !folder_ || (folder_->isInPlace() && folder_->stateOf(PreviewFolder::stylesheetName) == written_);
+    return !folder_ ||
+           (written_ && folder_->isInPlace() && folder_->stateOf(PreviewFolder::stylesheetName) == written_);
 }
 
 } // namespace tessaly

@@ -38,7 +38,7 @@ class PreviewFiles {
     WebView& webView_;
     std::filesystem::path temporaryDirectory_;
     std::unique_ptr<PreviewFolder> folder_;
-    std::optional<FileState> written_; ///< the stylesheet's file
+    std::optional<FileState> written_; ///< the stylesheet's file; none: it could not be written
 };
 
 } // namespace tessaly

@@ -67,10 +67,12 @@ std::optional<FileState> PreviewFolder::stateOf(const std::string& name) const {
     return found ? std::optional{FileState{status}} : std::nullopt;
 }
 
-void PreviewFolder::write(const std::string& name, std::string_view contents) const {
-    if (const std::error_code error = writeFileAtomically(folder_, name, contents)) {
+bool PreviewFolder::write(const std::string& name, std::string_view contents) const {
+    const std::error_code error = writeFileAtomically(folder_, name, contents);
+    if (error) {
         logFailure("Preview file not written", path_ / name, error);
     }
+    return !error;
 }
 
 } // namespace tessaly

@@ -37,8 +37,8 @@ class PreviewFolder {
     /// Of one of the two files; none when it is missing.
     std::optional<FileState> stateOf(const std::string& name) const;
 
-    /// Replaces one of the two files as a whole. On failure the old file stays and the log tells.
-    void write(const std::string& name, std::string_view contents) const;
+    /// Replaces one of the two files as a whole. False: the old file stays, and the log tells why.
+    bool write(const std::string& name, std::string_view contents) const;
 
   private:
     PreviewFolder(std::filesystem::path path, Descriptor folder)

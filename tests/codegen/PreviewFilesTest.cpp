@@ -2,6 +2,7 @@
 
 #include "support/FakeCodeText.h"
 #include "support/FakeWebView.h"
+#include "support/FileSizeLimit.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryFolder.h"
 
@@ -50,11 +51,18 @@ TEST_F(PreviewFilesTest, areMissingWhenTheDiskRefusesAndNothingElseIs) {
     PreviewFiles{html, css, web, temporary.path / "missing"}.createHTMLIndexFile();
     EXPECT_TRUE(lastLogged("No preview folder: "));
     EXPECT_EQ(web.loaded, "");
+    css.contents = u"old";
+    std::shared_ptr<void> full = limitFileSize(0);
     files->createHTMLIndexFile();
+    EXPECT_FALSE(files->isAsWritten()) << "there is none";
+    full.reset();
+    update(u"old");
+    EXPECT_TRUE(files->isAsWritten());
     fs::remove(first / "styles.css");
     fs::create_directories(first / "styles.css" / "theirs");
     update(u"new");
     EXPECT_TRUE(lastLogged("Preview file not written: "));
+    EXPECT_FALSE(files->isAsWritten()) << "to be tried again";
     files.reset();
     EXPECT_TRUE(fs::exists(first / "styles.css" / "theirs"));
 }
