@@ -73,13 +73,15 @@ bool PresetDatabase::open(std::chrono::milliseconds patience) {
     if (!result.isLock()) { // that was waited for already
         result = file_.read(memory_, patience);
     }
-    unread_ = result.code != SQLITE_OK && !result.isDamage();
     usable_ = false;
     checked_ = false;
-    if (result.code != SQLITE_OK) {
-        DiagnosticLog::write("Presets not read: " + result.message.value_or(""));
+    const std::string reason = result.message.value_or("");
+    unread_ = result.code == SQLITE_OK || result.isDamage() ? std::nullopt : std::optional{reason};
+    const bool isOpened = result.code != SQLITE_CANTOPEN;
+    if (isOpened && result.code != SQLITE_OK) {
+        DiagnosticLog::write("Presets not read: " + reason);
     }
-    return result.code != SQLITE_CANTOPEN;
+    return isOpened;
 }
 
 void PresetDatabase::close() {
@@ -87,13 +89,10 @@ void PresetDatabase::close() {
     unsaved_ = false;
 }
 
-bool PresetDatabase::write() {
-    const std::optional<std::string> reason =
-        memory_.isOpen() ? file_.replaceBy(memory_) : "the database cannot be opened";
+void PresetDatabase::logUnsaved(const std::optional<std::string>& reason) {
     if (reason) {
         DiagnosticLog::write("Presets not saved: " + *reason);
     }
-    return !reason;
 }
 
 void PresetDatabase::beginReading() {
@@ -116,7 +115,7 @@ bool PresetDatabase::beginSave() {
     if (usable_ && !std::exchange(checked_, true)) {
         usable_ = memory_.value("pragma quick_check(1)") == "ok";
     }
-    const bool isNew = !usable_ && !unread_;
+    const bool isNew = !usable_ && !isUnread();
     if (isNew) {
         file_.keep();
         memory_ = SqliteConnection::openInMemory();
@@ -126,14 +125,18 @@ bool PresetDatabase::beginSave() {
     return isNew;
 }
 
-void PresetDatabase::endSave(bool complete) {
-    usable_ = complete && memory_.execute("commit").code == SQLITE_OK;
-    if (usable_ || unread_) {
-        unsaved_ = !write();
-        return;
+void PresetDatabase::endSave(std::optional<std::string> failure) {
+    if (isUnread()) {
+        failure = unread_; // and all the statements had nothing to run in
+    } else if (!failure && memory_.execute("commit").code != SQLITE_OK) {
+        failure = memory_.errorText();
     }
-    DiagnosticLog::write("Presets not saved: " + memory_.errorText()); // next time into a new one
-    unsaved_ = true;
+    usable_ = !failure; // else next time into a new one
+    if (usable_) {
+        failure = file_.replaceBy(memory_);
+    }
+    unsaved_ = failure.has_value();
+    logUnsaved(failure);
 }
 
 } // namespace tessaly

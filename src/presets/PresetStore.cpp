@@ -76,7 +76,7 @@ void PresetStore::closeDB() {
 }
 
 void PresetStore::makeMissingTables() {
-    complete_ = true;
+    failure_.reset();
     bool made = false;
     for (const Table& table : tables) {
         if (!isTableExists(table.name)) {
@@ -84,7 +84,7 @@ void PresetStore::makeMissingTables() {
             made = true;
         }
     }
-    if (made && complete_) {
+    if (made && !failure_) {
         database_.write();
     }
 }
@@ -109,7 +109,7 @@ void PresetStore::readData() {
         DiagnosticLog::write("mainIndex: " + std::to_string(row.mainIndex));
         readAdditionalData(query, row);
     }
-    database_.endReading(complete_);
+    database_.endReading(!failure_);
 }
 
 std::vector<PresetStore::MainRow> PresetStore::readMainData() {
@@ -121,7 +121,8 @@ std::vector<PresetStore::MainRow> PresetStore::readMainData() {
     for (; result == SQLITE_ROW; result = statement.step()) {
         rows.push_back({statement.integer(0), statement.integer(1)});
     }
-    complete_ = result == SQLITE_DONE;
+    failure_.reset();
+    noted(result == SQLITE_DONE);
     if (result == SQLITE_INTERRUPT) { // a view that never ends
         rows.clear();
     }
@@ -136,8 +137,8 @@ void PresetStore::readAdditionalData(SqliteStatement& query, const MainRow& row)
     for (; result == SQLITE_ROW; result = query.step()) {
         stops.push_back(storedStop(query, 0));
     }
+    noted(result == SQLITE_DONE);
     query.reset();
-    complete_ = complete_ && result == SQLITE_DONE;
     presets_.addGradientIntoPreset(Gradient{std::move(stops), row.orientationType});
 }
 
@@ -155,7 +156,7 @@ void PresetStore::insertData() {
     if (database_.isUnread()) {
         readBeforeSaving();
     }
-    complete_ = true;
+    failure_.reset();
     if (database_.beginSave()) {
         std::ranges::for_each(tables, [this](const Table& table) { createTable(table.creation); });
     }
@@ -165,7 +166,7 @@ void PresetStore::insertData() {
         }
     }
     insertAllPresets();
-    database_.endSave(complete_);
+    database_.endSave(failure_);
 }
 
 void PresetStore::insertAllPresets() {
@@ -192,18 +193,24 @@ void PresetStore::insertAllPresets() {
 
 bool PresetStore::insert(SqliteStatement& row, const std::string& sql) {
     logStatement(sql);
-    const bool done = row.step() == SQLITE_DONE;
+    const bool done = noted(row.step() == SQLITE_DONE);
     if (!done) {
         DiagnosticLog::write("Error while inserting: " + database_.connection().errorText());
-        complete_ = false;
     }
     row.reset();
     return done;
 }
 
+bool PresetStore::noted(bool success) {
+    if (!success && !failure_) {
+        failure_ = database_.connection().errorText();
+    }
+    return success;
+}
+
 bool PresetStore::executeSQL(const std::string& statement) {
     const SqliteResult result = database_.connection().execute(statement);
-    complete_ = complete_ && result.code == SQLITE_OK;
+    noted(result.code == SQLITE_OK);
     if (!result.message) {
         return true;
     }

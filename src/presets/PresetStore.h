@@ -3,6 +3,7 @@
 #include "presets/PresetDatabase.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,11 +56,12 @@ class PresetStore {
     void readBeforeSaving();
     void insertAllPresets();
     bool insert(SqliteStatement& row, const std::string& sql);
+    bool noted(bool success);
 
     PresetGallery& presets_;
     PresetDatabase database_;
     std::string LastError_;
-    bool complete_ = true; ///< nothing failed since the read or save began
+    std::optional<std::string> failure_; ///< the first since the read or save began
 };
 
 } // namespace tessaly

@@ -98,7 +98,7 @@ TEST_F(PresetStoreTest, goesOnAfterAFailedMainRowAlone) {
     program.gallery.addGradientIntoPreset();
     EXPECT_TRUE(log.has("Error while inserting: no row"));
     EXPECT_TRUE(log.has("Error while inserting: no room"));
-    EXPECT_EQ(log.messages.back(), "Presets not saved: no room");
+    EXPECT_EQ(log.messages.back(), "Presets not saved: no row") << "what failed first";
     EXPECT_EQ(shell("select count(*) from MainTable"), "0\n") << "not half of a list";
     std::vector<std::vector<std::string>> rows;
     program.store.executeSQL("select group_concat(mainIndex) from AdditionalTable", rows);
@@ -115,11 +115,18 @@ TEST_F(PresetStoreTest, worksOnWithoutADatabase) {
     EXPECT_EQ(log.count("Error create table!"), 2);
     EXPECT_EQ(log.count("Error delete data!"), 2);
     EXPECT_TRUE(log.has("Error while inserting: unable to open database file"));
-    EXPECT_EQ(log.messages.back(), "Presets not saved: the database cannot be opened");
+    EXPECT_EQ(log.messages.back(), "Presets not saved: unable to open database file");
+    EXPECT_FALSE(log.has("Success!") || log.has("Presets not read: unable to open database file"));
 }
 
 TEST_F(PresetStoreTest, saysWhyItCannotSaveAndTriesOnceMoreAtTheEnd) {
     const std::pair<std::string, std::function<std::shared_ptr<void>()>> rows[] = {
+        {"database is locked",
+         [&] {
+             auto other = std::make_shared<SqliteConnection>(SqliteConnection::open(file));
+             other->execute("begin exclusive");
+             return other;
+         }},
         {"disk I/O error", [] { return limitFileSize(0); }}};
     for (const auto& [reason, prevent] : rows) {
         fs::remove_all(folder);
