@@ -28,24 +28,36 @@ std::filesystem::path datedName(const std::filesystem::path& file) {
     return name;
 }
 
-// The file keeps its old name until its companions have moved, where the file system knows two names for one
-// file: a log without its database is of no use.
-std::error_code move(const std::filesystem::path& file, const std::filesystem::path& dated) {
+std::error_code moveIfThere(const std::filesystem::path& from, const std::filesystem::path& to) {
     std::error_code error;
-    std::filesystem::create_hard_link(file, dated, error);
-    const bool hasBothNames = !error;
+    std::filesystem::rename(from, to, error);
+    return error == std::errc::no_such_file_or_directory ? std::error_code{} : error;
+}
+
+// The file keeps its old name until its companions have moved, where the file system knows two names for one
+// file: a log without its database is of no use. What has moved moves back when something cannot.
+std::error_code move(const std::filesystem::path& file, const std::filesystem::path& dated) {
+    std::error_code noLink;
+    std::filesystem::create_hard_link(file, dated, noLink);
+    std::error_code failure;
     for (const char* const suffix : companionSuffixes) {
-        std::filesystem::rename(withSuffix(file, suffix), withSuffix(dated, suffix), error);
-        if (error && error != std::errc::no_such_file_or_directory) {
-            return error;
+        failure = failure ? failure : moveIfThere(withSuffix(file, suffix), withSuffix(dated, suffix));
+    }
+    if (!failure && noLink) {
+        failure = moveIfThere(file, dated);
+    } else if (!failure) {
+        std::filesystem::remove(file, failure);
+    }
+    if (failure) {
+        for (const char* const suffix : companionSuffixes) {
+            moveIfThere(withSuffix(dated, suffix), withSuffix(file, suffix));
+        }
+        std::error_code isMissing;
+        if (std::filesystem::equivalent(file, dated, isMissing)) {
+            std::filesystem::remove(dated, isMissing);
         }
     }
-    if (hasBothNames) {
-        std::filesystem::remove(file, error);
-    } else {
-        std::filesystem::rename(file, dated, error);
-    }
-    return error == std::errc::no_such_file_or_directory ? std::error_code{} : error;
+    return failure;
 }
 
 } // namespace
