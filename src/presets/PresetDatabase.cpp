@@ -105,10 +105,7 @@ void PresetDatabase::beginReading() {
 void PresetDatabase::endReading(bool complete) {
     complete = memory_.execute("drop table " + indexedCopy).code == SQLITE_OK && complete;
     memory_.liftLimit();
-    // A view would be read and could never be saved to.
-    const std::string tables = "select count(*) from sqlite_master where type='table' and name in ('" +
-                               presetTable::main + "', '" + presetTable::additional + "')";
-    usable_ = complete && !memory_.isReadOnly() && memory_.value(tables) == "2";
+    usable_ = complete && !memory_.isReadOnly() && presetTable::areIn(memory_);
 }
 
 bool PresetDatabase::beginSave() {

@@ -23,13 +23,6 @@ constexpr std::size_t mostStopsInAll = 250'000; // bounds the memory that a file
 const std::string mainTable = presetTable::main;
 const std::string additionalTable = presetTable::additional;
 
-// A view, and a table that a module makes up, could go on for ever.
-bool hasTables(const SqliteConnection& database) {
-    return database.value(
-               "select count(*) from sqlite_master where type='table' and rootpage>0 and name in ('" +
-               mainTable + "', '" + additionalTable + "')") == "2";
-}
-
 struct Presets {
     std::vector<Gradient> gradients;
     std::unordered_map<std::int64_t, std::size_t> places; // by the key that their stops refer to
@@ -83,7 +76,7 @@ std::optional<std::vector<Gradient>> readPresetFile(const std::filesystem::path&
     }
     SqliteConnection database = SqliteConnection::open(copy->file());
     database.distrust(patience);
-    std::optional<Presets> presets = hasTables(database) ? readMainRows(database) : std::nullopt;
+    std::optional<Presets> presets = presetTable::areIn(database) ? readMainRows(database) : std::nullopt;
     if (!presets) {
         return std::nullopt;
     }

@@ -101,6 +101,11 @@ TEST_F(PresetFileTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAsid
         {"a broken page of stops", 7, [&] { overwrite(8192, '\xFF', 100); }},
         {"a cut page that reads as other values", 7, [this] { fs::resize_file(file, 12'200); }},
         {"another column", 0, [this] { other("alter table MainTable rename orientationType to kind"); }},
+        {"a table that a module makes up", 0,
+         [this] {
+             other("drop table MainTable; create virtual table MainTable using fts4(mainIndex, "
+                   "orientationType)");
+         }},
         {"a view that never ends", 0,
          [this] {
              other("drop table MainTable; create view MainTable as with recursive n(mainIndex) as (select 1 "
