@@ -33,8 +33,6 @@ class PerDeclaration {
         return values_[static_cast<std::size_t>(declaration)];
     }
 
-    bool operator==(const PerDeclaration&) const = default;
-
   private:
     std::array<Value, declarationCount> values_{};
 };

@@ -38,8 +38,6 @@ class Stylesheet {
     /// The user, not this object, edited the text. To be told of before the text changes again.
     void edited(const TextEdit& edit);
 
-    const DeclarationRanges& ranges() const { return ranges_; }
-
   private:
     /// What the text was last written from, and how long it was then.
     struct Written {

@@ -23,8 +23,6 @@ struct HSLValue {
     double hue = 0.0;
     double saturation = 0.0;
     double lightness = 0.0;
-
-    bool operator==(const HSLValue&) const = default;
 };
 
 /// Channels rounded, so that a full one is deliberately 256; zeros for a colour without RGB form.

@@ -21,8 +21,6 @@ class PresetSlotGeometry {
     struct Range {
         std::size_t first = 0;
         std::size_t last = 0;
-
-        bool operator==(const Range&) const = default;
     };
 
     /// `thumbDistant`: from one column to the next.

@@ -94,7 +94,14 @@ TEST_F(StylesheetTest, findsDeclarationsAfterAnUndoAndPastDraggedText) {
 TEST_F(StylesheetTest, keepsWhatTheUserAddsAndTellsItsDeclarationsFromCopies) {
     const std::u16string plain{css.text()}, line = u"\tcolor: red;\n",
                                             box = u"/* \U0001F308 */ p {\n\tbackground: #000000;\n}\n";
-    const DeclarationRanges ranges = stylesheet.ranges();
+    DeclarationRanges ranges;
+    update(orientation::radial);
+    css.replacements.clear();
+    update(orientation::leftToRight);
+    for (const Declaration declaration : allDeclarations) {
+        const auto& written = css.replacements[static_cast<std::size_t>(declaration)];
+        ranges[declaration] = {written.location, written.added};
+    }
     const std::size_t first = ranges[Declaration::Old].location;
     const TextRange last = ranges[Declaration::MSFilter];
     const auto radialWith = [&](const std::u16string& added, const std::string& place) {
@@ -162,13 +169,16 @@ TEST_F(StylesheetTest, anyChangeAmongRandomEditsWritesEveryDeclaration) {
         }
         record = randomRecord(random);
         update();
+        const GlobalData written = std::exchange(record, randomRecord(random));
+        css.replacements.clear();
+        update();
         std::size_t end = 0;
         for (const Declaration declaration : allDeclarations) {
-            const TextRange range = stylesheet.ranges()[declaration];
-            ASSERT_LE(end, range.location) << "change " << i;
-            ASSERT_EQ(toUtf8(css.contents.substr(range.location, range.length)),
-                      declarationText(declaration, record.gradient, record.colorFormatType));
-            end = range.end();
+            const auto& again = css.replacements.at(static_cast<std::size_t>(declaration));
+            ASSERT_LE(end, again.location) << "change " << i;
+            ASSERT_EQ(toUtf8(again.removed),
+                      declarationText(declaration, written.gradient, written.colorFormatType));
+            end = again.location + again.added;
         }
     }
     css.contents.resize(10); // shortened without a word
@@ -178,8 +188,8 @@ TEST_F(StylesheetTest, anyChangeAmongRandomEditsWritesEveryDeclaration) {
 
 TEST_F(StylesheetTest, isWrittenOnceForAChangeThatIsAnnouncedTwice) {
     const auto isWrittenOnce = [&] {
-        css.replacements = 0;
-        return update() && !update() && css.replacements == 8;
+        css.replacements.clear();
+        return update() && !update() && css.replacements.size() == 8;
     };
     EXPECT_FALSE(update()) << "as inserted";
     record.gradient.setOrientation(orientation::radial);
