@@ -67,7 +67,7 @@ void Stylesheet::writeAnew(const Gradient& gradient, std::int64_t notation) {
     view_.typeOver(stylesheetText(declarationTexts(gradient, notation)));
     laidOut(gradient, notation); // once what is typed has been followed
     written_ = Written{gradient, notation, view_.text().size()};
-    rangesOfTexts_[hashOf(view_.text())] = ranges_; // those of the text before stay, for an undo
+    rememberText(); // and the one before, for an undo
 }
 
 // Of the whole text, which is answered.
@@ -104,8 +104,29 @@ bool Stylesheet::update(const Gradient& gradient, std::int64_t notation) {
 
 void Stylesheet::written(const Gradient& gradient, std::int64_t notation) {
     written_ = Written{gradient, notation, view_.text().size()};
-    rangesOfTexts_.clear();
-    rangesOfTexts_.emplace(hashOf(view_.text()), ranges_);
+    knownTexts_.clear();
+    rememberText();
+}
+
+Stylesheet::KnownText* Stylesheet::knownText() {
+    const std::u16string_view text = view_.text();
+    const std::size_t hash = hashOf(text);
+    const auto isText = [&](const KnownText& known) {
+        return known.hash == hash && known.length == text.size();
+    };
+    const auto known = std::ranges::find_if(knownTexts_, isText);
+    return known == knownTexts_.end() ? nullptr : &*known;
+}
+
+void Stylesheet::rememberText() {
+    if (KnownText* const known = knownText()) {
+        known->ranges = ranges_;
+        return;
+    }
+    knownTexts_.push_back({hashOf(view_.text()), view_.text().size(), ranges_});
+    if (knownTexts_.size() > mostKnownTexts) {
+        knownTexts_.pop_front();
+    }
 }
 
 void Stylesheet::edited(const TextEdit& edit) {
@@ -115,9 +136,8 @@ void Stylesheet::edited(const TextEdit& edit) {
     for (const Declaration declaration : allDeclarations) {
         ranges_[declaration] = followed(before[declaration], edit);
     }
-    const auto [known, isNew] = rangesOfTexts_.try_emplace(hashOf(text), ranges_);
-    if (!isNew) {
-        ranges_ = known->second; // an undo or a redo has brought the text back
+    if (const KnownText* const known = knownText()) {
+        ranges_ = known->ranges; // an undo or a redo has brought the text back
         return;
     }
     if (edit.added > 0) {
@@ -125,8 +145,8 @@ void Stylesheet::edited(const TextEdit& edit) {
             keepLineFeedsApart(before, edit.position);
         }
         findDeclarations(before, edit);
-        known->second = ranges_;
     }
+    rememberText();
 }
 
 // A line feed typed at the end of a declaration's last line, before the one that ends it, takes its place:

@@ -7,9 +7,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <optional>
 #include <string>
-#include <unordered_map>
 
 namespace tessaly {
 
@@ -48,6 +48,17 @@ class Stylesheet {
         bool operator==(const Written&) const = default;
     };
 
+    /// The ranges in a text, which is known by hash and length.
+    struct KnownText {
+        std::size_t hash;
+        std::size_t length;
+        DeclarationRanges ranges;
+    };
+    static constexpr std::size_t mostKnownTexts = 1'000;
+
+    /// None: that of the view is not known.
+    KnownText* knownText();
+    void rememberText();
     std::string laidOut(const Gradient& gradient, std::int64_t notation);
     void written(const Gradient& gradient, std::int64_t notation);
     void keepLineFeedsApart(const DeclarationRanges& before, std::size_t typedAt);
@@ -58,9 +69,8 @@ class Stylesheet {
     CodeText& view_;
     PerDeclaration<std::string> texts_;
     DeclarationRanges ranges_;
-    std::optional<Written> written_; ///< none once the user edited the text
-    /// The ranges in every text since the last update, by the text's hash: an undo brings back both.
-    std::unordered_map<std::size_t, DeclarationRanges> rangesOfTexts_;
+    std::optional<Written> written_;   ///< none once the user edited the text
+    std::deque<KnownText> knownTexts_; ///< since the last update, oldest first: an undo brings one back
 };
 
 } // namespace tessaly

@@ -138,6 +138,16 @@ TEST_F(StylesheetTest, keepsWhatTheUserAddsAndTellsItsDeclarationsFromCopies) {
             edit({first + 30, 0}, u"\tcolor: red;");
             return radialWith(line, "\tbackground: radial");
         },
+        [&] { // a changed one cut out and brought back, after much else
+            for (int i = 0; i < 1'500; ++i) {
+                edit({0, 0}, u"x");
+            }
+            edit({1'500 + ranges[Declaration::Opera].location + 5, 3}, u"oops");
+            const std::u16string changed{css.text()};
+            edit({1'500 + ranges[Declaration::Opera].location, 80}, u"");
+            become(changed);
+            return std::string(1'500, 'x') + radialCss;
+        },
         [&] { // everything, the frame too
             edit({0, css.contents.size()}, u"");
             return radialCss.substr(28, radialCss.size() - 30);
