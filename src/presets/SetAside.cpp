@@ -28,10 +28,15 @@ std::filesystem::path datedName(const std::filesystem::path& file) {
     return name;
 }
 
-std::error_code moveIfThere(const std::filesystem::path& from, const std::filesystem::path& to) {
+std::error_code moveCompanions(const std::filesystem::path& from, const std::filesystem::path& to) {
     std::error_code error;
-    std::filesystem::rename(from, to, error);
-    return error == std::errc::no_such_file_or_directory ? std::error_code{} : error;
+    for (const char* const suffix : companionSuffixes) {
+        std::filesystem::rename(withSuffix(from, suffix), withSuffix(to, suffix), error);
+        if (error && error != std::errc::no_such_file_or_directory) {
+            return error;
+        }
+    }
+    return {};
 }
 
 // The file keeps its old name until its companions have moved, where the file system knows two names for one
@@ -39,19 +44,17 @@ std::error_code moveIfThere(const std::filesystem::path& from, const std::filesy
 std::error_code move(const std::filesystem::path& file, const std::filesystem::path& dated) {
     std::error_code noLink;
     std::filesystem::create_hard_link(file, dated, noLink);
-    std::error_code failure;
-    for (const char* const suffix : companionSuffixes) {
-        failure = failure ? failure : moveIfThere(withSuffix(file, suffix), withSuffix(dated, suffix));
-    }
+    std::error_code failure = moveCompanions(file, dated);
     if (!failure && noLink) {
-        failure = moveIfThere(file, dated);
+        std::filesystem::rename(file, dated, failure);
     } else if (!failure) {
         std::filesystem::remove(file, failure);
     }
+    if (failure == std::errc::no_such_file_or_directory) {
+        failure.clear();
+    }
     if (failure) {
-        for (const char* const suffix : companionSuffixes) {
-            moveIfThere(withSuffix(dated, suffix), withSuffix(file, suffix));
-        }
+        moveCompanions(dated, file);
         std::error_code isMissing;
         if (std::filesystem::equivalent(file, dated, isMissing)) {
             std::filesystem::remove(dated, isMissing);
