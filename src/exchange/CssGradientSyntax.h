@@ -30,10 +30,4 @@ std::optional<GradientDraft> withStops(GradientDraft draft, CssArguments stops, 
 /// Whether an argument starts with a colour, so that it is a stop and nothing before the stops.
 bool startsWithColor(CssArgument argument);
 
-/// Shape and size of a radial gradient, "circle closest-side"; false: it is something else.
-bool takeShape(GradientDraft& draft, CssArgument argument);
-
-/// Its place, "left 20px"; false: it is something else.
-bool takePlace(GradientDraft& draft, CssArgument argument);
-
 } // namespace tessaly

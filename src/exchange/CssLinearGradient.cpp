@@ -1,6 +1,7 @@
 #include "exchange/CssColorReader.h"
 #include "exchange/CssGradientSyntax.h"
 #include "exchange/CssMixing.h"
+#include "exchange/CssPlace.h"
 #include "exchange/CssQuantity.h"
 
 #include <algorithm>
@@ -50,12 +51,12 @@ std::optional<double> readWay(CssArgument argument) {
     return isTo ? readSides(argument.subspan(1)) : std::nullopt;
 }
 
-// The side that it starts from, or an angle, or both, of which the angle counts.
+// The side that it starts from, or an angle, or a place and an angle, of which the angle counts.
 std::optional<double> readOldWay(CssArgument argument) {
-    const auto isAngle = [](const CssComponent& component) { return readAngle(component).has_value(); };
-    const auto angle = std::ranges::find_if(argument, isAngle);
-    if (angle != argument.end()) {
-        return 90 - readAngle(*angle).value_or(0.0);
+    const auto angle = argument.empty() ? std::nullopt : readAngle(argument.back());
+    if (angle) {
+        const CssArgument place = argument.first(argument.size() - 1);
+        return place.empty() || isCssPlace(place) ? std::optional{90 - *angle} : std::nullopt;
     }
     std::vector<CssComponent> named;
     std::ranges::copy_if(argument, std::back_inserter(named),

@@ -87,8 +87,8 @@ bool readPointStop(const CssComponent& component, std::vector<WrittenStop>& stop
     return isPercent || position->kind == Kind::Number;
 }
 
-// The order is that of the text. Where from() and to() are, it says nothing: browsers sort, and so it is
-// here.
+// Browsers sort. So it is here where from() and to() are; else the order stays that of the text, which is how
+// this program writes stops that lie below earlier ones.
 std::optional<GradientDraft> withPointStops(GradientDraft draft, CssArguments arguments) {
     bool hasEnds = false;
     const bool allFit = std::ranges::all_of(arguments, [&](CssArgument argument) {
@@ -97,9 +97,14 @@ std::optional<GradientDraft> withPointStops(GradientDraft draft, CssArguments ar
     if (!allFit || draft.stops.empty()) {
         return std::nullopt;
     }
+    const auto position = [](const WrittenStop& stop) { return stop.position.value_or(0); };
     if (hasEnds) {
-        std::ranges::stable_sort(draft.stops, {},
-                                 [](const WrittenStop& s) { return s.position.value_or(0); });
+        std::ranges::stable_sort(draft.stops, {}, position);
+    } else if (!std::ranges::is_sorted(draft.stops, {}, position)) {
+        draft.notes.emplace_back("stops left in the order written");
+    }
+    for (WrittenStop& stop : draft.stops) {
+        stop.position = std::clamp(position(stop), 0.0, 1.0); // moved, not cut, and only once in order
     }
     return draft;
 }

@@ -1,5 +1,6 @@
 #include "exchange/CssGradientSyntax.h"
 #include "exchange/CssMixing.h"
+#include "exchange/CssPlace.h"
 #include "exchange/CssQuantity.h"
 
 #include <algorithm>
@@ -11,20 +12,37 @@ namespace {
 using Kind = CssQuantity::Kind;
 
 constexpr std::string_view ownSize = "farthest-corner";
+constexpr std::array<std::string_view, 4> sizes{"closest-side", "farthest-side", "closest-corner", ownSize};
+constexpr std::array<std::string_view, 2> prefixedSizes{"contain",
+                                                        "cover"}; // the first and the last of those
 
-// The last two are what prefixed gradients call closest-side and farthest-corner.
-constexpr std::array<std::string_view, 6> sizes{"closest-side", "farthest-side", "closest-corner",
-                                                ownSize,        "contain",       "cover"};
-constexpr std::array<std::string_view, 5> places{"center", "left", "right", "top", "bottom"};
+enum class Names { Standard, Prefixed };
 
 bool isAny(const CssComponent& component, std::span<const std::string_view> names) {
     return std::ranges::any_of(names, [&](std::string_view name) { return component.isIdent(name); });
 }
 
-bool isLength(const CssComponent& component) {
+bool isSizeName(const CssComponent& component, Names names) {
+    return isAny(component, sizes) || (names == Names::Prefixed && isAny(component, prefixedSizes));
+}
+
+bool isRadius(const CssComponent& component) {
     const auto quantity = readCssQuantity(component);
-    return quantity && (quantity->kind == Kind::Length || quantity->kind == Kind::Percent ||
-                        (quantity->kind == Kind::Number && quantity->isZero()));
+    return quantity && quantity->value >= 0 && isCssLength(component);
+}
+
+bool isShare(const CssComponent& component) {
+    const auto quantity = readCssQuantity(component);
+    return quantity && quantity->kind == Kind::Percent;
+}
+
+// One radius makes a circle, which knows no shares of the box, two an ellipse.
+bool areRadii(CssArgument size, bool saysCircle, bool saysEllipse) {
+    if (!std::ranges::all_of(size, isRadius)) {
+        return false;
+    }
+    const bool isCircle = size.size() == 1 && !isShare(size.front());
+    return (isCircle && !saysEllipse) || (size.size() == 2 && !saysCircle);
 }
 
 std::string words(CssArgument argument) {
@@ -37,36 +55,25 @@ std::string words(CssArgument argument) {
     return text.size() > most ? "another" : text;
 }
 
-bool isHalf(const CssComponent& component) {
-    const auto quantity = readCssQuantity(component);
-    return quantity && quantity->kind == Kind::Percent && quantity->value == 50;
-}
-
-bool isCenter(CssArgument argument) {
-    return std::ranges::all_of(argument,
-                               [](const CssComponent& c) { return c.isIdent("center") || isHalf(c); });
-}
-
-} // namespace
-
-bool takeShape(GradientDraft& draft, CssArgument argument) {
+// Shape and size, "circle closest-side"; false: it is something else.
+bool takeShape(GradientDraft& draft, CssArgument argument, Names names) {
     std::vector<CssComponent> size;
-    bool circle = false;
-    for (const CssComponent& component : argument) {
-        if (component.isIdent("circle")) {
-            circle = true;
-        } else if (isAny(component, sizes) || isLength(component)) {
-            size.push_back(component);
-        } else if (!component.isIdent("ellipse")) {
-            return false;
-        }
-    }
-    const bool oneName = size.size() == 1 && isAny(size.front(), sizes);
-    const bool lengths = size.size() <= 2 && std::ranges::all_of(size, isLength);
-    if (argument.empty() || argument.size() > 3 || !(oneName || lengths)) {
+    std::ranges::copy_if(argument, std::back_inserter(size), [](const CssComponent& component) {
+        return !component.isIdent("circle") && !component.isIdent("ellipse");
+    });
+    const auto says = [&](std::string_view shape) {
+        return std::ranges::any_of(argument, [&](const CssComponent& c) { return c.isIdent(shape); });
+    };
+    const bool saysCircle = says("circle");
+    const bool saysEllipse = says("ellipse");
+    const bool isNamed = size.size() == 1 && isSizeName(size.front(), names);
+    const bool fits = argument.size() == size.size() + (saysCircle || saysEllipse ? 1 : 0) &&
+                      !argument.empty() &&
+                      (size.empty() || isNamed || areRadii(size, saysCircle, saysEllipse));
+    if (!fits) {
         return false;
     }
-    if (circle || (size.size() == 1 && lengths)) { // one radius is that of a circle
+    if (saysCircle || (size.size() == 1 && !isNamed)) {
         draft.notes.emplace_back("circle taken as ellipse");
     }
     if (!size.empty() && !size.front().isIdent(ownSize) && !size.front().isIdent("cover")) {
@@ -75,16 +82,16 @@ bool takeShape(GradientDraft& draft, CssArgument argument) {
     return true;
 }
 
+// Its place, "left 20px"; false: it is something else.
 bool takePlace(GradientDraft& draft, CssArgument argument) {
-    const bool isPlace = !argument.empty() && argument.size() <= 4 &&
-                         std::ranges::all_of(argument, [](const CssComponent& component) {
-                             return isAny(component, places) || isLength(component);
-                         });
-    if (isPlace && !isCenter(argument)) {
+    const bool isPlace = isCssPlace(argument);
+    if (isPlace && !isCssCenter(argument)) {
         draft.notes.push_back("place " + words(argument) + " taken as center");
     }
     return isPlace;
 }
+
+} // namespace
 
 std::optional<GradientDraft> readStandardRadial(CssArguments arguments) {
     GradientDraft draft;
@@ -99,7 +106,7 @@ std::optional<GradientDraft> readStandardRadial(CssArguments arguments) {
     const CssArgument rest{mixing->rest};
     const auto at = std::ranges::find_if(rest, [](const CssComponent& c) { return c.isIdent("at"); });
     const CssArgument shape{rest.begin(), at};
-    if ((!shape.empty() && !takeShape(draft, shape)) ||
+    if ((!shape.empty() && !takeShape(draft, shape, Names::Standard)) ||
         (at != rest.end() && !takePlace(draft, {at + 1, rest.end()}))) {
         return std::nullopt;
     }
@@ -118,12 +125,13 @@ std::optional<GradientDraft> readPrefixedRadial(CssArguments arguments) {
         }();
         const CssArgument place = endsInAngle ? first.first(first.size() - 1) : first;
         const bool onlyAngle = endsInAngle && place.empty();
-        if (!onlyAngle && !takePlace(draft, place) && !takeShape(draft, first)) {
+        if (!onlyAngle && !takePlace(draft, place) && !takeShape(draft, first, Names::Prefixed)) {
             return std::nullopt;
         }
         arguments = arguments.subspan(1);
     }
-    if (!arguments.empty() && !startsWithColor(arguments.front()) && takeShape(draft, arguments.front())) {
+    if (!arguments.empty() && !startsWithColor(arguments.front()) &&
+        takeShape(draft, arguments.front(), Names::Prefixed)) {
         arguments = arguments.subspan(1);
     }
     return withStops(std::move(draft), arguments);

@@ -1,6 +1,7 @@
 #include "exchange/CssStops.h"
 
 #include "exchange/CssColorReader.h"
+#include "exchange/CssPlace.h"
 #include "exchange/CssQuantity.h"
 
 #include <algorithm>
@@ -15,18 +16,13 @@ struct UnresolvedStop {
     std::optional<CssQuantity> position;
 };
 
-bool isPosition(const std::optional<CssQuantity>& quantity) {
-    return quantity && (quantity->kind == Kind::Percent || quantity->kind == Kind::Length ||
-                        (quantity->kind == Kind::Number && quantity->isZero()));
-}
-
 // A colour with up to two positions, on either side of it, or a hint; false: it is neither.
 bool readStop(CssArgument argument, std::vector<UnresolvedStop>& stops, bool& mixInSrgb) {
     std::optional<ReadColor> color;
     std::vector<CssQuantity> positions;
     for (const CssComponent& component : argument) {
         if (const auto quantity = readCssQuantity(component)) {
-            if (!isPosition(quantity)) {
+            if (!isCssLength(component)) {
                 return false;
             }
             positions.push_back(*quantity);

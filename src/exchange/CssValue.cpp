@@ -1,6 +1,7 @@
 #include "exchange/CssValue.h"
 
 #include "exchange/CssGradientFunction.h"
+#include "exchange/CssLayers.h"
 #include "exchange/CssName.h"
 #include "exchange/CssTokenizer.h"
 
@@ -62,9 +63,8 @@ class ValueReader {
         if (isWrong_) {
             value_.gradient.reset();
         }
-        if (value_.gradient && count_ > 1) {
-            value_.gradient->found.notes.push_back(std::to_string(count_ - 1) + " more gradient" +
-                                                   (count_ > 2 ? "s" : "") + " left out");
+        if (value_.gradient) {
+            tellTheRest(value_.gradient->found);
         }
         return std::move(value_);
     }
@@ -89,11 +89,23 @@ class ValueReader {
             return;
         }
         value_.gradient = {std::move(*found), formOf(function.syntax)};
+        place_ = token.begin;
+    }
+
+    void tellTheRest(FoundGradient& found) const {
+        const auto isSeenThrough = [](const ColorStop& stop) { return stop.opacity < 1; };
+        const bool shows = std::ranges::any_of(found.gradient.stops(), isSeenThrough);
+        std::ranges::move(readCssLayers(text_, place_, shows), std::back_inserter(found.notes));
+        if (count_ > 1) {
+            found.notes.push_back(std::to_string(count_ - 1) + " more gradient" + (count_ > 2 ? "s" : "") +
+                                  " left out");
+        }
     }
 
     std::string_view text_;
     CssTokenizer tokens_;
     CssValue value_;
+    std::size_t place_ = 0; ///< of the gradient that was taken
     std::size_t count_ = 0;
     bool isWrong_ = false;
 };

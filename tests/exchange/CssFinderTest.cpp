@@ -77,13 +77,37 @@ TEST(CssFinder, findsWhatIsInAStylesheet) {
     });
 }
 
+TEST(CssFinder, tellsWhatElseAValueShows) {
+    constexpr std::string_view placed = "AB (size and place of the layer left out)";
+    constexpr std::string_view seeThrough = "linear-gradient(90deg, #aaa, #bbb8)";
+    expectAll({
+        {"background: AB no-repeat 0 0 / auto 100% scroll border-box, #123", "AB"},
+        {"background: center / cover AB", "AB"},
+        {"background: AB 30% 9%", "AB"},
+        {"border-image: AB 1", "AB"},
+        {"background: AB 9px", placed},
+        {"background: 0 calc(1% + 9px) AB", placed},
+        {"background: AB 50% / 50%", placed},
+        {"background: AB fixed", placed},
+        {"background: AB, CD 9px", "AB (1 more gradient left out)"},
+        {"background: url(a), AB, red", "AB (other pictures left out)"},
+        {"background: AB, image-set('a' 1x)", "AB (other pictures left out)"},
+    });
+    for (const auto& [rest, note] : {std::pair{", #ddd", " (color behind it left out)"},
+                                     {" rgb(1 2 3)", " (color behind it left out)"},
+                                     {" none", ""}}) {
+        EXPECT_EQ(described(readCssGradients(std::string{seeThrough} + rest)),
+                  std::string{"1 #aaaaaa 0, #bbbbbb/53.3 100"} + note);
+    }
+}
+
 TEST(CssFinder, findsWhatIsInAPage) {
     expectAll({
         {"<!DOCTYPE html><style type=a>\n.a { background: AB }</STYLE ><p style='background: CD'>",
          ".a: AB\nCD"},
         {"<p title=\"style='background: AB'\" STYLE = \"background: url(&quot;x;y&quot;), CD; "
          "a:&#39;;&#x27;;mask:AB\"/>",
-         "CD\nAB"},
+         "CD (other pictures left out)\nAB"},
         {"<b class=x style=background:AB>", ""}, // its value ends at the blank
         {"some text <b style=background:linear-gradient(90deg,#aaa,#bbb)>", "AB"},
         {"<!-- <style>a { background: AB }</style> --><script>'<style>a { background: AB }'</script>"

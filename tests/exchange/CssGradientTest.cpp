@@ -65,7 +65,11 @@ TEST(CssGradient, takesTheNearestDirection) {
             {"gradient(linear, left top, left bottom, from(red), to(blue), color-stop(.3, lime))",
              "0 #0000ff 0, #00ff00 70, #ff0000 100"},
             {"gradient(linear, 25% 50%, 75% 50%, color-stop(60%,red), color-stop(0.5,blue))",
-             "1 #ff0000 55, #0000ff 50"},
+             "1 #ff0000 55, #0000ff 50 (stops left in the order written)"},
+            {"gradient(linear, 0 0, 100% 0, color-stop(-1,red), color-stop(200%,blue))",
+             "1 #ff0000 0, #0000ff 100"},
+            {"gradient(linear, 0 0, 100% 0, from(red), color-stop(2,lime), to(blue))",
+             "1 #ff0000 0, #0000ff 100, #00ff00 100"},
             {"gradient(linear, 0 0, 100 20, from(red), to(blue))",
              "1 #ff0000 0, #0000ff 100 (101.3° taken as 90°; lengths left out)"},
             {"gradient(radial, center center, 0px, center center, 100%, color-stop(0%,red))", "4 #ff0000 0"},
@@ -82,20 +86,37 @@ TEST(CssGradient, takesTheNearestDirection) {
                   {"to right", "1 #ff0000 0, #0000ff 100"},
                   {"center top", "0 #0000ff 0, #ff0000 100"},
                   {"left 45deg", "2 #ff0000 0, #0000ff 100"},
+                  {"0% 100% 45deg", "2 #ff0000 0, #0000ff 100"},
+                  {"rubbish 45deg", ""},
               },
               ", red, blue)");
-    expectAll("radial-gradient(",
-              {
-                  {"ellipse at center", "4 #ff0000 0, #0000ff 100"},
-                  {"farthest-corner at 50% 50%", "4 #ff0000 0, #0000ff 100"},
-                  {"circle", "4 #ff0000 0, #0000ff 100 (circle taken as ellipse)"},
-                  {"20px 30% at top in oklab",
-                   "4 #ff0000 0, #0000ff 100 (size 20px 30% taken as farthest-corner; place top taken as "
-                   "center; mixing in oklab taken as in srgb)"},
-                  {"circle circle square", ""},
-                  {"at nowhere", ""},
-              },
-              ", red, blue)");
+    expectAll(
+        "radial-gradient(",
+        {
+            {"ellipse at center", "4 #ff0000 0, #0000ff 100"},
+            {"farthest-corner at 50% 50%", "4 #ff0000 0, #0000ff 100"},
+            {"circle", "4 #ff0000 0, #0000ff 100 (circle taken as ellipse)"},
+            {"20px 30% at top in oklab",
+             "4 #ff0000 0, #0000ff 100 (size 20px 30% taken as farthest-corner; place top taken as "
+             "center; mixing in oklab taken as in srgb)"},
+            {"9px", "4 #ff0000 0, #0000ff 100 (circle taken as ellipse; size 9px taken as farthest-corner)"},
+            {"at right 1% top 0", "4 #ff0000 0, #0000ff 100 (place right 1% top 0 taken as center)"},
+            {"circle circle square", ""},
+            {"circle ellipse", ""},
+            {"circle 9%", ""},
+            {"circle 9px 9px", ""},
+            {"ellipse 9px", ""},
+            {"9%", ""},
+            {"-9px", ""},
+            {"9px closest-side", ""},
+            {"circle cover", ""},
+            {"at nowhere", ""},
+            {"at 50% left", ""},
+            {"at left left", ""},
+            {"at center left 50%", ""},
+            {"at left 1px right 1px", ""},
+        },
+        ", red, blue)");
 }
 
 TEST(CssGradient, placesTheStops) {
