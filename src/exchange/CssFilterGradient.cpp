@@ -39,7 +39,7 @@ std::optional<GradientDraft> readFilter(CssArguments arguments) {
     constexpr double downwards = 180;
     constexpr double rightwards = 90;
     GradientDraft draft;
-    draft.takeDirection(nearestDirection(type.empty() || type == vertical ? downwards : rightwards));
+    draft.takeDirection(type.empty() || type == vertical ? downwards : rightwards);
     draft.stops = {{start, 0.0}, {end, 1.0}};
     return draft;
 }

@@ -2,8 +2,6 @@
 #include "exchange/CssGradientSyntax.h"
 #include "exchange/CssStops.h"
 
-#include <algorithm>
-
 namespace tessaly {
 
 bool startsWithColor(CssArgument argument) {
@@ -19,10 +17,11 @@ std::optional<GradientDraft> withStops(GradientDraft draft, CssArguments stops, 
         mixing = "oklab"; // the standard's default as soon as one colour is of the new kinds
     }
     if (!mixing.empty() && mixing != "srgb") {
-        draft.notes.push_back("mixing in " + std::string{mixing} + " taken as in srgb");
+        draft.takeMixing(mixing);
     }
-    std::ranges::copy(list->notes, std::back_inserter(draft.notes));
-    draft.hasLengths = list->hasLengths;
+    if (list->lengths != CssStops::Lengths::None) {
+        draft.takeLengths(list->lengths == CssStops::Lengths::InProportion);
+    }
     draft.stops = std::move(list->stops);
     return draft;
 }

@@ -3,6 +3,7 @@
 #include "exchange/CssMixing.h"
 #include "exchange/CssPlace.h"
 #include "exchange/CssQuantity.h"
+#include "exchange/LinearDirection.h"
 
 #include <algorithm>
 #include <array>
@@ -72,7 +73,7 @@ constexpr double downwards = 180; // where nothing is said
 std::optional<GradientDraft> readStandardLinear(CssArguments arguments) {
     GradientDraft draft;
     if (startsWithColor(arguments.front())) {
-        draft.takeDirection(nearestDirection(downwards));
+        draft.takeDirection(downwards);
         return withStops(std::move(draft), arguments);
     }
     const auto mixing = readCssMixing(arguments.front());
@@ -84,7 +85,7 @@ std::optional<GradientDraft> readStandardLinear(CssArguments arguments) {
     if (!degrees) {
         return std::nullopt;
     }
-    draft.takeDirection(nearestDirection(*degrees));
+    draft.takeDirection(*degrees);
     return withStops(std::move(draft), arguments.subspan(1), mixing->space);
 }
 
@@ -92,7 +93,7 @@ std::optional<GradientDraft> readPrefixedLinear(CssArguments arguments, bool kno
     GradientDraft draft;
     const CssArgument first = arguments.front();
     if (startsWithColor(first)) {
-        draft.takeDirection(nearestDirection(downwards));
+        draft.takeDirection(downwards);
         return withStops(std::move(draft), arguments);
     }
     const bool saysTo = knowsTo && !first.empty() && first.front().isIdent("to");
@@ -100,7 +101,7 @@ std::optional<GradientDraft> readPrefixedLinear(CssArguments arguments, bool kno
     if (!degrees) {
         return std::nullopt;
     }
-    draft.takeDirection(nearestDirection(*degrees));
+    draft.takeDirection(*degrees);
     return withStops(std::move(draft), arguments.subspan(1));
 }
 

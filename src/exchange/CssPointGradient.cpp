@@ -2,6 +2,7 @@
 #include "exchange/CssGradientSyntax.h"
 #include "exchange/CssName.h"
 #include "exchange/CssQuantity.h"
+#include "exchange/LinearDirection.h"
 
 #include <algorithm>
 #include <array>
@@ -120,17 +121,14 @@ std::optional<GradientDraft> readLinear(const PointOfBox& from, const PointOfBox
         return std::nullopt;
     }
     GradientDraft draft;
-    const LinearDirection direction = nearestDirection(degreesOf(right, up));
-    draft.takeDirection(direction);
     if (from.isPx() || to.isPx()) {
-        draft.notes.emplace_back("lengths left out");
+        draft.takeDirection(degreesOf(right, up));
+        draft.takeLengths(true);
         return draft;
     }
-    const double x = std::round(std::sin(direction.degrees * std::numbers::pi / 180));
-    const double y = std::round(std::cos(direction.degrees * std::numbers::pi / 180));
-    const double length = std::abs(x) + std::abs(y);
-    draft.start = 0.5 + ((from.x.value - 0.5) * x + (0.5 - from.y.value) * y) / length;
-    draft.span = (right * x + up * y) / length;
+    const double lengthSquared = right * right + up * up;
+    const Point growth{right / lengthSquared, -up / lengthSquared};
+    draft.takeLine(gradientLine(growth.x * (0.5 - from.x.value) + growth.y * (0.5 - from.y.value), growth));
     return draft;
 }
 
@@ -140,14 +138,13 @@ GradientDraft readRadial(const PointOfBox& center, const CssQuantity& inner, con
     GradientDraft draft;
     draft.orientation = orientation::radial;
     if (outer.kind != Kind::Percent || outer.value != 100) {
-        draft.notes.push_back("size " + std::string{size.front().text} + " taken as farthest-corner");
+        draft.takeSize(size.front().text);
     }
     if (!center.isCenter()) {
-        draft.notes.emplace_back("other place taken as center");
+        draft.takePlace();
     }
     if (inner.kind == outer.kind && outer.value > inner.value) {
-        draft.start = inner.value / outer.value;
-        draft.span = 1 - draft.start;
+        draft.track.start = inner.value / outer.value;
     }
     return draft;
 }

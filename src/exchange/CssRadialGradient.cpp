@@ -74,10 +74,10 @@ bool takeShape(GradientDraft& draft, CssArgument argument, Names names) {
         return false;
     }
     if (saysCircle || (size.size() == 1 && !isNamed)) {
-        draft.notes.emplace_back("circle taken as ellipse");
+        draft.takeCircle();
     }
     if (!size.empty() && !size.front().isIdent(ownSize) && !size.front().isIdent("cover")) {
-        draft.notes.push_back("size " + words(size) + " taken as " + std::string{ownSize});
+        draft.takeSize(words(size));
     }
     return true;
 }
@@ -86,7 +86,7 @@ bool takeShape(GradientDraft& draft, CssArgument argument, Names names) {
 bool takePlace(GradientDraft& draft, CssArgument argument) {
     const bool isPlace = isCssPlace(argument);
     if (isPlace && !isCssCenter(argument)) {
-        draft.notes.push_back("place " + words(argument) + " taken as center");
+        draft.takePlace(words(argument));
     }
     return isPlace;
 }

@@ -73,12 +73,12 @@ std::optional<double> wholeLength(const std::vector<UnresolvedStop>& stops) {
 }
 
 void resolve(const std::vector<UnresolvedStop>& unresolved, CssStops& result) {
-    result.hasLengths = std::ranges::any_of(unresolved, [](const UnresolvedStop& stop) {
+    const bool hasLengths = std::ranges::any_of(unresolved, [](const UnresolvedStop& stop) {
         return stop.position && stop.position->kind == Kind::Length && !stop.position->isZero();
     });
     const auto whole = wholeLength(unresolved);
-    if (result.hasLengths) {
-        result.notes.emplace_back(whole ? "lengths taken in proportion" : "lengths left out");
+    if (hasLengths) {
+        result.lengths = whole ? CssStops::Lengths::InProportion : CssStops::Lengths::LeftOut;
     }
     for (const UnresolvedStop& stop : unresolved) {
         WrittenStop written{stop.color};

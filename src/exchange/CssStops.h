@@ -7,10 +7,11 @@ namespace tessaly {
 
 /// The list of stops of a gradient function.
 struct CssStops {
+    enum class Lengths { None, InProportion, LeftOut };
+
     std::vector<WrittenStop> stops;
     bool mixesInSrgb = true; ///< where the gradient says nothing else
-    bool hasLengths = false;
-    std::vector<std::string> notes;
+    Lengths lengths = Lengths::None;
 };
 
 /// "red 10%, 30%, blue 50% 60%": positions with or without, hints, lengths in proportion to the longest.

@@ -1,10 +1,21 @@
 #include "exchange/GradientDraft.h"
 
+#include "exchange/LinearDirection.h"
+
 #include <algorithm>
 
 namespace tessaly {
+namespace {
 
-void GradientDraft::takeDirection(const LinearDirection& direction) {
+std::string taken(std::string_view what, std::string_view written, std::string_view as) {
+    std::string note{what};
+    return note.append(written.empty() ? "" : " ").append(written).append(" taken as ").append(as);
+}
+
+} // namespace
+
+void GradientDraft::takeDirection(double degrees) {
+    const LinearDirection direction = nearestDirection(degrees);
     orientation = direction.orientation;
     turned = direction.turned;
     if (!direction.isExact()) {
@@ -12,21 +23,43 @@ void GradientDraft::takeDirection(const LinearDirection& direction) {
     }
 }
 
+void GradientDraft::takeLine(const GradientLine& line) {
+    takeDirection(line.angle);
+    track = {line.start, line.end};
+}
+
+void GradientDraft::takeCircle() {
+    notes.push_back(taken("circle", {}, "ellipse"));
+}
+
+void GradientDraft::takeSize(std::string_view written) {
+    notes.push_back(taken("size", written, "farthest-corner"));
+    mayEndBefore = true;
+}
+
+void GradientDraft::takePlace(std::string_view written) {
+    notes.push_back(taken("place", written, "center"));
+    mayEndBefore = true;
+}
+
+void GradientDraft::takeMixing(std::string_view space) {
+    notes.push_back(taken("mixing in", space, "in sRGB"));
+}
+
+void GradientDraft::takeLengths(bool inProportion) {
+    notes.emplace_back(inProportion ? "lengths taken in proportion" : "lengths left out");
+    mayEndBefore = true;
+}
+
 FoundGradient GradientDraft::finished() const {
-    std::vector<WrittenStop> moved = stops;
-    for (WrittenStop& stop : moved) {
-        if (stop.position) {
-            stop.position = start + span * *stop.position;
-        }
-    }
-    const StopPlacement placement{moved};
+    const StopPlacement placement{stops, track, mixing};
     FoundGradient found{Gradient{placement.stops(turned), orientation}, {}, notes};
     std::ranges::copy(placement.notes(), std::back_inserter(found.notes));
     if (std::ranges::any_of(stops, [](const WrittenStop& s) { return s.color && s.color->clipped; })) {
-        found.notes.emplace_back("colors outside sRGB clipped");
+        found.notes.emplace_back("colors clipped to sRGB");
     }
-    if (repeating && (hasLengths || !placement.coversAll())) {
-        found.notes.emplace_back("repeating gradient taken once");
+    if (repeating && (mayEndBefore || !placement.coversAll())) {
+        found.notes.emplace_back("repeating taken once");
     }
     return found;
 }

@@ -1,24 +1,43 @@
 #pragma once
 
-#include "exchange/LinearDirection.h"
+#include "exchange/GradientLine.h"
 #include "exchange/Reading.h"
 #include "exchange/StopPlacement.h"
+#include "model/Orientation.h"
+
+#include <string_view>
 
 namespace tessaly {
 
-/// A gradient while it is read.
+/// A gradient while it is read, of CSS or SVG, and what is told of it. What is changed in one of the same way
+/// is told in the same words.
 struct GradientDraft {
     std::vector<WrittenStop> stops; ///< as StopPlacement wants them
     std::int64_t orientation = orientation::leftToRight;
+    StopTrack track;
+    StopMixing mixing = StopMixing::Premultiplied;
     bool turned = false;
     bool repeating = false;
-    bool hasLengths = false; ///< the box may be larger than what the stops cover
-    double start = 0.0;      ///< where 0 of the positions lies along the direction
-    double span = 1.0;       ///< how far 1 lies behind it
+    bool mayEndBefore = false; ///< the box may be larger than what the stops cover
     std::vector<std::string> notes;
 
-    /// The direction, with a note where it is not exact.
-    void takeDirection(const LinearDirection& direction);
+    /// The nearest of the eight directions, with a note where it is not exact; degrees, 0 is upwards,
+    /// clockwise.
+    void takeDirection(double degrees);
+
+    /// The direction of a line, and where its stops come to lie.
+    void takeLine(const GradientLine& line);
+
+    void takeCircle();
+
+    /// What is not as it is here. `written` is how it was said, and may be left out.
+    void takeSize(std::string_view written = {});
+    void takePlace(std::string_view written = {});
+
+    void takeMixing(std::string_view space);
+
+    /// Lengths in a box of unknown size: kept in proportion, or left out.
+    void takeLengths(bool inProportion);
 
     /// The gradient that this comes to.
     FoundGradient finished() const;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double turn = 360;
 constexpr double step = 45;
-constexpr double unseen = 0.05; // degrees; no screen shows less
+constexpr double unseen = 0.1; // degrees; moves the outermost colors by less than half a level
 
 struct Way {
     std::int64_t orientation;
@@ -27,6 +27,11 @@ constexpr std::array ways{
     Way{orientation::leftToRight, true},  Way{orientation::diagonalToTopLeft, false},
 };
 
+std::string degreesText(double degrees) {
+    const double tenths = std::round(degrees * 10) / 10;
+    return fixedText(tenths, tenths == std::round(tenths) ? 0 : 1) + "°";
+}
+
 } // namespace
 
 bool LinearDirection::isExact() const {
@@ -35,8 +40,7 @@ bool LinearDirection::isExact() const {
 
 std::string LinearDirection::note() const {
     const double written = degrees + offset;
-    return percentText((written < 0 ? written + turn : written) / 100) + "° taken as " +
-           std::to_string(degrees) + "°";
+    return degreesText(written < 0 ? written + turn : written) + " taken as " + degreesText(degrees);
 }
 
 LinearDirection nearestDirection(double degrees) {

@@ -6,16 +6,32 @@
 namespace tessaly {
 namespace {
 
-// The colour that a browser has on the way from one to the other, 0 ... 1: it mixes premultiplied.
-ReadColor mixed(const ReadColor& from, const ReadColor& to, double way) {
+// What was computed, without the last digits that only computing brought in, and on an end that it is near.
+double tidied(double position) {
+    constexpr double nearEnd = 1e-4; // by far less than can be seen
+    constexpr double digits = 1e12;
+    const double end = std::round(position);
+    return (end == 0.0 || end == 1.0) && std::abs(position - end) < nearEnd
+               ? std::abs(end)
+               : std::round(position * digits) / digits;
+}
+
+double moved(double position, StopTrack track) {
+    return track == StopTrack{} ? position : tidied(track.start + position * (track.end - track.start));
+}
+
+// The colour that a browser has on the way from one to the other, 0 ... 1.
+ReadColor mixed(const ReadColor& from, const ReadColor& to, double way, StopMixing mixing) {
     const double alpha = from.alpha + (to.alpha - from.alpha) * way;
-    if (alpha <= 0.0) {
+    const bool isPlain = mixing == StopMixing::Plain;
+    if (alpha <= 0.0 && !isPlain) {
         return {from.color, 0.0};
     }
     const RGBAComponents a = from.color.calibratedRGB().value_or(RGBAComponents{});
     const RGBAComponents b = to.color.calibratedRGB().value_or(RGBAComponents{});
     const auto channel = [&](double start, double end) {
-        return (start * from.alpha * (1 - way) + end * to.alpha * way) / alpha;
+        return isPlain ? start + (end - start) * way
+                       : (start * from.alpha * (1 - way) + end * to.alpha * way) / alpha;
     };
     return {Color::calibratedRGB(channel(a.red, b.red), channel(a.green, b.green), channel(a.blue, b.blue)),
             alpha};
@@ -27,26 +43,25 @@ bool isInside(double position) {
 
 } // namespace
 
-StopPlacement::StopPlacement(std::span<const WrittenStop> written) {
-    place(written);
+StopPlacement::StopPlacement(std::span<const WrittenStop> written, StopTrack track, StopMixing mixing) {
+    place(written, track);
     replaceHints();
     isCut_ = std::ranges::any_of(stops_, [](const Stop& stop) { return !isInside(stop.drawn); });
     if (isCut_) {
-        cut();
+        cut(mixing);
     }
 }
 
-void StopPlacement::place(std::span<const WrittenStop> written) {
+void StopPlacement::place(std::span<const WrittenStop> written, StopTrack track) {
     stops_.reserve(written.size());
     std::size_t behindPlaced = 0;
     for (std::size_t i = 0; i < written.size(); ++i) {
         const bool isFirst = i == 0;
         const bool isLast = i + 1 == written.size();
-        const auto position = written[i].position || !(isFirst || isLast)
-                                  ? written[i].position
-                                  : std::optional{isFirst ? 0.0 : 1.0};
-        stops_.push_back({position.value_or(0.0), position.value_or(0.0), written[i].color});
-        if (!position) {
+        const bool isSpread = !written[i].position && !isFirst && !isLast;
+        const double position = moved(written[i].position.value_or(isFirst ? 0.0 : 1.0), track);
+        stops_.push_back({position, position, written[i].color});
+        if (isSpread) {
             continue;
         }
         if (!isFirst) {
@@ -84,7 +99,7 @@ void StopPlacement::replaceHints() {
         if (share < hair || share > 1 - hair) { // a hard edge, exactly
             hint.color = share < 0.5 ? after.color : before.color;
         } else if (std::abs(share - 0.5) > hair) {
-            hint.color = mixed(*before.color, *after.color, 0.5);
+            hint.color = mixed(*before.color, *after.color, 0.5, StopMixing::Premultiplied);
             standsForHints_ = true;
         }
     }
@@ -92,13 +107,13 @@ void StopPlacement::replaceHints() {
 }
 
 // To 0 ... 1, with the colours that the gradient has at both ends.
-void StopPlacement::cut() {
+void StopPlacement::cut(StopMixing mixing) {
     const auto isInsideStop = [](const Stop& stop) { return isInside(stop.drawn); };
     const auto begin = std::ranges::find_if(stops_, [](const Stop& stop) { return stop.drawn >= 0.0; });
     const auto end = std::find_if(begin, stops_.end(), [](const Stop& stop) { return stop.drawn > 1.0; });
-    const auto stopAt = [](const Stop& before, const Stop& after, double position) {
+    const auto stopAt = [mixing](const Stop& before, const Stop& after, double position) {
         const double way = (position - before.drawn) / (after.drawn - before.drawn);
-        return Stop{position, position, mixed(*before.color, *after.color, way)};
+        return Stop{position, position, mixed(*before.color, *after.color, way, mixing)};
     };
     std::vector<Stop> inside;
     if (begin == stops_.end()) {
@@ -124,7 +139,7 @@ std::vector<ColorStop> StopPlacement::stops(bool turned) const {
     stops.reserve(stops_.size());
     for (const Stop& stop : stops_) {
         const bool asWritten = !isCut_ && isInside(stop.written);
-        const double position = turned ? 1 - stop.drawn : asWritten ? stop.written : stop.drawn;
+        const double position = turned ? tidied(1 - stop.drawn) : asWritten ? stop.written : stop.drawn;
         stops.push_back({position, stop.color->color, stop.color->alpha});
     }
     if (turned) {
@@ -139,7 +154,7 @@ std::vector<std::string> StopPlacement::notes() const {
         notes.emplace_back("color hint taken as a stop");
     }
     if (isCut_) {
-        notes.emplace_back("stops outside 0 to 100% cut off");
+        notes.emplace_back("cut at the edges");
     }
     return notes;
 }

@@ -15,12 +15,23 @@ struct WrittenStop {
     std::optional<double> position{}; ///< of the gradient's length, may lie outside 0 ... 1; none: left out
 };
 
+/// Where the positions 0 and 1 of a text come to lie in the gradient; the start lies before the end.
+struct StopTrack {
+    double start = 0.0;
+    double end = 1.0;
+
+    bool operator==(const StopTrack&) const = default;
+};
+
+/// How the colours between two stops are found: by their opacity, as CSS does, or as they are, as SVG does.
+enum class StopMixing { Premultiplied, Plain };
+
 /// Where the stops of a gradient are, as a browser finds it: positions that are left out are spread, one
 /// below an earlier one is drawn at that one. Stands in for what a gradient here cannot say.
 class StopPlacement {
   public:
     /// At least one stop; the first and the last are no hints, and no two hints follow each other.
-    explicit StopPlacement(std::span<const WrittenStop> written);
+    StopPlacement(std::span<const WrittenStop> written, StopTrack track, StopMixing mixing);
 
     /// Whether the stops reach from one end to the other.
     bool coversAll() const;
@@ -38,10 +49,10 @@ class StopPlacement {
         std::optional<ReadColor> color;
     };
 
-    void place(std::span<const WrittenStop> written);
+    void place(std::span<const WrittenStop> written, StopTrack track);
     void spread(std::size_t begin, std::size_t end);
     void replaceHints();
-    void cut();
+    void cut(StopMixing mixing);
 
     std::vector<Stop> stops_;
     bool isCut_ = false;

@@ -49,19 +49,13 @@ std::optional<SvgDisc> svgDisc(const SvgGradient& gradient, Size viewport) {
     SvgDisc disc;
     disc.isPoint = radius == 0.0;
     const Size axes = halfAxes(map);
-    const auto tell = [&disc](bool isOther, const char* note) {
-        if (isOther) {
-            disc.notes.emplace_back(note);
-        }
-    };
-    tell(isInUserSpace, "lengths taken in proportion");
-    tell(!isSame(axes.height / axes.width, 1.0), "ellipse taken as the box has it");
-    tell(!isInUserSpace && !isSame(std::sqrt(axes.width * axes.height) * radius, std::numbers::sqrt2 / 2),
-         "size taken as to the corners");
-    tell(!isInUserSpace && !isSame(map(center), {0.5, 0.5}), "center moved to the middle");
-    tell(!isSame({(focus.x - center.x) / radius, (focus.y - center.y) / radius}, {}) ||
-             !isSame(inner / radius, 0.0),
-         "focus moved to the center");
+    disc.isEllipse = !isSame(axes.height / axes.width, 1.0);
+    if (!isInUserSpace) {
+        disc.hasOtherSize = !isSame(std::sqrt(axes.width * axes.height) * radius, std::numbers::sqrt2 / 2);
+        disc.hasOtherCenter = !isSame(map(center), {0.5, 0.5});
+    }
+    disc.hasFocus = !isSame({(focus.x - center.x) / radius, (focus.y - center.y) / radius}, {}) ||
+                    !isSame(inner / radius, 0.0);
     return disc;
 }
 

@@ -4,8 +4,6 @@
 #include "foundation/Geometry.h"
 
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace tessaly {
 
@@ -13,7 +11,10 @@ namespace tessaly {
 /// middle of the box, its last color on the corners.
 struct SvgDisc {
     bool isPoint = false; ///< it has no extent: the color of the last stop is everywhere
-    std::vector<std::string> notes;
+    bool isEllipse = false;
+    bool hasOtherSize = false;
+    bool hasOtherCenter = false;
+    bool hasFocus = false; ///< beside the center, or wider than a point
 };
 
 /// None: the gradient's transform flattens everything, and nothing is painted. In user space the box is not

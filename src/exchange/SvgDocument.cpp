@@ -137,8 +137,7 @@ void SvgDocument::addStop(const XmlAttributes& attributes) {
     }
     const SvgStopStyle style = styleOf(attributes, styles_);
     const double offset = svgLength(valueOr(attributes, "offset")).value_or(SvgLength{}).value;
-    stops_.push_back(
-        {{std::clamp(offset, 0.0, 1.0), style.color().color, style.opacity()}, style.color().clipped});
+    stops_.push_back({style.color(), std::clamp(offset, 0.0, 1.0)});
     ++gradient.stopCount;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "exchange/CssColor.h"
 #include "exchange/SvgTransform.h"
 #include "exchange/SvgValue.h"
-#include "model/ColorStop.h"
 
 #include <array>
 #include <cstddef>
@@ -13,9 +13,9 @@ namespace tessaly {
 
 /// A stop as it stands in the document.
 struct SvgStop {
-    ColorStop stop;         ///< position 0 ... 1, not yet in order
-    bool isClipped = false; ///< its color was outside sRGB
-    bool isHelped = false;  ///< a stop that only helps the mixing stood between it and the next one
+    ReadColor color;       ///< with the opacity of the stop
+    double position = 0.0; ///< 0 ... 1, not yet in order
+    bool isHelped = false; ///< a stop that only helps the mixing stood between it and the next one
 };
 
 /// A gradient element: what is written there, or comes from the one that it refers to.

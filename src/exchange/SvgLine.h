@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exchange/GradientLine.h"
 #include "exchange/SvgGradient.h"
 #include "foundation/Geometry.h"
 
@@ -7,11 +8,9 @@
 
 namespace tessaly {
 
-/// How a linear gradient of SVG lies in a square box, as CSS would say it.
+/// How a linear gradient of SVG lies in a square box.
 struct SvgLine {
-    double angle = 90.0; ///< 0 ... 360 degrees, 0 upwards, clockwise
-    double start = 0.0;  ///< the offsets 0 and 1 as positions between the corners that the angle points to
-    double end = 1.0;
+    GradientLine line;
     bool isPoint = false; ///< it has no length: the color of the last stop is everywhere
 };
 

@@ -30,10 +30,10 @@ class SvgStopStyle {
     /// Takes what another one declares, with that weight on top of its ranks.
     void merge(const SvgStopStyle& other, Weight weight);
 
-    const ReadColor& color() const { return color_.value; }
-
-    /// Of the color and of `stop-opacity` together, 0 ... 1.
-    double opacity() const { return color_.value.alpha * opacity_.value; }
+    /// With `stop-opacity` in its alpha.
+    ReadColor color() const {
+        return {color_.value.color, color_.value.alpha * opacity_.value, color_.value.clipped};
+    }
 
   private:
     template <typename Value>

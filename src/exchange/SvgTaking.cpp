@@ -1,66 +1,52 @@
 #include "exchange/SvgTaking.h"
 
-#include "exchange/SvgDirection.h"
+#include "exchange/GradientDraft.h"
 #include "exchange/SvgDisc.h"
 #include "exchange/SvgLine.h"
 #include "exchange/SvgStops.h"
-#include "model/Orientation.h"
 
 #include <algorithm>
 
 namespace tessaly {
 namespace {
 
-using Notes = std::vector<std::string>;
+enum class Extent { Nothing, Point, Whole };
 
-// All that is seen is the last color.
-void keepLast(std::vector<SvgStop>& stops, Notes& notes) {
-    if (stops.size() > 1) {
-        stops.erase(stops.begin(), stops.end() - 1);
-        notes.emplace_back("no length, its last color taken");
+Extent takeLine(const SvgGradient& gradient, Size viewport, GradientDraft& draft) {
+    const std::optional<SvgLine> line = svgLine(gradient, viewport);
+    if (!line || line->isPoint) {
+        return line ? Extent::Point : Extent::Nothing;
     }
+    draft.takeLine(line->line);
+    if (gradient.isInUserSpace.value_or(false)) {
+        draft.takeLengths(true);
+    }
+    return Extent::Whole;
 }
 
-// The orientation; none where nothing is painted.
-std::optional<std::int64_t> takeLinear(const SvgGradient& gradient, Size viewport,
-                                       std::vector<SvgStop>& stops, Notes& notes) {
-    const std::optional<SvgLine> line = svgLine(gradient, viewport);
-    if (!line) {
-        return std::nullopt;
-    }
-    if (line->isPoint) {
-        keepLast(stops, notes);
-        return orientation::leftToRight;
-    }
-    const SvgDirection direction = nearestSvgDirection(line->angle);
-    if (!direction.note.empty()) {
-        notes.push_back(direction.note);
+Extent takeDisc(const SvgGradient& gradient, Size viewport, GradientDraft& draft) {
+    draft.orientation = orientation::radial;
+    const std::optional<SvgDisc> disc = svgDisc(gradient, viewport);
+    if (!disc || disc->isPoint) {
+        return disc ? Extent::Point : Extent::Nothing;
     }
     if (gradient.isInUserSpace.value_or(false)) {
-        notes.emplace_back("lengths taken in proportion");
+        draft.takeLengths(true);
     }
-    place(stops, line->start, line->end);
-    if (cutAtEdges(stops)) {
-        notes.emplace_back("cut at the edges");
+    if (disc->isEllipse) {
+        draft.notes.emplace_back("ellipse taken as the box has it");
+        draft.mayEndBefore = true;
     }
-    if (direction.isTurned) {
-        turn(stops);
+    if (disc->hasOtherSize) {
+        draft.takeSize();
     }
-    return direction.orientation;
-}
-
-std::optional<std::int64_t> takeRadial(const SvgGradient& gradient, Size viewport,
-                                       std::vector<SvgStop>& stops, Notes& notes) {
-    const std::optional<SvgDisc> disc = svgDisc(gradient, viewport);
-    if (!disc) {
-        return std::nullopt;
+    if (disc->hasOtherCenter) {
+        draft.takePlace();
     }
-    if (disc->isPoint) {
-        keepLast(stops, notes);
-    } else {
-        notes = disc->notes;
+    if (disc->hasFocus) {
+        draft.notes.emplace_back("focus moved to the center");
     }
-    return orientation::radial;
+    return Extent::Whole;
 }
 
 } // namespace
@@ -70,30 +56,31 @@ std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::s
     if (stops.empty()) {
         return std::nullopt;
     }
-    FoundGradient found;
-    found.name = gradient.id;
-    std::vector<SvgStop> taken = inOrder(stops);
-    const auto take = gradient.isRadial ? takeRadial : takeLinear;
-    const std::optional<std::int64_t> orientation = take(gradient, viewport, taken, found.notes);
-    if (!orientation) {
+    GradientDraft draft;
+    draft.mixing = StopMixing::Plain;
+    draft.repeating = gradient.isRepeated.value_or(false);
+    const auto take = gradient.isRadial ? takeDisc : takeLine;
+    const Extent extent = take(gradient, viewport, draft);
+    if (extent == Extent::Nothing) {
         return std::nullopt;
     }
-    if (gradient.isRepeated.value_or(false)) {
-        found.notes.emplace_back("repeating taken once");
+    std::vector<SvgStop> seen = inOrder(stops);
+    if (extent == Extent::Point && seen.size() > 1) {
+        seen.erase(seen.begin(), seen.end() - 1);
+        draft.notes.emplace_back("no length, its last color taken");
     }
     if (gradient.isMixedLinearly) {
-        found.notes.emplace_back("mixing in linear light taken as in sRGB");
+        draft.takeMixing("linear light");
     }
-    if (isMixingSeen(taken)) {
-        found.notes.emplace_back("opacity mixed as in CSS");
+    if (isMixingSeen(seen, draft.track)) {
+        draft.notes.emplace_back("opacity mixed as in CSS");
     }
-    if (std::ranges::any_of(taken, &SvgStop::isClipped)) {
-        found.notes.emplace_back("colors clipped to sRGB");
-    }
-    std::vector<ColorStop> colors;
-    colors.reserve(taken.size());
-    std::ranges::transform(taken, std::back_inserter(colors), &SvgStop::stop);
-    found.gradient = Gradient{std::move(colors), *orientation};
+    draft.stops.reserve(seen.size());
+    std::ranges::transform(seen, std::back_inserter(draft.stops), [](const SvgStop& stop) {
+        return WrittenStop{stop.color, stop.position};
+    });
+    FoundGradient found = draft.finished();
+    found.name = gradient.id;
     return found;
 }
 

@@ -25,7 +25,7 @@ TEST(Incoming, aTextIsAColorOrHasGradientsOrIsToldOf) {
         {"linear-gradient(red, blue)", "0 #0000ff 0, #ff0000 100"},
         {"<svg xmlns='http://www.w3.org/2000/svg'><radialGradient id='a'><stop/><stop offset='1' "
          "stop-color='red'/></radialGradient></svg>",
-         "a: 4 #000000 0, #ff0000 100 (size taken as to the corners)"},
+         "a: 4 #000000 0, #ff0000 100 (size taken as farthest-corner)"},
         {"color: red", "No gradient in the clipboard"},
         {"", "No gradient in the clipboard"},
         {std::string(longestIncoming + 1, ' '), "More than 16 MB in the clipboard: not read"}};
