@@ -1,5 +1,6 @@
 #include "exchange/CssValue.h"
 
+#include "exchange/CssCharacter.h"
 #include "exchange/CssGradientFunction.h"
 #include "exchange/CssLayers.h"
 #include "exchange/CssName.h"
@@ -47,6 +48,10 @@ bool isBeyondReading(const CssGradientFunction& function, std::string_view text)
     return false;
 }
 
+bool isBlank(std::string_view text) {
+    return std::ranges::all_of(text, isCssBlank);
+}
+
 // Reads a value, gradient by gradient.
 class ValueReader {
   public:
@@ -90,9 +95,13 @@ class ValueReader {
         }
         value_.gradient = {std::move(*found), formOf(function.syntax)};
         place_ = token.begin;
+        isAlone_ = isBlank(text_.substr(0, token.begin)) && isBlank(text_.substr(components.end));
     }
 
     void tellTheRest(FoundGradient& found) const {
+        if (isAlone_) {
+            return; // nearly all
+        }
         const auto isSeenThrough = [](const ColorStop& stop) { return stop.opacity < 1; };
         const bool shows = std::ranges::any_of(found.gradient.stops(), isSeenThrough);
         std::ranges::move(readCssLayers(text_, place_, shows), std::back_inserter(found.notes));
@@ -106,6 +115,7 @@ class ValueReader {
     CssTokenizer tokens_;
     CssValue value_;
     std::size_t place_ = 0; ///< of the gradient that was taken
+    bool isAlone_ = false;  ///< that gradient
     std::size_t count_ = 0;
     bool isWrong_ = false;
 };
