@@ -37,8 +37,8 @@ class PresetStore {
     /// True on success, and deliberately also on a failure that comes without a message.
     bool executeSQL(const std::string& statement);
 
-    /// Fills `rowData` with the query's rows as texts, NULL as an empty one. Always true. Nothing in the program
-    /// asks for rows this way; kept, with `LastError`, for whoever looks into a store at hand.
+    /// Fills `rowData` with the query's rows as texts, NULL as an empty one. Always true. Nothing in the
+    /// program asks for rows this way; kept, with `LastError`, for whoever looks into a store at hand.
     bool executeSQL(const std::string& query, std::vector<std::vector<std::string>>& rowData);
 
     /// Text of the last error met by `executeSQL`.
