@@ -14,7 +14,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMimeData>
-#include <QTimer>
 #include <QUrl>
 #include <algorithm>
 
@@ -26,6 +25,14 @@ constexpr std::size_t readAtOnce = std::size_t{256} << 10U; // what takes longer
 const QString svg = QStringLiteral("image/svg+xml");
 
 } // namespace
+
+GradientIntake::GradientIntake(Document& document, MainWindow& window)
+    : document_{document}, window_{window} {
+    constexpr int pause = 100; // milliseconds
+    retry_.setInterval(pause);
+    retry_.setSingleShot(true);
+    connect(&retry_, &QTimer::timeout, this, &GradientIntake::openWaiting);
+}
 
 bool GradientIntake::canTake(const QMimeData& data) {
     return data.hasUrls() || data.hasText() || data.hasFormat(svg);
@@ -69,11 +76,20 @@ void GradientIntake::open() {
 }
 
 void GradientIntake::openFile(const QString& path) {
-    if (QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activeModalWidget() != nullptr) {
-        constexpr int pause = 100; // milliseconds
-        QTimer::singleShot(pause, this, [this, path] { openFile(path); });
+    waiting_ += path;
+    openWaiting();
+}
+
+void GradientIntake::openWaiting() {
+    if (waiting_.isEmpty()) {
         return;
     }
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activeModalWidget() != nullptr) {
+        retry_.start();
+        return;
+    }
+    const QString path = waiting_.takeFirst();
+    retry_.start(); // for the next one
     read([file = std::filesystem::path{path.toStdU16String()}](
              const Progress& progress) { return readIncomingFile(file, progress); },
          static_cast<std::size_t>(QFileInfo{path}.size()), editStep::openGradient);

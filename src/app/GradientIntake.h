@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <functional>
 #include <string_view>
 
@@ -22,7 +23,7 @@ class GradientIntake : public QObject {
 
   public:
     /// Both must outlive the object.
-    GradientIntake(Document& document, MainWindow& window) : document_{document}, window_{window} {}
+    GradientIntake(Document& document, MainWindow& window);
 
     static bool canTake(const QMimeData& data);
 
@@ -34,6 +35,8 @@ class GradientIntake : public QObject {
     void takeTypedColor(const std::string& text);
 
   private:
+    void openWaiting();
+
     using Reader = std::function<Incoming(const Progress& progress)>;
 
     void takeFrom(const QMimeData& data, const QString& source, std::string_view step);
@@ -46,6 +49,8 @@ class GradientIntake : public QObject {
 
     Document& document_;
     MainWindow& window_;
+    QStringList waiting_; ///< files to open
+    QTimer retry_;
 };
 
 } // namespace tessaly

@@ -58,8 +58,9 @@ MainMenu::MainMenu(QWidget* parent) : QMenuBar{parent} {
     QMenu* menu = nullptr;
     const char* opened = nullptr;
     for (const Item& item : items) {
-        if (std::exchange(opened, item.menu) != item.menu) {
+        if (menu == nullptr || opened != item.menu) {
             menu = addMenu(tr(item.menu));
+            opened = item.menu;
         } else if (item.separated) {
             menu->addSeparator();
         }

@@ -151,7 +151,7 @@ bool CssFinder::readDeclaration(std::string_view value) {
         return found_.add(std::move(found));
     }
     OpenRule& rule = rules_.back();
-    found.name = ruleName();
+    found.name = item_.isCustomProperty() ? nameOf(item_.name) : ruleName();
     return found_.add(rule.gradients, item_.name, read.gradient->form, std::move(found));
 }
 

@@ -76,6 +76,22 @@ bool isSvg(std::string_view text) {
     return name.substr(name.find(':') + 1) == "svg";
 }
 
+// For a line of the window, whatever a text has in its place.
+void shorten(std::string& text) {
+    constexpr std::size_t most = 120;
+    text = utf8Prefix(text, most);
+    std::ranges::replace_if(
+        text, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+}
+
+Reading shortened(Reading reading) {
+    for (FoundGradient& found : reading.gradients) {
+        shorten(found.name);
+        std::ranges::for_each(found.notes, shorten);
+    }
+    return reading;
+}
+
 } // namespace
 
 Reading readGradients(std::string_view text, const Progress& progress) {
@@ -83,10 +99,11 @@ Reading readGradients(std::string_view text, const Progress& progress) {
     text = converted ? std::string_view{*converted} : text;
     if (isSvg(text)) {
         if (auto reading = readSvgGradients(text, progress)) {
-            return std::move(*reading);
+            return shortened(std::move(*reading));
         }
     }
-    return readCssGradients(text, progress); // also of a picture in the middle of a page, or with CSS alone
+    return shortened(
+        readCssGradients(text, progress)); // also of a picture in the middle of a page, or with CSS alone
 }
 
 } // namespace tessaly

@@ -60,20 +60,33 @@ void characters(void* parser, const XML_Char* text, int length) {
     handlerOf(parser).characters({text, static_cast<std::size_t>(length)});
 }
 
-// A few lines of entities can stand for gigabytes of text.
 void refuse(void* parser, const XML_Char*, int, const XML_Char*, int, const XML_Char*, const XML_Char*,
             const XML_Char*, const XML_Char*) {
     XML_StopParser(static_cast<XML_Parser>(parser), XML_FALSE);
 }
 
-Parser makeParser(const char* encoding, XmlHandler& handler) {
+// A few lines of entities can stand for gigabytes of text, so only such are let in as drawing programs write:
+// short, and without others in them.
+void refuseUnlessShort(void* parser, const XML_Char*, int isParameter, const XML_Char* value, int length,
+                       const XML_Char*, const XML_Char*, const XML_Char*, const XML_Char*) {
+    constexpr std::size_t most = 64; // an address
+    const std::string_view text{value == nullptr ? "&" : value,
+                                value == nullptr ? 1 : static_cast<std::size_t>(length)};
+    if (isParameter != 0 || text.size() > most || text.find('&') != std::string_view::npos) {
+        XML_StopParser(static_cast<XML_Parser>(parser), XML_FALSE);
+    }
+}
+
+constexpr std::size_t mostWithEntities = std::size_t{1} << 20U;
+
+Parser makeParser(const char* encoding, bool isLong, XmlHandler& handler) {
     Parser parser{XML_ParserCreate(encoding)};
     if (parser) {
         XML_SetUserData(parser.get(), &handler);
         XML_UseParserAsHandlerArg(parser.get());
         XML_SetElementHandler(parser.get(), start, end);
         XML_SetCharacterDataHandler(parser.get(), characters);
-        XML_SetEntityDeclHandler(parser.get(), refuse);
+        XML_SetEntityDeclHandler(parser.get(), isLong ? refuse : refuseUnlessShort);
     }
     return parser;
 }
@@ -83,7 +96,7 @@ Parser makeParser(const char* encoding, XmlHandler& handler) {
 XmlEnd readXml(std::string_view text, XmlHandler& handler, const Progress& progress) {
     const bool isWhole = text.size() <= longestXml;
     text = withoutMargin(text.substr(0, longestXml));
-    const Parser parser = makeParser(encodingOf(text), handler);
+    const Parser parser = makeParser(encodingOf(text), text.size() > mostWithEntities, handler);
     std::size_t read = 0;
     while (parser && read < text.size()) {
         const std::string_view piece = text.substr(read, pieceSize);

@@ -3,6 +3,7 @@
 #include "model/EditStep.h"
 #include "presets/SqliteConnection.h"
 #include "support/FakeControls.h"
+#include "support/FileSizeLimit.h"
 #include "support/LogCapture.h"
 #include "support/PresetProgram.h"
 #include "support/TemporaryFolder.h"
@@ -264,6 +265,31 @@ TEST_F(DocumentTest, oneActionIsOneStepAndNothingIsNone) {
     history().redo();
     EXPECT_EQ(document.gallery().presetGradient().size(), 1U);
     EXPECT_GT(surface.paints, paints);
+}
+
+TEST_F(DocumentTest, asksTheStoreForChangedPresetsAloneAndKeepsItsStepsWhenThatFails) {
+    document.gallery().addGradientIntoPreset();
+    drag(markerAt(1), 20);
+    const std::string stored = content().rows;
+    const auto statements = [this] {
+        return std::ranges::count_if(log.messages,
+                                     [](const auto& line) { return line.starts_with("sql: "); });
+    };
+    const auto before = statements();
+    history().undo();
+    EXPECT_EQ(statements(), before);
+    {
+        const auto full = limitFileSize(0);
+        history().undo();
+        EXPECT_GT(statements(), before);
+        EXPECT_EQ(content().rows, stored) << "the file as it was";
+        EXPECT_EQ(document.gallery().presetGradient().size(), 0U);
+    }
+    EXPECT_EQ(history().stepCount(), 2U);
+    history().redo();
+    history().redo();
+    EXPECT_EQ(history().undoName(), "Move Stop");
+    EXPECT_EQ(content().rows, stored);
 }
 
 } // namespace

@@ -44,7 +44,7 @@ TEST(CssFinder, findsWhatIsInAStylesheet) {
         {".a { color: red; &:hover { background: AB } @media print { background: CD } }",
          "&:hover: AB\n.a: CD"},
         {".a { b:hover { background: AB } background: CD; }", "b:hover: AB\n.a: CD"},
-        {":root { --x: AB; --y: { background: CD }; --X: CD }", ":root: AB\n:root: CD\n:root: CD"},
+        {":root { --x: AB; --y: { background: CD }; --X: CD }", "--x: AB\n--y: CD\n--X: CD"},
         {"a { background: AB; } /* b { background: CD; } */ c { content: 'CD' } d { background: url(CD) }",
          "a: AB"},
         {"a { background: AB, CD }", "a: AB (1 more gradient left out)"},
