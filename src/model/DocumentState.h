@@ -1,15 +1,12 @@
 #pragma once
 
-#include "model/GlobalData.h"
+#include "model/ColorFormat.h"
+#include "model/GradientList.h"
 
 #include <cstdint>
 #include <memory>
-#include <vector>
 
 namespace tessaly {
-
-/// Gradients that no list changes, so that lists share them.
-using GradientList = std::vector<std::shared_ptr<const Gradient>>;
 
 /// Everything that the user can change, at one moment. What did not change since another moment is shared
 /// with the state of that.

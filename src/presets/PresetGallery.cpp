@@ -3,6 +3,7 @@
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 #include "model/EditStep.h"
+#include "model/History.h"
 #include "presets/PresetGalleryView.h"
 
 #include <algorithm>

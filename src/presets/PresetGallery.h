@@ -1,16 +1,16 @@
 #pragma once
 
-#include "model/History.h"
+#include "model/GradientList.h"
 #include "presets/PresetSlotGeometry.h"
 
 #include <cstddef>
 #include <functional>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace tessaly {
 
+class History;
 class PresetGalleryView;
 
 /// The list of presets and the layout of their thumbnails: adds the gradient being edited, applies a preset
