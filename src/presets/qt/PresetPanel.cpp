@@ -61,7 +61,7 @@ PresetPanel::PresetPanel(QWidget* parent)
 
 void PresetPanel::connectTo(PresetGallery& gallery) {
     presetGradienContainerView_->setGallery(&gallery);
-    connect(addButton_, &QPushButton::clicked, this, [this, &gallery] { gallery.addGradientIntoPreset(); });
+    connect(addButton_, &QPushButton::clicked, this, [&gallery] { gallery.addGradientIntoPreset(); });
 }
 
 double PresetPanel::scrollViewHeight() const {
