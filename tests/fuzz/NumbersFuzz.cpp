@@ -4,6 +4,7 @@
 #include "canvas/NumberFormatter.h"
 #include "support/FakeControls.h"
 #include "support/Gradients.h"
+#include "support/NoHistory.h"
 
 using namespace tessaly;
 
@@ -13,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     GlobalData record = defaultRecord();
     FakeControls controls;
     ColorMarkers markers{record.gradient};
-    StopControls form{controls.set, record, markers, [] {}, [] {}};
+    NoHistory history;
+    StopControls form{controls.set, record, markers, history, [] {}, [] {}};
     form.showSelectedStop();
     while (input.remaining_bytes() > 0) {
         const auto& [value, name, decimal, maximum, step] = input.PickValueInArray(stopValues);
