@@ -14,8 +14,7 @@ namespace tessaly {
 class BoxPage {
   public:
     static constexpr int side = 101; ///< of a box, in pixels
-    static constexpr std::size_t columns = 12;
-    static constexpr std::size_t mostBoxes = columns * 9;
+    static constexpr std::size_t mostBoxes = 108;
 
     /// What can be seen of a box; none: the engine refuses its value.
     using Picture = std::optional<QImage>;
