@@ -8,15 +8,16 @@
 
 using namespace tessaly;
 
-// The presets of a database, told by what is not clamped; none where they cannot be read to the end.
+// The presets of a database, told by what is not clamped; none where they cannot be read to the end. An index that
+// the check does not compare with its table is not asked.
 static std::optional<std::string> presetsIn(const std::filesystem::path& file) {
     const SqliteConnection database = SqliteConnection::open(file);
     database.execute("create table if not exists MainTable (mainIndex INTEGER PRIMARY KEY, orientationType)");
     database.execute("create table if not exists AdditionalTable (mainIndex, position, opacity)");
     const auto presets = database.value("select group_concat(printf('%d %f %f', orientationType & "
                                         "4294967295, position, opacity)) from (select *"
-                                        " from MainTable m left join AdditionalTable a on a.mainIndex = "
-                                        "m.mainIndex order by m.rowid, a.rowid)");
+                                        " from MainTable m left join AdditionalTable a not indexed on "
+                                        "a.mainIndex = m.mainIndex order by m.rowid, a.rowid)");
     return database.value("pragma quick_check(1)") == "ok" ? presets : std::nullopt;
 }
 

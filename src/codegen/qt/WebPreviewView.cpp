@@ -6,13 +6,14 @@
 #include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
+#include <utility>
 
 namespace tessaly {
 
 using Clock = std::chrono::steady_clock;
 
-WebPreviewView::WebPreviewView(const QString& module, QWidget* parent)
-    : QWidget{parent}, modulePath_{module}, layers_{new QGridLayout{this}}, cover_{new QLabel} {
+WebPreviewView::WebPreviewView(QString module, QWidget* parent)
+    : QWidget{parent}, modulePath_{std::move(module)}, layers_{new QGridLayout{this}}, cover_{new QLabel} {
     setAccessibleName(tr("Web preview"));
     cover_->setAutoFillBackground(true);
     cover_->setBackgroundRole(QPalette::Base);

@@ -24,7 +24,7 @@ class WebPreviewView : public QWidget, public WebView {
 
   public:
     /// `module` is the file of the engine's module.
-    explicit WebPreviewView(const QString& module = installedPreviewModule(), QWidget* parent = nullptr);
+    explicit WebPreviewView(QString module = installedPreviewModule(), QWidget* parent = nullptr);
     WebPreviewView(const WebPreviewView&) = delete;
     WebPreviewView& operator=(const WebPreviewView&) = delete;
     ~WebPreviewView() override;
