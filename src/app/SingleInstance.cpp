@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDataStream>
 #include <QDeadlineTimer>
 #include <QLocalSocket>
 #include <QStandardPaths>
@@ -12,7 +13,7 @@ namespace tessaly {
 namespace {
 
 // In milliseconds, with a copy that does not answer.
-constexpr int patience = 5'000;
+constexpr int patience = 2'000;
 constexpr int pause = 100;
 
 // In the user's private folder for sockets; short, since the path of a socket has little room.
@@ -23,30 +24,18 @@ QString pathFor(const QString& folder, const char* ending) {
            QString::fromLatin1(hash) + QString::fromLatin1(ending);
 }
 
-constexpr char separator = '\0'; // the one character that no path has
+constexpr char answer = '\n'; // anything: it says that the event loop there runs
 
-bool tellFirst(const QString& socketPath, const QStringList& files) {
+bool tellFirst(const QString& socketPath, const QStringList& files, const QDeadlineTimer& end) {
+    const auto left = [&end] { return static_cast<int>(end.remainingTime()); };
     QLocalSocket first;
     first.connectToServer(socketPath);
-    if (!first.waitForConnected(patience)) {
+    if (!first.waitForConnected(left())) {
         return false;
     }
-    for (const QString& file : files) {
-        first.write(file.toUtf8() + separator);
-    }
-    while (first.bytesToWrite() > 0 && first.waitForBytesWritten(patience)) {
-    }
-    return true;
-}
-
-QStringList filesIn(const QByteArray& told) {
-    QStringList files;
-    for (const QByteArray& file : told.split(separator)) {
-        if (!file.isEmpty()) {
-            files += QString::fromUtf8(file);
-        }
-    }
-    return files;
+    QDataStream message{&first};
+    message << files;
+    return first.waitForReadyRead(left());
 }
 
 } // namespace
@@ -59,15 +48,14 @@ SingleInstance::SingleInstance(const QString& folder, const QStringList& files, 
     const QString socketPath = pathFor(folder, ".socket");
     // A copy that does not answer is closing, or has started just now.
     const QDeadlineTimer end{patience};
-    while (!first_ && !tellFirst(socketPath, files)) {
-        if (end.hasExpired()) {
-            DiagnosticLog::write("Another copy runs but does not answer");
-            break;
-        }
-        first_ = lock_.tryLock(pause);
+    while (!first_ && !heard_ && !end.hasExpired()) {
+        heard_ = tellFirst(socketPath, files, end);
+        first_ = !heard_ && lock_.tryLock(pause);
     }
     if (first_) {
         listen(socketPath);
+    } else if (!heard_) {
+        DiagnosticLog::write("Another copy runs but does not answer");
     }
 }
 
@@ -77,15 +65,9 @@ void SingleInstance::listen(const QString& socketPath) {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* const caller = server_.nextPendingConnection()) {
-            const auto heard = [this, caller] {
-                Q_EMIT startedAgain(filesIn(caller->readAll()));
-                caller->deleteLater();
-            };
-            if (caller->state() == QLocalSocket::UnconnectedState) {
-                heard();
-            } else {
-                connect(caller, &QLocalSocket::disconnected, this, heard);
-            }
+            connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
+            connect(caller, &QLocalSocket::readyRead, this, [this, caller] { hear(*caller); });
+            hear(*caller); // what is there already
         }
     });
     // From then on a new start waits for the lock instead of asking in vain.
@@ -95,4 +77,17 @@ void SingleInstance::listen(const QString& socketPath) {
                              server_.errorString().toStdString());
     }
 }
+
+void SingleInstance::hear(QLocalSocket& caller) {
+    QStringList files;
+    QDataStream message{&caller};
+    message.startTransaction();
+    message >> files;
+    if (message.commitTransaction()) { // else the rest is still to come
+        caller.write(&answer, 1);
+        caller.flush();
+        Q_EMIT startedAgain(files);
+    }
+}
+
 } // namespace tessaly

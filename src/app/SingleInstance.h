@@ -14,11 +14,14 @@ class SingleInstance : public QObject {
 
   public:
     /// `folder` is what must not be worked on twice. A copy that was killed does not count, and one that is
-    /// closing is waited for. The one that runs is handed the paths of `files`.
+    /// closing is waited for, for two seconds at most. The one that runs is handed the paths of `files`.
     explicit SingleInstance(const QString& folder, const QStringList& files = {}, QObject* parent = nullptr);
 
-    /// False when another copy runs; it has been told.
+    /// False when another copy runs.
     bool isFirst() const { return first_; }
+
+    /// Whether that copy has answered.
+    bool wasHeard() const { return heard_; }
 
   Q_SIGNALS:
     /// Another copy was started, and ends in favour of this one; with files to open.
@@ -26,10 +29,12 @@ class SingleInstance : public QObject {
 
   private:
     void listen(const QString& socketPath);
+    void hear(QLocalSocket& caller);
 
     QLockFile lock_;
     QLocalServer server_;
     bool first_;
+    bool heard_ = false;
 };
 
 } // namespace tessaly

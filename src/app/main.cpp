@@ -1,5 +1,6 @@
 #include "app/FontConfiguration.h"
 #include "app/MainWindow.h"
+#include "app/ProcessSetup.h"
 #include "app/QuitOnSignal.h"
 #include "app/SingleInstance.h"
 #include "app/Tessaly.h"
@@ -13,8 +14,8 @@
 #include <QDir>
 #include <QStandardPaths>
 #include <clocale>
-#include <csignal>
 #include <cstddef>
+#include <cstdlib>
 #include <span>
 
 namespace tessaly {
@@ -85,7 +86,7 @@ void showAgain(QWidget& window) {
 
 int main(int argc, char** argv) {
     using namespace tessaly;
-    std::signal(SIGPIPE, SIG_IGN); // a log that nobody reads any more must not end the program
+    setUpProcess();
     QApplication::setApplicationName(toQString(product::name));
     QApplication::setApplicationVersion(toQString(product::version()));
     answerCommandLine(argc, argv);
@@ -96,7 +97,7 @@ int main(int argc, char** argv) {
     const QStringList files = filesToOpen();
     const SingleInstance instance{applicationSupport(), files};
     if (!instance.isFirst()) {
-        return 0;
+        return instance.wasHeard() ? EXIT_SUCCESS : EXIT_FAILURE;
     }
     const QuitOnSignal quitOnSignal;
 
