@@ -8,8 +8,8 @@
 
 using namespace tessaly;
 
-// The presets of a database, told by what is not clamped; none where they cannot be read to the end. An index that
-// the check does not compare with its table is not asked.
+// The presets of a database, told by what is not clamped; none where they cannot be read to the end. An index
+// that the check does not compare with its table is not asked.
 static std::optional<std::string> presetsIn(const std::filesystem::path& file) {
     const SqliteConnection database = SqliteConnection::open(file);
     database.execute("create table if not exists MainTable (mainIndex INTEGER PRIMARY KEY, orientationType)");
