@@ -3,15 +3,13 @@
 #include "foundation/qt/KeptKeys.h"
 #include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
-#include "sourceview/qt/CodeDocumentLayout.h"
-#include "sourceview/qt/ExactText.h"
+#include "sourceview/qt/CodeDocument.h"
 
 #include <QDragEnterEvent>
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -34,51 +32,32 @@ double bandStrength(const QColor& background) {
 
 } // namespace
 
-CustomTextView::CustomTextView(QWidget* parent) : QPlainTextEdit{parent} {
-    auto* const code = new QTextDocument{this};
-    code->setDocumentLayout(new CodeDocumentLayout{code});
-    setDocument(code);
+CustomTextView::CustomTextView(QWidget* parent) : QPlainTextEdit{parent}, code_{new CodeDocument{this}} {
+    setDocument(code_);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    code->setDefaultFont(font());
+    code_->setDefaultFont(font());
     setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(QLatin1Char{' '}));
     setInputMethodHints(Qt::ImhMultiLine | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
-    connect(document(), &QTextDocument::contentsChange, this, &CustomTextView::noteChange);
-    connect(document(), &QTextDocument::contentsChanged, this, &CustomTextView::reportEdits);
+    connect(code_, &CodeDocument::wrappingAdvised, this, &CustomTextView::setWrapping);
+    connect(code_, &QTextDocument::contentsChanged, this, &CustomTextView::reportEdits);
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CustomTextView::redisplay);
     connect(this, &QPlainTextEdit::selectionChanged, this, &CustomTextView::redisplay);
     connect(this, &QPlainTextEdit::textChanged, this, &CustomTextView::redisplay);
 }
 
 void CustomTextView::replaceCharacters(TextRange range, std::u16string_view text) {
-    const std::size_t location = std::min(range.location, length());
-    const std::u16string stored = storedText(text);
-    TextEdit edit = TextEdit::between(this->text().substr(location, range.length), stored);
+    const QTextCursor before = textCursor();
+    const std::pair ends{before.anchor(), before.position()}; // the cursor itself would move with the edit
+    const std::pair scroll{horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    const TextEdit edit = code_->replace(range, text);
     if (edit.isNone()) {
         return;
     }
-    const auto added = std::u16string_view{stored}.substr(edit.position, edit.added);
-    edit.position += location;
-    replaceUnrecorded(edit, added);
-}
-
-void CustomTextView::replaceUnrecorded(const TextEdit& edit, std::u16string_view added) {
     const auto mapped = [&](int offset) {
         return static_cast<int>(edit.mapped(static_cast<std::size_t>(offset)));
     };
-    const int anchor = mapped(textCursor().anchor());
-    const int caret = mapped(textCursor().position());
-    const std::pair scroll{horizontalScrollBar()->value(), verticalScrollBar()->value()};
-    {
-        const QScopedValueRollback writing{writing_, true};
-        document()->setUndoRedoEnabled(false);
-        QTextCursor editor{document()};
-        editor.beginEditBlock(); // within one, the toolkit does not lay lines out to see where this cursor is
-        editor.setPosition(static_cast<int>(edit.position));
-        editor.setPosition(static_cast<int>(edit.position + edit.removed), QTextCursor::KeepAnchor);
-        insertInto(editor, added);
-        editor.endEditBlock();
-        document()->setUndoRedoEnabled(true);
-    }
+    const int anchor = mapped(ends.first);
+    const int caret = mapped(ends.second);
     QTextCursor cursor = textCursor();
     if (cursor.anchor() != anchor || cursor.position() != caret) {
         cursor.setPosition(anchor);
@@ -90,9 +69,9 @@ void CustomTextView::replaceUnrecorded(const TextEdit& edit, std::u16string_view
 }
 
 void CustomTextView::typeOver(std::u16string_view text) {
-    QTextCursor cursor{document()};
+    QTextCursor cursor{code_};
     cursor.select(QTextCursor::Document);
-    insertInto(cursor, text);
+    code_->type(cursor, text);
 }
 
 TextRange CustomTextView::selection() const {
@@ -100,45 +79,10 @@ TextRange CustomTextView::selection() const {
     return {start, static_cast<std::size_t>(textCursor().selectionEnd()) - start};
 }
 
-QString CustomTextView::rawText(std::size_t position, std::size_t length) const {
-    QTextCursor reader{document()};
-    reader.setPosition(static_cast<int>(position));
-    reader.setPosition(static_cast<int>(position + length), QTextCursor::KeepAnchor);
-    return reader.selectedText();
-}
-
-// Runs before the change is laid out, which is the time to switch wrapping off. The edits are reported later,
-// when the document is whole again.
-void CustomTextView::noteChange(int position, int removed, int added) {
-    const TextEdit report{static_cast<std::size_t>(position), static_cast<std::size_t>(removed),
-                          static_cast<std::size_t>(added)};
-    const auto newLength = static_cast<std::size_t>(document()->characterCount() - 1);
-    const TextEdit coarse = TextEdit::reported(report, length(), newLength);
-    const TextEdit edit =
-        mirror_.replace(coarse.position, coarse.removed, exactText(rawText(coarse.position, coarse.added)));
-    if (edit.isNone()) {
-        return;
-    }
-    longLines_.textEdited(text(), edit);
-    setWrapping(!longLines_.hasLongLine());
-    if (!writing_) {
-        unreported_ = unreported_ ? unreported_->followedBy(edit) : edit;
-    }
-}
-
 void CustomTextView::reportEdits() {
-    if (const auto edit = std::exchange(unreported_, std::nullopt)) {
+    if (const auto edit = code_->takeUserEdit()) {
         Q_EMIT userEdited(*edit);
     }
-}
-
-// Switches wrapping off first where the text asks for it: afterwards the toolkit would lay it out twice.
-void CustomTextView::insertInto(QTextCursor& cursor, std::u16string_view text) {
-    const std::u16string stored = storedText(text);
-    if (LongLineWatch::hasTooLongLine(stored)) {
-        setWrapping(false);
-    }
-    cursor.insertText(toQString(stored));
 }
 
 // A line too long to be wrapped is also set without the finer points of typography (ligatures, kerning),
@@ -161,7 +105,7 @@ bool CustomTextView::canInsertFromMimeData(const QMimeData* source) const {
 void CustomTextView::insertFromMimeData(const QMimeData* source) {
     if (!isReadOnly() && canInsertFromMimeData(source)) {
         QTextCursor cursor = textCursor();
-        insertInto(cursor, source->text().toStdU16String());
+        code_->type(cursor, source->text().toStdU16String());
         setTextCursor(cursor); // Up and Down go on from the column that it is in now
     }
 }

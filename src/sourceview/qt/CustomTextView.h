@@ -1,9 +1,8 @@
 #pragma once
 
 #include "foundation/TextRange.h"
-#include "sourceview/LongLineWatch.h"
 #include "sourceview/TextLayout.h"
-#include "sourceview/TextMirror.h"
+#include "sourceview/qt/CodeDocument.h"
 
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -14,12 +13,8 @@
 namespace tessaly {
 
 /// An editable view of generated code. A band runs behind the selected lines, and only plain text gets in and
-/// out. Offsets and lengths count UTF-16 units. Lines end with LF whatever ended them in the text put in; all
-/// other characters stay exactly as they are.
-///
-/// What the program writes into the view is no undo step: it ends the undo history instead, since the toolkit
-/// has no edit that bypasses it. Long lines wrap at the view's width while none is longer than
-/// `LongLineWatch::longestWrapped`.
+/// out. Offsets and lengths count UTF-16 units. What the program writes into the view ends the undo history.
+/// Long lines wrap at the view's width while none is longer than `LongLineWatch::longestWrapped`.
 class CustomTextView : public QPlainTextEdit, public TextLayout {
     Q_OBJECT
 
@@ -31,7 +26,7 @@ class CustomTextView : public QPlainTextEdit, public TextLayout {
     static constexpr std::int64_t currentInsertionPoint = -31;
 
     /// The whole text; valid until it changes.
-    std::u16string_view text() const { return mirror_.text(); }
+    std::u16string_view text() const { return code_->text(); }
     std::size_t length() const { return text().size(); }
 
     /// Replaces a range; what of it lies outside the text is ignored. Only the part that differs is touched,
@@ -73,21 +68,14 @@ class CustomTextView : public QPlainTextEdit, public TextLayout {
     QMimeData* createMimeDataFromSelection() const override;
 
   private:
-    void noteChange(int position, int removed, int added);
     void reportEdits();
-    void insertInto(QTextCursor& cursor, std::u16string_view text);
     void setWrapping(bool wrapping);
     void placeRuler();
-    void replaceUnrecorded(const TextEdit& edit, std::u16string_view added);
     bool leave(bool forwards);
-    QString rawText(std::size_t position, std::size_t length) const;
     QRectF rowRectangle(std::size_t offset) const;
     void drawViewBackgroundInRect(const QRectF& rectangle);
 
-    TextMirror mirror_;
-    LongLineWatch longLines_;
-    std::optional<TextEdit> unreported_; ///< all edits since the last report, as one
-    bool writing_ = false;               // the program is changing the text
+    CodeDocument* code_;
     QPointer<QWidget> ruler_;
 };
 
