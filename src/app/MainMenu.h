@@ -19,7 +19,12 @@ enum class Command {
     CopyStylesheet,
     PasteGradient,
     AddStop,
+    AddStopInBetween,
+    DuplicateStop,
     DeleteStop,
+    Reverse,
+    DistributeEvenly,
+    SortStops,
     WriteStylesheetAnew,
     About,
     Homepage,
@@ -43,9 +48,10 @@ class MainMenu : public QMenuBar {
     /// Names the step that "Undo" or "Redo" would take; without one the command is disabled.
     void setStep(Command command, std::string_view step);
 
-  private:
+    /// For another menu that offers the command too.
     QAction& actionOf(Command command) { return *actions_[static_cast<std::size_t>(command)]; }
 
+  private:
     std::array<QAction*, commandCount> actions_{};
 };
 

@@ -21,13 +21,27 @@
 #include "sourceview/qt/SourceView.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <array>
 #include <functional>
 #include <utility>
 
 namespace tessaly {
 namespace {
+
+struct ToolCommand {
+    Command command;
+    StopTool tool;
+};
+
+constexpr std::array<ToolCommand, allStopTools.size()> toolCommands{
+    {{Command::AddStopInBetween, StopTool::AddInBetween},
+     {Command::DuplicateStop, StopTool::Duplicate},
+     {Command::Reverse, StopTool::Reverse},
+     {Command::DistributeEvenly, StopTool::Distribute},
+     {Command::SortStops, StopTool::Sort}}};
 
 // Made when first shown, then kept.
 template <typename Dialog>
@@ -105,6 +119,12 @@ void Tessaly::answerMenu() {
     on(Command::PasteGradient, [this] { intake_.paste(); });
     on(Command::AddStop, [this] { document_.editor().interaction().addBesideSelected(); });
     on(Command::DeleteStop, [this] { document_.editor().interaction().deleteColorMarker(); });
+    views.canvas->markerMenu().addSeparator();
+    for (const ToolCommand& entry : toolCommands) {
+        on(entry.command, [this, tool = entry.tool] { document_.use(tool); });
+        views.canvas->markerMenu().addAction(&views.menu->actionOf(entry.command));
+    }
+    connect(&views.canvas->markerMenu(), &QMenu::aboutToShow, this, &Tessaly::updateMenu);
     on(Command::WriteStylesheetAnew, [this] { writeCodeAnew(); });
 }
 
@@ -137,6 +157,9 @@ void Tessaly::updateMenu() {
     menu.setStep(Command::Undo, document_.history().undoName());
     menu.setStep(Command::Redo, document_.history().redoName());
     menu.setEnabled(Command::DeleteStop, document_.editor().markers().selectedStop().has_value());
+    for (const ToolCommand& entry : toolCommands) {
+        menu.setEnabled(entry.command, document_.canUse(entry.tool));
+    }
 }
 
 void Tessaly::observe() {

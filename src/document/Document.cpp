@@ -51,6 +51,23 @@ void Document::replaceGradient(const Gradient& gradient) {
                                                       std::max<std::int64_t>(last, 0)));
 }
 
+std::optional<StopSelection> Document::madeBy(StopTool tool) const {
+    return appliedTo(record_, editor_.markers().selectedColorMarkerIndex(), tool);
+}
+
+bool Document::canUse(StopTool tool) const {
+    return madeBy(tool).has_value();
+}
+
+void Document::use(StopTool tool) {
+    if (const auto made = madeBy(tool)) {
+        history_.act(nameOf(tool), [&] {
+            record_.gradient = made->gradient;
+            editor_.gradientReplaced(made->selected);
+        });
+    }
+}
+
 bool Document::takeColor(const ReadColor& color) {
     const bool isSelected = editor_.markers().selectedStop().has_value();
     if (isSelected) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvas/GradientEditor.h"
+#include "canvas/StopTools.h"
 #include "exchange/CssColor.h"
 #include "model/GlobalData.h"
 #include "model/History.h"
@@ -50,12 +51,17 @@ class Document {
     /// Edits a gradient that came in, in a notation that can say its opacities.
     void takeGradient(const Gradient& gradient, std::string_view step);
 
+    /// Whether the tool would change something.
+    bool canUse(StopTool tool) const;
+    void use(StopTool tool);
+
     /// Gives the selected stop the colour. False: there is no such stop.
     bool takeColor(const ReadColor& color);
 
     void addToPresets(const std::vector<Gradient>& gradients) { gallery_.addGradientsIntoPreset(gradients); }
 
   private:
+    std::optional<StopSelection> madeBy(StopTool tool) const;
     void replaceGradient(const Gradient& gradient);
     DocumentState state() const;
     void restore(const DocumentState& shown, const DocumentState& wanted);

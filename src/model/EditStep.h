@@ -21,5 +21,10 @@ inline constexpr std::string_view newGradient = "New Gradient";
 inline constexpr std::string_view pasteGradient = "Paste Gradient";
 inline constexpr std::string_view openGradient = "Open Gradient";
 inline constexpr std::string_view addToPresets = "Add to Presets";
+inline constexpr std::string_view addStopInBetween = "Add Stop in Between";
+inline constexpr std::string_view duplicateStop = "Duplicate Stop";
+inline constexpr std::string_view reverse = "Reverse";
+inline constexpr std::string_view distributeEvenly = "Distribute Evenly";
+inline constexpr std::string_view sortStops = "Sort Stops";
 
 } // namespace tessaly::editStep

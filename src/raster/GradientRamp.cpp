@@ -53,6 +53,18 @@ GradientRamp::GradientRamp(std::span<const ColorStop> stops, Opacity opacity,
     segments_.push_back({end, std::numeric_limits<double>::infinity(), color, constant});
 }
 
+RGBAComponents GradientRamp::colorAt(double t) const {
+    const Segment& segment = segmentAt(t);
+    const auto channel = [&](std::size_t index) {
+        return (segment.color[index] - 0.5 + (t - segment.start) * segment.change[index]) / 255.0;
+    };
+    const double alpha = std::clamp(channel(0), 0.0, 1.0);
+    if (alpha <= 0.0) {
+        return {0.0, 0.0, 0.0, 0.0};
+    }
+    return {channel(1) / alpha, channel(2) / alpha, channel(3) / alpha, alpha};
+}
+
 const GradientRamp::Segment& GradientRamp::segmentAt(double t) const {
     const auto segment = std::ranges::upper_bound(segments_, t, {}, &Segment::end);
     return segment == segments_.end() ? segments_.back() : *segment;

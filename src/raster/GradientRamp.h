@@ -25,6 +25,9 @@ class GradientRamp {
     /// The colour at `t` as 0xAARRGGBB, premultiplied, every channel rounded.
     std::uint32_t pixelAt(double t) const { return segmentAt(t).pixelAt(t); }
 
+    /// The same as it is before it is rounded, not premultiplied; all zero where it is transparent.
+    RGBAComponents colorAt(double t) const;
+
     /// A stretch of the ramp between two stops or beyond one.
     struct Segment {
         double start;

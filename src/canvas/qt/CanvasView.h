@@ -25,6 +25,9 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
 
     const CanvasGeometry& geometry() const { return geometry_; }
 
+    /// Of the selected marker.
+    QMenu& markerMenu() { return *popupMenu_; }
+
     void paint(const CanvasScene& scene) override;
 
     QAccessible::Role accessibleListRole() const override { return QAccessible::List; }
