@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QWindow>
 
 namespace tessaly {
 namespace {
@@ -49,7 +50,8 @@ void MessageLine::resizeEvent(QResizeEvent* event) {
 }
 
 bool MessageLine::eventFilter(QObject* watched, QEvent* event) {
-    if (watched->isWindowType() && isNextAction(*event)) { // to widgets the same event may come several times
+    // To widgets the same event may come several times.
+    if (isNextAction(*event) && QGuiApplication::allWindows().contains(watched)) {
         say({});
     }
     return false;
