@@ -1,7 +1,8 @@
 #include "codegen/DeclarationText.h"
 #include "codegen/ColorNotation.h"
+#include "codegen/StandardText.h"
 #include "model/ColorFormat.h"
-#include "model/Gradient.h"
+#include "support/Gradients.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +49,25 @@ TEST(DeclarationText, keepsArrayOrderAndOpacityAndSurvivesMissingPieces) {
         {{}, 0, MSFilter, ""}};
     for (const auto& [stops, notation, declaration, text] : rows) {
         EXPECT_EQ(declarationText(declaration, Gradient{stops}, notation), text);
+    }
+}
+
+TEST(StandardText, isTheStandardDeclarationOnOneLine) {
+    EXPECT_EQ(standardDeclarationText(defaultRecord().gradient, 0),
+              "background: linear-gradient(to right, #000000 0%, #ffffff 100%);");
+    const auto withoutBlanks = [](std::string text) {
+        std::erase_if(text, [](char c) { return c == ' ' || c == '\t' || c == '\n'; });
+        return text;
+    };
+    std::mt19937 random{5};
+    for (int round = 0; round < 300; ++round) {
+        const auto [gradient, notation] = randomRecord(random);
+        const std::string line = standardDeclarationText(gradient, notation);
+        const std::string whole = declarationText(Declaration::Standard, gradient, notation);
+        EXPECT_EQ(withoutBlanks(line), withoutBlanks(whole));
+        EXPECT_TRUE(line.find_first_of("\t\n") == line.npos && line.find("  ") == line.npos) << line;
+        const std::string value = standardValueText(gradient, notation);
+        EXPECT_EQ(value.empty() ? "" : "background: " + value + ";", line);
     }
 }
 
