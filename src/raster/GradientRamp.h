@@ -3,6 +3,7 @@
 #include "model/ColorStop.h"
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -43,14 +44,31 @@ class GradientRamp {
             }
             return pixel;
         }
+
+        /// Not premultiplied, rounded: red, green, blue and alpha as they follow each other in memory. What
+        /// nobody sees is black.
+        std::uint32_t straightPixelAt(double t) const {
+            constexpr double half = 0.5; // what rounds when cut
+            const double way = t - start;
+            const double alpha = color[0] + way * change[0] - half;
+            const double share = alpha >= half ? 255.0 / alpha : 0.0;
+            std::array<std::uint8_t, 4> pixel{};
+            for (std::size_t channel = 1; channel < color.size(); ++channel) {
+                const double straight = (color[channel] + way * change[channel] - half) * share + half;
+                pixel[channel - 1] = static_cast<std::uint8_t>(straight);
+            }
+            pixel[3] = static_cast<std::uint8_t>(alpha + half);
+            return std::bit_cast<std::uint32_t>(pixel);
+        }
     };
 
     /// The segments in order, without a gap: the first reaches back, the last ahead without an end.
     std::span<const Segment> segments() const { return segments_; }
 
-  private:
+    /// The segment that `t` lies in.
     const Segment& segmentAt(double t) const;
 
+  private:
     std::vector<Segment> segments_;
 };
 

@@ -1,10 +1,11 @@
 #include "raster/GradientRaster.h"
 
-#include "model/Orientation.h"
+#include "raster/LinearWay.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <numbers>
 #include <span>
 #include <vector>
 
@@ -25,13 +26,12 @@ struct PixelSpan {
 
 // A row at a multiple of 45 degrees is the row above it, moved by `shift` pixels: one ramp serves all of
 // them.
-void fillShifted(const PixelBuffer& buffer, PixelSpan columns, PixelSpan rows, int shift,
-                 const GradientRamp& ramp, auto positionAt) {
+void fillShifted(const PixelBuffer& buffer, PixelSpan columns, PixelSpan rows, int shift, auto pixelAt) {
     const int travel = std::abs(shift) * std::max(rows.size() - 1, 0);
     const int first = columns.begin - (shift < 0 ? travel : 0);
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(columns.size() + travel));
     for (std::size_t i = 0; i < pixels.size(); ++i) {
-        pixels[i] = ramp.pixelAt(positionAt(first + static_cast<int>(i), rows.begin));
+        pixels[i] = pixelAt(first + static_cast<int>(i), rows.begin);
     }
     for (int row = rows.begin; row < rows.end; ++row) {
         const int from = columns.begin + shift * (row - rows.begin) - first;
@@ -41,8 +41,8 @@ void fillShifted(const PixelBuffer& buffer, PixelSpan columns, PixelSpan rows, i
 
 // One side of a row of a radial gradient, from the middle outwards, so that the position only grows: pixel i
 // is at x + i * step from the middle.
-void fillOutwards(std::span<std::uint32_t> pixels, double x, double step, double y,
-                  const GradientRamp& ramp) {
+void fillOutwards(std::span<std::uint32_t> pixels, double x, double step, double y, const GradientRamp& ramp,
+                  auto pixelOf) {
     const double ySquared = y * y;
     const auto size = static_cast<double>(pixels.size());
     std::size_t i = 0;
@@ -51,57 +51,38 @@ void fillOutwards(std::span<std::uint32_t> pixels, double x, double step, double
         const auto last = static_cast<std::size_t>(std::clamp(std::ceil((reach - x) / step), 0.0, size));
         for (; i < last; ++i) {
             const double here = x + static_cast<double>(i) * step;
-            pixels[i] = segment.pixelAt(std::sqrt(here * here + ySquared));
+            pixels[i] = pixelOf(segment, std::sqrt(here * here + ySquared));
         }
     }
 }
 
-// The way of a linear gradient: across, up or at 45 degrees.
-struct Direction {
-    int x;
-    int y;
-};
-
-Direction directionOf(std::int64_t orientation) {
-    switch (orientation) {
-    case orientation::bottomToTop:
-        return {0, 1};
-    case orientation::diagonalToTopRight:
-        return {1, 1};
-    case orientation::diagonalToTopLeft:
-        return {-1, 1};
-    default:
-        return {1, 0};
-    }
-}
-
-void fillLinear(const PixelBuffer& buffer, const Rect& box, Direction direction, const GradientRamp& ramp) {
+void fillLinear(const PixelBuffer& buffer, const Rect& box, LinearWay way, const GradientRamp& ramp,
+                auto pixelOf) {
     const PixelSpan columns{box.x * buffer.scale, box.maxX() * buffer.scale, buffer.width};
     const PixelSpan rows{(buffer.top - box.maxY()) * buffer.scale, (buffer.top - box.y) * buffer.scale,
                          buffer.height};
-    const double length = std::abs(direction.x) * box.width + std::abs(direction.y) * box.height;
-    const auto positionAt = [&](int column, int row) {
+    const double length = std::abs(way.right) * box.width + std::abs(way.up) * box.height;
+    const auto pixelAt = [&](int column, int row) {
         const Point center = box.center();
-        return (direction.x * (buffer.x(column) - center.x) + direction.y * (buffer.y(row) - center.y)) /
-                   length +
-               0.5;
+        const double t =
+            (way.right * (buffer.x(column) - center.x) + way.up * (buffer.y(row) - center.y)) / length + 0.5;
+        return pixelOf(ramp.segmentAt(t), t);
     };
-    if (direction.x != 0) {
+    if (way.right != 0) {
         // Rows count downwards: to go up with the gradient means to come from a place further back.
-        fillShifted(buffer, columns, rows, -direction.y / direction.x, ramp, positionAt);
+        fillShifted(buffer, columns, rows, -way.up / way.right, pixelAt);
         return;
     }
     for (int row = rows.begin; row < rows.end; ++row) {
-        std::fill_n(buffer.row(row).begin() + columns.begin, columns.size(),
-                    ramp.pixelAt(positionAt(0, row)));
+        std::fill_n(buffer.row(row).begin() + columns.begin, columns.size(), pixelAt(0, row));
     }
 }
 
-void fillRadial(const PixelBuffer& buffer, Point center, double radius, const GradientRamp& ramp) {
-    const double step = 1 / (buffer.scale * radius);
+void fillRadial(const PixelBuffer& buffer, Point center, Size radii, const GradientRamp& ramp, auto pixelOf) {
+    const double step = 1 / (buffer.scale * radii.width);
     const int middle = PixelSpan{center.x * buffer.scale, center.x * buffer.scale, buffer.width}.begin;
-    const double right = (buffer.x(middle) - center.x) / radius;
-    const double left = (center.x - buffer.x(middle - 1)) / radius;
+    const double right = (buffer.x(middle) - center.x) / radii.width;
+    const double left = (center.x - buffer.x(middle - 1)) / radii.width;
     const int rightCount = buffer.width - middle;
     std::vector<std::uint32_t> side(static_cast<std::size_t>(std::max(middle, rightCount)));
     // Where the middle lies between two rows or on one, the lower half repeats the upper; so do the sides.
@@ -114,11 +95,11 @@ void fillRadial(const PixelBuffer& buffer, Point center, double radius, const Gr
             std::ranges::copy(buffer.row(twin), pixels.begin());
             continue;
         }
-        const double y = (buffer.y(row) - center.y) / radius;
-        fillOutwards(side, right, step, y, ramp);
+        const double y = (buffer.y(row) - center.y) / radii.height;
+        fillOutwards(side, right, step, y, ramp, pixelOf);
         std::copy_n(side.begin(), rightCount, pixels.begin() + middle);
         if (left != right) {
-            fillOutwards(side, left, step, y, ramp);
+            fillOutwards(side, left, step, y, ramp, pixelOf);
         }
         std::reverse_copy(side.begin(), side.begin() + middle, pixels.begin());
     }
@@ -126,12 +107,23 @@ void fillRadial(const PixelBuffer& buffer, Point center, double radius, const Gr
 
 } // namespace
 
+GradientPlace GradientPlace::inBox(const Rect& box) {
+    return {box, box.center(), {box.width / std::numbers::sqrt2, box.height / std::numbers::sqrt2}};
+}
+
 void fillGradient(const PixelBuffer& buffer, const GradientPlace& place, std::int64_t orientation,
-                  const GradientRamp& ramp) {
-    if (orientation == orientation::radial) {
-        fillRadial(buffer, place.center, place.radius, ramp);
+                  const GradientRamp& ramp, PixelForm form) {
+    const auto fill = [&](auto pixelOf) {
+        if (orientation == orientation::radial) {
+            fillRadial(buffer, place.center, place.radii, ramp, pixelOf);
+        } else {
+            fillLinear(buffer, place.box, linearWay(orientation), ramp, pixelOf);
+        }
+    };
+    if (form == PixelForm::Premultiplied) {
+        fill([](const GradientRamp::Segment& segment, double t) { return segment.pixelAt(t); });
     } else {
-        fillLinear(buffer, place.box, directionOf(orientation), ramp);
+        fill([](const GradientRamp::Segment& segment, double t) { return segment.straightPixelAt(t); });
     }
 }
 

@@ -212,7 +212,7 @@ TEST(SvgReaderTest, paintsTheSamePictureInASquareBox) {
         const FoundGradient found = readSvgGradients(text)->gradients.at(0);
         std::vector<std::uint32_t> pixels(size * size);
         const PixelBuffer buffer{pixels, size, size, 1.0, size};
-        fillGradient(buffer, {{0, 0, size, size}, {}, 0}, found.gradient.orientation(),
+        fillGradient(buffer, {{0, 0, size, size}, {}, {}}, found.gradient.orientation(),
                      GradientRamp{found.gradient.stops(), GradientRamp::Opacity::Drawn});
         const double radians = angle * std::numbers::pi / 180;
         for (int i = 0; i < size * size; ++i) {

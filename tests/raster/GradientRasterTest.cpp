@@ -2,6 +2,7 @@
 
 #include "model/Orientation.h"
 
+#include <bit>
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
@@ -48,13 +49,21 @@ Channels expectedAt(const Stops& stops, const RGBAComponents& backdrop, double t
 
 // Every channel of every pixel must be the exact value, rounded; where there is no position the pixel is 7.
 void expectExact(const PixelBuffer& buffer, const Stops& stops, const RGBAComponents& backdrop,
-                 const PositionAt& positionAt) {
+                 const PositionAt& positionAt, PixelForm form = PixelForm::Premultiplied) {
     double worst = 0;
     for (int i = 0; i < buffer.width * buffer.height; ++i) {
         const auto t = positionAt({buffer.x(i % buffer.width), buffer.y(i / buffer.width)});
-        const Channels expected = t ? expectedAt(stops, backdrop, *t) : Channels{0, 0, 0, 7};
+        Channels expected = t ? expectedAt(stops, backdrop, *t) : Channels{0, 0, 0, 7};
+        std::uint32_t pixel = buffer.pixels[static_cast<std::size_t>(i)];
+        if (form == PixelForm::StraightBytes) {
+            const auto [red, green, blue, alpha] = std::bit_cast<std::array<std::uint8_t, 4>>(pixel);
+            pixel =
+                std::uint32_t{alpha} << 24U | std::uint32_t{red} << 16U | std::uint32_t{green} << 8U | blue;
+            const double share = alpha > 0 ? 255 / expected[0] : 0;
+            expected = {expected[0], expected[1] * share, expected[2] * share, expected[3] * share};
+        }
         for (std::size_t channel = 0; channel < expected.size(); ++channel) {
-            const auto actual = buffer.pixels[static_cast<std::size_t>(i)] >> (24 - 8 * channel) & 0xFFU;
+            const auto actual = pixel >> (24 - 8 * channel) & 0xFFU;
             worst = std::max(worst, std::abs(actual - expected[channel]));
         }
     }
@@ -69,16 +78,20 @@ void fillAndCompare(const PixelBuffer& buffer, const Stops& stops, const RGBACom
         const auto way = [x = dx, y = dy](Point p) { return x * p.x + y * p.y; };
         const double length = way({dx * box.width, dy * box.height});
         std::ranges::fill(buffer.pixels, 7U);
-        fillGradient(buffer, {box, {}, 1}, code, ramp);
+        fillGradient(buffer, {box, {}, {}}, code, ramp);
         expectExact(buffer, stops, backdrop, [&](Point p) {
             const double t = (way(p) - way(box.center())) / length + 0.5;
             return box.contains(p) ? std::optional{t} : std::nullopt;
         });
     }
     for (const Point center : {Point{30, 10}, Point{29.7, 20.2}}) { // the second is symmetric to no pixel
-        fillGradient(buffer, {box, center, 20}, orientation::radial, ramp);
-        expectExact(buffer, stops, backdrop,
-                    [&](Point p) { return std::hypot(p.x - center.x, p.y - center.y) / 20; });
+        for (const PixelForm form : {PixelForm::Premultiplied, PixelForm::StraightBytes}) {
+            fillGradient(buffer, {box, center, {20, 14}}, orientation::radial, ramp, form);
+            const auto way = [&](Point p) {
+                return std::hypot((p.x - center.x) / 20, (p.y - center.y) / 14);
+            };
+            expectExact(buffer, stops, backdrop, way, form);
+        }
     }
 }
 

@@ -72,7 +72,8 @@ void CanvasPicture::paintScene() {
     if (!scene_->gradient.stops().empty()) {
         const GradientRamp ramp{scene_->gradient.stops(), scene_->opacity,
                                 *fromQColor(controlColor_).calibratedRGB()};
-        fillGradient(buffer(), {geometry_.strip(), geometry_.radialCenter(), geometry_.radialRadius()},
+        const double radius = geometry_.radialRadius();
+        fillGradient(buffer(), {geometry_.strip(), geometry_.radialCenter(), {radius, radius}},
                      scene_->gradient.orientation(), ramp);
     }
     if (scene_->guideLine) {

@@ -39,7 +39,7 @@ QImage gradientPicture(const Gradient& gradient, double devicePixelRatio) {
     const PixelBuffer buffer{std::span{reinterpret_cast<std::uint32_t*>(image.bits()), count}, pixels, pixels,
                              devicePixelRatio, size};
     constexpr double side = size - 2 * outerInset;
-    fillGradient(buffer, {{outerInset, outerInset, side, side}, {size / 2, size / 2}, size / 2},
+    fillGradient(buffer, {{outerInset, outerInset, side, side}, {size / 2, size / 2}, {size / 2, size / 2}},
                  gradient.orientation(), GradientRamp{gradient.stops(), GradientRamp::Opacity::Drawn});
     return image;
 }

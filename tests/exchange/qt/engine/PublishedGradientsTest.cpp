@@ -11,7 +11,6 @@
 #include <iomanip>
 #include <iostream>
 #include <map>
-#include <numbers>
 #include <span>
 
 namespace tessaly {
@@ -49,7 +48,7 @@ Pixels painted(const Gradient& gradient, double right, double up) {
     Pixels pixels(side * side);
     const PixelBuffer buffer{pixels, side, side, 1.0, side};
     const Rect box{right, up, side, side};
-    fillGradient(buffer, {box, box.center(), side / std::numbers::sqrt2}, gradient.orientation(),
+    fillGradient(buffer, GradientPlace::inBox(box), gradient.orientation(),
                  GradientRamp{gradient.stops(), GradientRamp::Opacity::Drawn, {1, 1, 1, 1}});
     return pixels;
 }
