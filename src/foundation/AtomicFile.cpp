@@ -1,63 +1,87 @@
 #include "foundation/AtomicFile.h"
 
-#include "foundation/Descriptor.h"
-
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tessaly {
-namespace {
 
-std::error_code lastError() {
-    return {errno, std::generic_category()};
-}
-
-// Beside the file, under a name that nobody uses.
-Descriptor createBeside(const Descriptor& folder, const std::string& name, std::string& created) {
-    for (int number = 0;; ++number) {
-        created = name + '.' + std::to_string(number);
-        Descriptor file{::openat(folder.number(), created.c_str(),
-                                 O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR)};
-        if (file || errno != EEXIST) {
-            return file;
+AtomicFile::AtomicFile(const Descriptor& folder, std::string name, mode_t mode)
+    : folder_{folder}, name_{std::move(name)} {
+    // Beside the file, under a name that nobody uses.
+    for (int number = 0; !file_ && !error_; ++number) {
+        std::string free = name_ + '.' + std::to_string(number);
+        file_ = Descriptor{::openat(folder_.number(), free.c_str(),
+                                    O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode)};
+        if (file_) {
+            temporaryName_ = std::move(free);
+        } else if (errno != EEXIST) {
+            failed();
         }
     }
 }
 
-std::error_code writeAll(const Descriptor& file, std::string_view contents) {
-    while (!contents.empty()) {
-        const ssize_t written = ::write(file.number(), contents.data(), contents.size());
+AtomicFile::~AtomicFile() {
+    if (!temporaryName_.empty()) {
+        ::unlinkat(folder_.number(), temporaryName_.c_str(), 0);
+    }
+}
+
+std::error_code AtomicFile::takeAccessOf(const struct stat& other) {
+    constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
+    if (error_) {
+        return error_;
+    }
+    // Only root can give a file away. Whoever else replaces a file becomes its owner, and may leave it to a
+    // group of theirs.
+    constexpr uid_t unchanged = -1U;
+    const auto give = [&](uid_t user) {
+        return ::fchown(file_.number(), user, other.st_gid) == 0 || errno == EPERM;
+    };
+    if (!give(unchanged) || !give(other.st_uid)) {
+        return failed();
+    }
+    return ::fchmod(file_.number(), other.st_mode & permissions) == 0 ? error_ : failed();
+}
+
+std::error_code AtomicFile::write(std::string_view bytes) {
+    while (!bytes.empty() && !error_) {
+        const ssize_t written = ::write(file_.number(), bytes.data(), bytes.size());
         if (written < 0 && errno != EINTR) {
-            return lastError();
+            failed();
         }
-        contents.remove_prefix(written > 0 ? static_cast<std::size_t>(written) : 0);
+        bytes.remove_prefix(written > 0 ? static_cast<std::size_t>(written) : 0);
     }
-    return {};
+    return error_;
 }
 
-} // namespace
+std::error_code AtomicFile::commit(Durability durability) {
+    if (error_) {
+        return error_;
+    }
+    if (durability == Durability::Forced && ::fsync(file_.number()) != 0) {
+        return failed();
+    }
+    if (!file_.close() ||
+        ::renameat(folder_.number(), temporaryName_.c_str(), folder_.number(), name_.c_str()) != 0) {
+        return failed();
+    }
+    temporaryName_.clear();
+    return error_;
+}
+
+std::error_code AtomicFile::failed() {
+    error_ = {errno, std::generic_category()};
+    return error_;
+}
 
 std::error_code writeFileAtomically(const Descriptor& folder, const std::string& name,
                                     std::string_view contents) {
-    std::string temporary;
-    Descriptor file = createBeside(folder, name, temporary);
-    if (!file) {
-        return lastError();
-    }
-    std::error_code error = writeAll(file, contents);
-    if (!file.close() && !error) {
-        error = lastError();
-    }
-    if (!error && ::renameat(folder.number(), temporary.c_str(), folder.number(), name.c_str()) != 0) {
-        error = lastError();
-    }
-    if (error) {
-        ::unlinkat(folder.number(), temporary.c_str(), 0);
-    }
-    return error;
+    AtomicFile file{folder, name, S_IRUSR | S_IWUSR};
+    file.write(contents);
+    return file.commit(AtomicFile::Durability::Eventual);
 }
 
 } // namespace tessaly
