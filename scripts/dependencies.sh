@@ -5,8 +5,8 @@
 set -euo pipefail
 
 declare -A packages=(
-    [core]="cmake ninja-build g++ libexpat1-dev libsqlite3-dev ccache"
-    [build]="cmake ninja-build g++ libexpat1-dev libsqlite3-dev ccache qt6-base-dev qt6-webengine-dev libgl-dev
+    [core]="cmake ninja-build g++ libexpat1-dev libpng-dev libsqlite3-dev ccache"
+    [build]="cmake ninja-build g++ libexpat1-dev libpng-dev libsqlite3-dev ccache qt6-base-dev qt6-webengine-dev libgl-dev
              libfontconfig-dev qt6-wayland fonts-dejavu-core"
     [display]="xvfb xauth"
     [screenshot]="xdotool imagemagick"

@@ -20,7 +20,7 @@ struct Reading {
     bool complete = true; ///< false: a limit was reached
 };
 
-/// Is told the share 0 ... 1 that is read; false from it ends the reading, which is then empty.
+/// Is told the share 0 ... 1 that is read or written; false from it ends that. A reading is then empty.
 using Progress = std::function<bool(double share)>;
 
 } // namespace tessaly
