@@ -1,5 +1,7 @@
 #include "exchange/SvgDocument.h"
 
+#include "exchange/SvgColorText.h"
+
 #include <algorithm>
 #include <array>
 
@@ -49,6 +51,21 @@ bool isHelper(std::string_view classes) {
         }
     }
     return false;
+}
+
+// What Tessaly holds beside the bytes that it wrote, unless the bytes are others by now.
+Color heldColor(std::string_view held, const Color& written) {
+    std::array<double, 3> channels{};
+    for (double& channel : channels) {
+        skipSeparators(held);
+        const auto number = takeNumber(held);
+        if (!number) {
+            return written;
+        }
+        channel = *number;
+    }
+    const Color exact = Color::calibratedRGB(channels[0], channels[1], channels[2]);
+    return svgColorText(exact) == svgColorText(written) ? exact : written;
 }
 
 SvgStopStyle styleOf(const XmlAttributes& attributes, const SvgStyleSheet& styles) {
@@ -135,9 +152,10 @@ void SvgDocument::addStop(const XmlAttributes& attributes) {
         isComplete_ = false;
         return;
     }
-    const SvgStopStyle style = styleOf(attributes, styles_);
+    ReadColor color = styleOf(attributes, styles_).color();
+    color.color = heldColor(valueOr(attributes, "data-color"), color.color);
     const double offset = svgLength(valueOr(attributes, "offset")).value_or(SvgLength{}).value;
-    stops_.push_back({style.color(), std::clamp(offset, 0.0, 1.0)});
+    stops_.push_back({color, std::clamp(offset, 0.0, 1.0)});
     ++gradient.stopCount;
 }
 

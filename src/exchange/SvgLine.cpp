@@ -25,14 +25,15 @@ std::optional<SvgLine> svgLine(const SvgGradient& gradient, Size viewport) {
     const double scale = map.determinant() * (way.x * way.x + way.y * way.y);
     const Point growth{(map.d * way.x - map.b * way.y) / scale, (map.a * way.y - map.c * way.x) / scale};
     const Point start = map(from);
-    const double middle = growth.x * (0.5 - start.x) + growth.y * (0.5 - start.y);
+    const double middle = growth.x * (unit.width / 2 - start.x) + growth.y * (unit.height / 2 - start.y);
     const double steepness = std::hypot(growth.x, growth.y);
     if (!std::isfinite(middle) || !std::isfinite(steepness) || steepness == 0.0) {
         return std::nullopt;
     }
-    const GradientLine line = gradientLine(middle, growth);
+    const GradientLine line = gradientLine(middle, {growth.x * unit.width, growth.y * unit.height});
     if (isInUserSpace) {
-        return SvgLine{{line.angle}};
+        const bool isWhole = line.start == 0.0 && line.end == 1.0;
+        return SvgLine{{gradientLine(middle, growth).angle}, false, !isWhole};
     }
     return std::isfinite(line.start) && std::isfinite(line.end) ? std::optional{SvgLine{line}} : std::nullopt;
 }

@@ -18,7 +18,7 @@ Extent takeLine(const SvgGradient& gradient, Size viewport, GradientDraft& draft
         return line ? Extent::Point : Extent::Nothing;
     }
     draft.takeLine(line->line);
-    if (gradient.isInUserSpace.value_or(false)) {
+    if (line->isInProportion) {
         draft.takeLengths(true);
     }
     return Extent::Whole;
@@ -64,7 +64,7 @@ std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::s
     if (extent == Extent::Nothing) {
         return std::nullopt;
     }
-    std::vector<SvgStop> seen = inOrder(stops);
+    std::vector<SvgStop> seen(stops.begin(), stops.end());
     if (extent == Extent::Point && seen.size() > 1) {
         seen.erase(seen.begin(), seen.end() - 1);
         draft.notes.emplace_back("no length, its last color taken");
@@ -72,7 +72,7 @@ std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::s
     if (gradient.isMixedLinearly) {
         draft.takeMixing("linear light");
     }
-    if (isMixingSeen(seen, draft.track)) {
+    if (isMixingSeen(inOrder(seen), draft.track)) {
         draft.notes.emplace_back("opacity mixed as in CSS");
     }
     draft.stops.reserve(seen.size());

@@ -99,7 +99,8 @@ TEST(SvgReaderTest, takesALineAsTheNearestDirectionAndTellsWhatIsNotTheSame) {
         {"x1='.5' x2='.5'", {"1: #0000ff 1 (no length, its last color taken)"}},
         {"x1='inf' x2='nan' y1='1e999'", {"1: " + plain}},
         {"gradientUnits='userSpaceOnUse' x1='3' y1='3' x2='21' y2='21'", {"3: " + turned + inProportion}},
-        {"gradientUnits='userSpaceOnUse'", {"1: " + plain + inProportion}},
+        {"gradientUnits='userSpaceOnUse'", {"1: " + plain}}, // through the whole picture
+        {"gradientUnits='userSpaceOnUse' x1='1'", {"1: " + plain + inProportion}},
         {"gradientUnits='userSpaceOnUse' y2='50%'", {"3: " + turned + inProportion}},
         {"spreadMethod='reflect'", {"1: " + plain}}, // there is no room for it
         {"spreadMethod='reflect' x2='.5'", {"1: #ff0000 0, #0000ff 0.5 (repeating taken once)"}},
@@ -144,7 +145,7 @@ TEST(SvgReaderTest, findsTheStopsOfADocumentWithTheirStyles) {
     expectEach({
         {stops("<stop offset='-1'/><stop offset='60%' stop-color='#fff'/><stop offset='.2' "
                "stop-color='#f00'/><stop offset='7' stop-color='nothing'/>"),
-         {"1: #000000 0, #ffffff 0.6, #ff0000 0.6, #000000 1"}},
+         {"1: #000000 0, #ffffff 0.6, #ff0000 0.2, #000000 1"}},
         {stops("<stop offset='.5' stop-color='#ff000080' stop-opacity='50%'/>"), {"1: #ff0000/0.251 0.5"}},
         {stops("<stop stop-color='#f00' stop-opacity='2' style='stop-color:#0f0; ;x;stop-opacity: .25'/>"),
          {"1: #00ff00/0.25 0"}},
