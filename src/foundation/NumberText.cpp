@@ -27,6 +27,10 @@ std::string significantText(double value, int digits) {
     return textOf(value, std::chars_format::general, digits);
 }
 
+std::string exactText(double value) {
+    return textOf(value);
+}
+
 std::string hexByteText(std::uint32_t value) {
     const std::string digits = textOf(value, 16);
     return digits.size() < 2 ? '0' + digits : digits;

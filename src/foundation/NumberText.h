@@ -12,6 +12,9 @@ std::string fixedText(double value, int decimals);
 /// As printf's "%.<digits>g".
 std::string significantText(double value, int digits);
 
+/// The shortest text that reads as exactly this number.
+std::string exactText(double value);
+
 /// As printf's "%02x".
 std::string hexByteText(std::uint32_t value);
 

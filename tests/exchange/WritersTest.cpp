@@ -1,0 +1,64 @@
+#include "exchange/Readers.h"
+#include "exchange/SvgWriter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace tessaly {
+namespace {
+
+using Opacity = GradientRamp::Opacity;
+
+// Unsorted, some stops at one position, some unseen or opaque, colors of bytes and between them.
+Gradient randomGradient(std::mt19937& random) {
+    std::uniform_real_distribution<double> fraction{0.0, 1.0};
+    const auto channel = [&] {
+        const double value = std::clamp(fraction(random) * 1.2 - 0.1, 0.0, 1.0);
+        return fraction(random) < 0.5 ? static_cast<float>(std::lround(value * 255)) / 255.0F : value;
+    };
+    std::vector<ColorStop> stops(std::uniform_int_distribution<std::size_t>{1, 20}(random));
+    for (ColorStop& stop : stops) {
+        const bool repeats = &stop != &stops.front() && fraction(random) < 0.2;
+        const double opacity = fraction(random) * (fraction(random) < 0.2 ? 1e-6 : 1.2);
+        stop = {repeats ? (&stop)[-1].position : fraction(random),
+                Color::calibratedRGB(channel(), channel(), channel()), std::min(opacity, 1.0)};
+    }
+    return Gradient{stops, std::uniform_int_distribution<std::int64_t>{0, orientation::radial}(random)};
+}
+
+Gradient opaque(const Gradient& gradient) {
+    std::vector<ColorStop> stops = gradient.stops();
+    std::ranges::for_each(stops, [](ColorStop& stop) { stop.opacity = 1; });
+    return Gradient{stops, gradient.orientation()};
+}
+
+void expectRead(const FoundGradient& found, const Gradient& gradient, const std::string& name) {
+    EXPECT_EQ(found.gradient, gradient);
+    EXPECT_TRUE(found.notes.empty() && found.name == name) << found.name;
+}
+
+TEST(SvgWriter, isReadAsExactlyTheSameGradientAndLetsWhatIsChangedByHandCount) {
+    std::mt19937 random{6};
+    for (int round = 1; round <= 400 && !HasFailure(); ++round) {
+        const Gradient gradient = randomGradient(random);
+        for (const Opacity opacity : {Opacity::Drawn, Opacity::Ignored}) {
+            const std::string text = svgPictureText(gradient, opacity, 1 + round * 7 % 2000, round);
+            SCOPED_TRACE(text);
+            const Reading reading = readGradients(text);
+            ASSERT_EQ(reading.gradients.size(), 1U);
+            expectRead(reading.gradients[0], opacity == Opacity::Drawn ? gradient : opaque(gradient),
+                       "gradient");
+            const auto lines = static_cast<std::size_t>(std::ranges::count(text, '\n'));
+            const std::size_t most = gradient.stops().size() * (opacity == Opacity::Drawn ? 14 : 1);
+            EXPECT_LE(lines, most + 5) << "few stops help";
+        }
+    }
+    std::string text = svgPictureText(Gradient{{{0.6, Color::calibratedRGB(0.1, 0.2, 0.3)}}}, {}, 9, 9);
+    text.replace(text.find("#1a334d"), 7, "#00ff00");
+    EXPECT_EQ(readGradients(text).gradients.at(0).gradient.stops()[0].color, Color::calibratedRGB(0, 1, 0));
+}
+
+} // namespace
+} // namespace tessaly
