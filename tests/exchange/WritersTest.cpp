@@ -1,5 +1,8 @@
+#include "codegen/StandardText.h"
+#include "exchange/PresetTexts.h"
 #include "exchange/Readers.h"
 #include "exchange/SvgWriter.h"
+#include "model/ColorFormat.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,6 +61,29 @@ TEST(SvgWriter, isReadAsExactlyTheSameGradientAndLetsWhatIsChangedByHandCount) {
     std::string text = svgPictureText(Gradient{{{0.6, Color::calibratedRGB(0.1, 0.2, 0.3)}}}, {}, 9, 9);
     text.replace(text.find("#1a334d"), 7, "#00ff00");
     EXPECT_EQ(readGradients(text).gradients.at(0).gradient.stops()[0].color, Color::calibratedRGB(0, 1, 0));
+}
+
+TEST(PresetTexts, areReadAsTheSame) {
+    std::mt19937 random{8};
+    std::vector<Gradient> presets(40);
+    std::ranges::generate(presets, [&] { return randomGradient(random); });
+    presets[7] = opaque(presets[7]);
+    presets[9] = Gradient{};
+    const auto css = readGradients(presetsCssText(presets)).gradients;
+    const auto svg = readGradients(presetsSvgText(presets)).gradients;
+    ASSERT_TRUE(css.size() == 39 && svg.size() == 39);
+    presets.erase(presets.begin() + 9);
+    for (std::size_t i = 0; i < presets.size(); ++i) {
+        const std::string name = "preset-" + std::to_string(i < 9 ? i + 1 : i + 2);
+        expectRead(svg[i], presets[i], name);
+        const auto notation = presets[i] == opaque(presets[i]) ? colorFormat::hexadecimal : colorFormat::rgba;
+        const std::string value = standardValueText(presets[i], notation);
+        expectRead(css[i], readGradients(value).gradients.at(0).gradient, '.' + name);
+    }
+    const Color red = Color::calibratedRGB(1, 0, 0);
+    EXPECT_EQ(presetsCssText(std::vector{Gradient{{{0, red}}}, Gradient{{{1, red, 0.5}}, 7}}),
+              ".preset-1 { background: linear-gradient(to right, #ff0000 0%); }\n"
+              ".preset-2 { background: linear-gradient(to right, rgba(256,0,0, 0.5) 100%); }\n");
 }
 
 } // namespace
