@@ -18,7 +18,7 @@ namespace {
 
 using Pixels = std::vector<std::uint32_t>;
 
-constexpr int side = BoxPage::side;
+constexpr int side = 101;     // of a box, in pixels
 constexpr int sameWithin = 2; // levels of 255
 
 // The prefixes of other engines stand before the same syntax as that of this one.
@@ -102,8 +102,8 @@ std::string_view outcome(const BoxPage::Picture& picture, const Reading& reading
 
 Outcomes outcomesOf(const std::vector<std::string>& values, BoxPage& page) {
     Outcomes outcomes;
-    for (std::size_t first = 0; first < values.size(); first += BoxPage::mostBoxes) {
-        const std::size_t count = std::min(BoxPage::mostBoxes, values.size() - first);
+    for (std::size_t first = 0; first < values.size(); first += page.mostBoxes()) {
+        const std::size_t count = std::min(page.mostBoxes(), values.size() - first);
         const std::span batch = std::span{values}.subspan(first, count);
         std::vector<std::string> forEngine(count);
         std::ranges::transform(batch, forEngine.begin(), withOwnPrefix);
@@ -118,7 +118,7 @@ Outcomes outcomesOf(const std::vector<std::string>& values, BoxPage& page) {
 
 TEST(PublishedGradients, areTheSamePictureUnlessSomethingIsTold) {
     const std::vector<std::string> values = publishedGradients();
-    BoxPage page;
+    BoxPage page{{side, side}, 12, 9};
     ASSERT_TRUE(page.open());
     Outcomes outcomes = outcomesOf(values, page);
     for (const auto& [name, all] : outcomes) {
