@@ -1,5 +1,8 @@
 #include "Measure.h"
 #include "exchange/CssReader.h"
+#include "exchange/PngWriter.h"
+#include "raster/GradientPicture.h"
+#include "support/TemporaryFolder.h"
 
 #include <benchmark/benchmark.h>
 #include <string>
@@ -50,6 +53,46 @@ void cssReadGrowth(benchmark::State& state) {
     state.counters["median"] = median(growth);
 }
 
+// Ten stops of colours and opacities that repeat late.
+Gradient colorful(std::int64_t orientation) {
+    constexpr int stops = 10;
+    Gradient gradient{{}, orientation};
+    for (int i = 0; i < stops; ++i) {
+        const Color color = Color::calibratedRGB(i % 4 / 3.0, i % 3 / 2.0, i % 2);
+        gradient.append({i / (stops - 1.0), color, 1.0 - i % 5 / 10.0});
+    }
+    return gradient;
+}
+
+// A picture of 3840 x 2160 into a file; what of it is the raster, and what the encoder.
+void pngWrite(benchmark::State& state) {
+    constexpr int rowsAtOnce = 16;
+    const GradientPicture picture{colorful(state.range(0)), GradientRamp::Opacity::Drawn, 3840, 2160};
+    std::vector<std::uint32_t> rows(static_cast<std::size_t>(rowsAtOnce * picture.width()));
+    const TemporaryFolder folder;
+    std::vector<double> rasters;
+    std::vector<double> encoders;
+    const auto require = [&state](const std::error_code& error) {
+        if (error) {
+            state.SkipWithError(error.message().c_str());
+        }
+    };
+    measure(
+        state, [&](std::size_t /*number*/) { require(writePngFile(picture, folder.path / "gradient.png")); },
+        [&] {
+            rasters.push_back(secondsOf([&] {
+                for (int first = 0; first < picture.height(); first += rowsAtOnce) {
+                    picture.fillRows(first, rows);
+                }
+            }));
+            const auto drop = [](std::string_view /*bytes*/) { return std::error_code{}; };
+            encoders.push_back(secondsOf([&] { require(writePng(picture, drop)); }) - rasters.back());
+        });
+    state.counters["raster"] = median(rasters);
+    state.counters["encoder"] = median(encoders);
+}
+
+BENCHMARK(pngWrite)->ArgName("orientation")->Arg(1)->Arg(2)->Arg(4)->Iterations(11)->UseManualTime();
 BENCHMARK(cssRead)->ArgName("megabytes")->Arg(1)->Arg(16)->Iterations(21)->UseManualTime();
 BENCHMARK(cssReadGrowth)->Iterations(11)->UseManualTime();
 
