@@ -3,7 +3,7 @@
 #include "app/GradientChooser.h"
 #include "app/MainWindow.h"
 #include "app/MessageLine.h"
-#include "app/ReadingBeside.h"
+#include "app/WorkBeside.h"
 #include "canvas/qt/StopControlPanel.h"
 #include "document/Document.h"
 #include "foundation/qt/ToQString.h"
@@ -16,6 +16,7 @@
 #include <QMimeData>
 #include <QUrl>
 #include <algorithm>
+#include <memory>
 
 namespace tessaly {
 namespace {
@@ -110,7 +111,11 @@ void GradientIntake::read(const Reader& reader, std::size_t size, std::string_vi
         take(reader({}), step);
         return;
     }
-    readBeside(window_, reader, [this, step](const Incoming& incoming) { take(incoming, step); });
+    const auto incoming = std::make_shared<Incoming>();
+    workBeside(
+        window_, tr("Reading…"),
+        [reader, incoming](const Progress& progress) { *incoming = reader(progress); },
+        [this, incoming, step] { take(*incoming, step); });
 }
 
 void GradientIntake::take(const Incoming& incoming, std::string_view step) {

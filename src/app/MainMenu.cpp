@@ -29,6 +29,14 @@ constexpr const char* help = QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Help");
 constexpr std::array<Item, commandCount> items{{
     {Command::New, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&New"), Qt::CTRL | Qt::Key_N},
     {Command::Open, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Open..."), Qt::CTRL | Qt::Key_O},
+    {Command::SaveStylesheet, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Save Stylesheet"),
+     Qt::CTRL | Qt::Key_S, true},
+    {Command::SaveStylesheetAs, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "Save Stylesheet &As..."),
+     Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+    {Command::SaveOnEveryChange, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "Save on Every &Change")},
+    {Command::ExportPicture, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Export Picture..."),
+     Qt::CTRL | Qt::Key_E, true},
+    {Command::ExportPresets, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "Export &Presets...")},
     {Command::Quit, file, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Quit"), Qt::CTRL | Qt::Key_Q, true,
      Qt::ApplicationShortcut},
     {Command::Undo, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Undo"), Qt::CTRL | Qt::Key_Z, false,
@@ -37,6 +45,9 @@ constexpr std::array<Item, commandCount> items{{
      false, Qt::ApplicationShortcut},
     {Command::CopyStylesheet, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Copy Stylesheet"),
      QKeyCombination::fromCombined(0), true},
+    {Command::CopyStandardDeclaration, edit,
+     QT_TRANSLATE_NOOP("tessaly::MainMenu", "Copy Standard &Declaration"), Qt::CTRL | Qt::SHIFT | Qt::Key_C},
+    {Command::CopyStandardValue, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "Copy Standard &Value")},
     {Command::PasteGradient, edit, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Paste Gradient"),
      Qt::CTRL | Qt::Key_V},
     {Command::AddStop, gradient, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Add Stop"), Qt::Key_Insert},
@@ -77,6 +88,7 @@ MainMenu::MainMenu(QWidget* parent) : QMenuBar{parent} {
         action->setShortcutContext(item.context);
         actions_[static_cast<std::size_t>(item.command)] = action;
     }
+    actionOf(Command::SaveOnEveryChange).setCheckable(true);
 }
 
 void MainMenu::onCommand(Command command, std::function<void()> run) {

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/CopyButton.h"
+#include "app/CopyOptions.h"
 #include "app/GradientIntake.h"
 #include "app/MainMenu.h"
 #include "app/MessageLine.h"
@@ -47,6 +48,7 @@ MainWindow::MainWindow(QWidget* parent)
              new PresetPanel,
              new MainTabView{{tr("CSS 3"), tr("HTML"), tr("Web Preview")}},
              new CopyButton,
+             new CopyOptions,
              new QStackedWidget,
              new SourceView{tr("CSS code")},
              new SourceView{tr("HTML code")},
@@ -125,7 +127,11 @@ QLayout* MainWindow::codeArea() const {
     auto* const header = new QHBoxLayout;
     header->setSpacing(spacing);
     header->addWidget(views_.tabs, 1);
-    header->addWidget(views_.copy);
+    auto* const copy = new QHBoxLayout;
+    copy->setSpacing(0);
+    copy->addWidget(views_.copy);
+    copy->addWidget(views_.copyOptions);
+    header->addLayout(copy);
     auto* const area = new QVBoxLayout;
     area->setSpacing(0);
     area->addLayout(header);

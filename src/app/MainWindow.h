@@ -11,6 +11,7 @@ namespace tessaly {
 
 class CanvasView;
 class CopyButton;
+class CopyOptions;
 class MainMenu;
 class MainTabView;
 class MessageLine;
@@ -34,6 +35,7 @@ class MainWindow : public QWidget {
         PresetPanel* presets;
         MainTabView* tabs;
         CopyButton* copy;
+        CopyOptions* copyOptions;
         QStackedWidget* sourceCodeContainer;
         SourceView* stylesheet;
         SourceView* page;

@@ -1,6 +1,7 @@
 #include "app/Tessaly.h"
 
 #include "app/CopyButton.h"
+#include "app/CopyOptions.h"
 #include "app/MainMenu.h"
 #include "app/MainWindow.h"
 #include "app/MessageLine.h"
@@ -68,7 +69,10 @@ Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem
       css3TextView_{mainWindow_->views().stylesheet->textView()},
       stylesheet_{css3TextView_},
       previewFiles_{htmlTextView_, css3TextView_, *mainWindow_->views().preview,
-                    std::move(temporaryDirectory)} {
+                    std::move(temporaryDirectory)},
+      copy_{document_, *mainWindow_},
+      stylesheetFile_{mainWindow_->views().stylesheet->textView(), *mainWindow_},
+      export_{document_, *mainWindow_} {
     lendToViews();
     answerMenu();
     document_.open(); // the code is written from what it opens with
@@ -80,6 +84,7 @@ Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem
 
 Tessaly::~Tessaly() {
     mainWindow_->hide(); // which ends what is being typed
+    stylesheetFile_.finish();
     document_.close();
     needToUpdateWebCode_.reset();
     mainWindow_.reset(); // its views have borrowed what goes next
@@ -92,7 +97,11 @@ void Tessaly::lendToViews() {
     views.presets->connectTo(document_.gallery());
     connect(&views.stylesheet->textView(), &CustomTextView::userEdited, this,
             [this](const TextEdit& edit) { stylesheet_.edited(edit); });
-    connect(views.copy, &QPushButton::clicked, this, &Tessaly::copyCode);
+    CopyOptions& forms = *views.copyOptions;
+    connect(views.copy, &QPushButton::clicked, &copy_, &CodeCopy::copyShownText);
+    connect(&forms.wholeText(), &QAction::triggered, &copy_, &CodeCopy::copyShownText);
+    connect(&forms.standardDeclaration(), &QAction::triggered, &copy_, &CodeCopy::copyStandardDeclaration);
+    connect(&forms.standardValue(), &QAction::triggered, &copy_, &CodeCopy::copyStandardValue);
     connect(views.stopControls, &StopControlPanel::colorTyped, &intake_, &GradientIntake::takeTypedColor);
     connect(mainWindow_.get(), &MainWindow::dropped, &intake_, &GradientIntake::drop);
 }
@@ -115,7 +124,17 @@ void Tessaly::answerMenu() {
     on(Command::Open, [this] { intake_.open(); });
     on(Command::Undo, [this] { takeStep(&History::undo); });
     on(Command::Redo, [this] { takeStep(&History::redo); });
-    on(Command::CopyStylesheet, [this] { mainWindow_->views().copy->copy(toQString(css3TextView_.text())); });
+    on(Command::SaveStylesheet, [this] { stylesheetFile_.save(); });
+    on(Command::SaveStylesheetAs, [this] { stylesheetFile_.saveAs(); });
+    QAction& onEveryChange = views.menu->actionOf(Command::SaveOnEveryChange);
+    on(Command::SaveOnEveryChange,
+       [this, &onEveryChange] { stylesheetFile_.saveOnEveryChange(onEveryChange.isChecked()); });
+    connect(&stylesheetFile_, &StylesheetFile::savesOnEveryChange, &onEveryChange, &QAction::setChecked);
+    on(Command::ExportPicture, [this] { export_.exportPicture(); });
+    on(Command::ExportPresets, [this] { export_.exportPresets(); });
+    on(Command::CopyStylesheet, [this] { copy_.copyStylesheet(); });
+    on(Command::CopyStandardDeclaration, [this] { copy_.copyStandardDeclaration(); });
+    on(Command::CopyStandardValue, [this] { copy_.copyStandardValue(); });
     on(Command::PasteGradient, [this] { intake_.paste(); });
     on(Command::AddStop, [this] { document_.editor().interaction().addBesideSelected(); });
     on(Command::DeleteStop, [this] { document_.editor().interaction().deleteColorMarker(); });
@@ -157,6 +176,12 @@ void Tessaly::updateMenu() {
     menu.setStep(Command::Undo, document_.history().undoName());
     menu.setStep(Command::Redo, document_.history().redoName());
     menu.setEnabled(Command::DeleteStop, document_.editor().markers().selectedStop().has_value());
+    const bool hasStops = !document_.record().gradient.stops().empty();
+    menu.setEnabled(Command::CopyStandardDeclaration, hasStops);
+    menu.setEnabled(Command::CopyStandardValue, hasStops);
+    mainWindow_->views().copyOptions->standardDeclaration().setEnabled(hasStops);
+    mainWindow_->views().copyOptions->standardValue().setEnabled(hasStops);
+    menu.setEnabled(Command::ExportPresets, !document_.gallery().presetGradient().empty());
     for (const ToolCommand& entry : toolCommands) {
         menu.setEnabled(entry.command, document_.canUse(entry.tool));
     }
@@ -208,12 +233,7 @@ void Tessaly::showSourceCodeView(std::int64_t index) {
     }
     views.sourceCodeContainer->setCurrentWidget(page);
     views.copy->setEnabled(page != views.preview);
-}
-
-void Tessaly::copyCode() {
-    const MainWindow::Views& views = mainWindow_->views();
-    const bool isPage = views.sourceCodeContainer->currentWidget() == views.page;
-    views.copy->copy(toQString((isPage ? htmlTextView_ : css3TextView_).text()));
+    views.copyOptions->wholeText().setEnabled(page != views.preview);
 }
 
 } // namespace tessaly

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "app/CodeCopy.h"
 #include "app/CodeTextAdapter.h"
+#include "app/GradientExport.h"
 #include "app/GradientIntake.h"
+#include "app/StylesheetFile.h"
 #include "codegen/PreviewFiles.h"
 #include "codegen/Stylesheet.h"
 #include "document/Document.h"
@@ -49,7 +52,6 @@ class Tessaly : public QObject {
     void updateCode();
     void writeCodeAnew();
     void showSourceCodeView(std::int64_t index);
-    void copyCode();
 
     std::unique_ptr<MainWindow> mainWindow_;
     Document document_;
@@ -58,6 +60,9 @@ class Tessaly : public QObject {
     CodeTextAdapter css3TextView_;
     Stylesheet stylesheet_;
     PreviewFiles previewFiles_;
+    CodeCopy copy_;
+    StylesheetFile stylesheetFile_;
+    GradientExport export_;
     About* about_ = nullptr; ///< like the next, none before it is first shown
     RelatedApps* relatedApps_ = nullptr;
     NotificationCenter::Observation selectIndexChanged_;

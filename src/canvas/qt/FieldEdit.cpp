@@ -34,7 +34,7 @@ QSize FieldEdit::sizeHint() const {
 
 // Undo and redo are the field's as long as its text is not applied, and else the document's.
 bool FieldEdit::event(QEvent* event) {
-    if (keepKeys(*event, {Qt::Key_Insert})) {
+    if (keepKeys(*event, {Qt::Key_Insert}) || leaveKeys(*event)) {
         return true;
     }
     if (event->type() == QEvent::ShortcutOverride && QLineEdit::text() == shown_) {

@@ -20,4 +20,19 @@ inline bool keepKeys(QEvent& event, std::initializer_list<int> keys) {
     return kept;
 }
 
+/// Leaves keys to the menus that a text would take for itself on some desktops: Ctrl+D and Ctrl+E. To be
+/// called first in `event`.
+inline bool leaveKeys(QEvent& event) {
+    if (event.type() != QEvent::ShortcutOverride) {
+        return false;
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    const bool left =
+        key.modifiers() == Qt::ControlModifier && (key.key() == Qt::Key_D || key.key() == Qt::Key_E);
+    if (left) {
+        event.ignore();
+    }
+    return left;
+}
+
 } // namespace tessaly

@@ -132,7 +132,7 @@ bool CustomTextView::focusNextPrevChild(bool next) {
 }
 
 bool CustomTextView::event(QEvent* event) {
-    return keepKeys(*event, {Qt::Key_Insert}) || QPlainTextEdit::event(event);
+    return keepKeys(*event, {Qt::Key_Insert}) || leaveKeys(*event) || QPlainTextEdit::event(event);
 }
 
 void CustomTextView::keyPressEvent(QKeyEvent* event) {

@@ -1,4 +1,4 @@
-#include "app/ReadingBeside.h"
+#include "app/WorkBeside.h"
 
 #include <QProgressDialog>
 #include <QThread>
@@ -17,16 +17,15 @@ constexpr int refreshed = 50;
 struct Shared {
     std::atomic<int> progress = 0;
     std::atomic<bool> cancelled = false;
-    Incoming incoming; ///< the reader's until its thread has ended
 };
 
 /// Ends with the window at the latest, and waits for its thread.
-class ReadingDialog : public QProgressDialog {
+class WorkDialog : public QProgressDialog {
   public:
-    ReadingDialog(QWidget& window, const std::function<Incoming(const Progress& progress)>& reader)
-        : QProgressDialog{tr("Reading…"), tr("Cancel"), 0, percent, &window},
-          thread_{QThread::create([shared = shared_, reader] {
-              shared->incoming = reader([&shared](double share) {
+    WorkDialog(QWidget& window, const QString& title, const std::function<void(const Progress&)>& work)
+        : QProgressDialog{title, tr("Cancel"), 0, percent, &window},
+          thread_{QThread::create([shared = shared_, work] {
+              work([&shared](double share) {
                   shared->progress = static_cast<int>(share * percent);
                   return !shared->cancelled;
               });
@@ -39,15 +38,15 @@ class ReadingDialog : public QProgressDialog {
         connect(&timer_, &QTimer::timeout, this, [this] { setValue(shared_->progress); });
         timer_.start(refreshed);
     }
-    ReadingDialog(const ReadingDialog&) = delete;
-    ReadingDialog& operator=(const ReadingDialog&) = delete;
-    ~ReadingDialog() override {
+    WorkDialog(const WorkDialog&) = delete;
+    WorkDialog& operator=(const WorkDialog&) = delete;
+    ~WorkDialog() override {
         shared_->cancelled = true;
         thread_->wait();
     }
 
     QThread& thread() { return *thread_; }
-    const Shared& shared() const { return *shared_; }
+    bool isCancelled() const { return shared_->cancelled; }
 
   private:
     std::shared_ptr<Shared> shared_ = std::make_shared<Shared>();
@@ -57,17 +56,17 @@ class ReadingDialog : public QProgressDialog {
 
 } // namespace
 
-void readBeside(QWidget& window, const std::function<Incoming(const Progress& progress)>& reader,
-                const std::function<void(const Incoming&)>& done) {
-    auto* const reading = new ReadingDialog{window, reader};
-    QObject::connect(&reading->thread(), &QThread::finished, reading, [reading, done] {
-        reading->hide();
-        reading->deleteLater();
-        if (!reading->shared().cancelled) {
-            done(reading->shared().incoming);
+void workBeside(QWidget& window, const QString& title, const std::function<void(const Progress&)>& work,
+                const std::function<void()>& done) {
+    auto* const dialog = new WorkDialog{window, title, work};
+    QObject::connect(&dialog->thread(), &QThread::finished, dialog, [dialog, done] {
+        dialog->hide();
+        dialog->deleteLater();
+        if (!dialog->isCancelled()) {
+            done();
         }
     });
-    reading->thread().start();
+    dialog->thread().start();
 }
 
 } // namespace tessaly

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "foundation/SavedFile.h"
+
+#include <QObject>
+#include <QTimer>
+#include <functional>
+#include <optional>
+
+namespace tessaly {
+
+class CustomTextView;
+class MainWindow;
+
+/// The file that the stylesheet is saved in as the view shows it: at the user's command, or at every change.
+/// Never in place of what others wrote there meanwhile, unless the user names the file anew.
+class StylesheetFile : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Both must outlive the object.
+    StylesheetFile(const CustomTextView& view, MainWindow& window);
+
+    /// Asks for a file where there is none yet.
+    void save();
+    void saveAs();
+
+    /// Whether every change is saved, at most one a picture of the display. Asks for a file where there is
+    /// none yet; a failure ends it.
+    void saveOnEveryChange(bool wanted);
+
+    /// Saves the last change if it is still to be saved.
+    void finish();
+
+  Q_SIGNALS:
+    void savesOnEveryChange(bool saves);
+
+  private:
+    void ask(const std::function<void()>& then);
+    bool saveAndTell();
+    void changed();
+    void saveNow();
+    std::error_code write(AtomicFile::Durability durability);
+    void stopFollowing();
+
+    const CustomTextView& view_;
+    MainWindow& window_;
+    std::optional<SavedFile> file_;
+    bool follows_ = false;
+    QTimer toBeSaved_; ///< runs from the first change that is not saved yet
+};
+
+} // namespace tessaly
