@@ -9,15 +9,13 @@
 #include "sourceview/qt/CustomTextView.h"
 #include "sourceview/qt/SourceView.h"
 
-#include <QStackedWidget>
-
 namespace tessaly {
 
 CodeCopy::CodeCopy(Document& document, MainWindow& window) : document_{document}, window_{window} {}
 
 void CodeCopy::copyShownText() {
     const MainWindow::Views& views = window_.views();
-    if (views.sourceCodeContainer->currentWidget() == views.page) {
+    if (window_.shownPage() == views.page) {
         copy(toQString(views.page->textView().text()), tr("page"));
     } else {
         copyStylesheet();

@@ -5,6 +5,7 @@
 #include "app/GradientIntake.h"
 #include "app/MainMenu.h"
 #include "app/MessageLine.h"
+#include "app/WindowArrangement.h"
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/StopControlPanel.h"
 #include "chrome/ProductInfo.h"
@@ -15,19 +16,16 @@
 #include "sourceview/qt/SourceView.h"
 
 #include <QDragEnterEvent>
-#include <QHBoxLayout>
+#include <QLayout>
 #include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 namespace tessaly {
 namespace {
 
-constexpr int margin = 16;
-constexpr int spacing = 8;
-constexpr QSize startSize{980, 760};
+constexpr int startHeight = 760;
 constexpr QSize frame{16, 40}; // what a desktop's window borders and title take at most
 
 // A copy, whatever is proposed: after a move the source would take its text away.
@@ -39,6 +37,8 @@ void acceptCopy(QDropEvent& event) {
 }
 
 } // namespace
+
+MainWindow::~MainWindow() = default;
 
 MainWindow::MainWindow(QWidget* parent)
     : QWidget{parent},
@@ -59,8 +59,11 @@ MainWindow::MainWindow(QWidget* parent)
              new MessageLine} {
     setWindowTitle(toQString(product::name));
     setAcceptDrops(true);
-    layOut();
-    resize(startSize.boundedTo(room()));
+    evenHeights();
+    const QSize room = screen()->availableSize() - frame;
+    arrangement_ = std::make_unique<WindowArrangement>(*this, views_, room);
+    resize(QSize{minimumSizeHint().width(), startHeight}.boundedTo(room));
+    layout()->activate(); // the presets ask how high their list is
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -74,69 +77,26 @@ void MainWindow::dropEvent(QDropEvent* event) {
     Q_EMIT dropped(*event->mimeData());
 }
 
-QSize MainWindow::room() const {
-    return screen()->availableSize() - frame;
-}
-
-void MainWindow::layOut() {
-    auto* const editor = new QVBoxLayout;
-    editor->setSpacing(margin);
-    editor->addWidget(views_.canvas);
-    editor->addWidget(views_.stopControls);
-    editor->addStretch();
-
-    auto* const buttons = buttonRow();
-    auto* const side = new QVBoxLayout;
-    side->setSpacing(margin);
-    side->addWidget(views_.presets, 0, Qt::AlignRight);
-    side->addStretch();
-    side->addLayout(buttons);
-
-    auto* const top = new QHBoxLayout;
-    top->setSpacing(margin);
-    top->addLayout(editor);
-    top->addLayout(side, 1);
-
-    auto* const whole = new QVBoxLayout{this};
-    whole->setMenuBar(views_.menu);
-    whole->setContentsMargins(margin, margin, margin, 0);
-    whole->setSpacing(0);
-    whole->addLayout(top);
-    whole->addSpacing(margin);
-    whole->addLayout(codeArea(), 1);
-    whole->addWidget(views_.message);                 // in place of the lower margin
-    if (minimumSizeHint().width() > room().width()) { // a small screen and a large font
-        buttons->setDirection(QBoxLayout::TopToBottom);
+// Buttons stand beside fields.
+void MainWindow::evenHeights() {
+    const int height = views_.stopControls->rowHeight();
+    for (QWidget* const button : std::initializer_list<QWidget*>{
+             views_.copy, views_.copyOptions, views_.about, views_.homepage, views_.relatedApps}) {
+        button->setFixedHeight(height);
     }
 }
 
-QBoxLayout* MainWindow::buttonRow() const {
-    auto* const row = new QBoxLayout{QBoxLayout::LeftToRight};
-    row->setSpacing(spacing);
-    row->addStretch();
-    row->addWidget(views_.about);
-    row->addWidget(views_.homepage);
-    row->addWidget(views_.relatedApps);
-    return row;
+void MainWindow::showPage(QWidget* page) {
+    arrangement_->showPage(page);
 }
 
-QLayout* MainWindow::codeArea() const {
-    views_.sourceCodeContainer->addWidget(views_.stylesheet);
-    views_.sourceCodeContainer->addWidget(views_.page);
-    views_.sourceCodeContainer->addWidget(views_.preview);
-    auto* const header = new QHBoxLayout;
-    header->setSpacing(spacing);
-    header->addWidget(views_.tabs, 1);
-    auto* const copy = new QHBoxLayout;
-    copy->setSpacing(0);
-    copy->addWidget(views_.copy);
-    copy->addWidget(views_.copyOptions);
-    header->addLayout(copy);
-    auto* const area = new QVBoxLayout;
-    area->setSpacing(0);
-    area->addLayout(header);
-    area->addWidget(views_.sourceCodeContainer, 1);
-    return area;
+const QWidget* MainWindow::shownPage() const {
+    return arrangement_->shownPage();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    arrangement_->setWindowWidth(width());
 }
 
 } // namespace tessaly

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QWidget>
+#include <memory>
 
-class QBoxLayout;
 class QMimeData;
 class QPushButton;
 class QStackedWidget;
@@ -19,13 +19,17 @@ class PresetPanel;
 class SourceView;
 class StopControlPanel;
 class WebPreviewView;
+class WindowArrangement;
 
-/// The one window and its layout: creates and places every view, and knows nothing of what they do.
+/// The one window and its layout: creates every view, and knows nothing of what they do.
 class MainWindow : public QWidget {
     Q_OBJECT
 
   public:
     explicit MainWindow(QWidget* parent = nullptr);
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+    ~MainWindow() override;
 
     /// Made and placed by the window, which owns them; who works with them borrows them.
     struct Views {
@@ -47,21 +51,24 @@ class MainWindow : public QWidget {
     };
     const Views& views() const { return views_; }
 
+    /// Stylesheet, page or preview.
+    void showPage(QWidget* page);
+    const QWidget* shownPage() const;
+
   Q_SIGNALS:
     /// A text, or files, beside the views that take texts themselves.
     void dropped(const QMimeData& data);
 
   protected:
+    void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
-    void layOut();
-    QBoxLayout* buttonRow() const;
-    QLayout* codeArea() const;
-    QSize room() const; ///< that the screen has for the window
+    void evenHeights();
 
     Views views_;
+    std::unique_ptr<WindowArrangement> arrangement_;
 };
 
 } // namespace tessaly

@@ -231,7 +231,7 @@ void Tessaly::showSourceCodeView(std::int64_t index) {
     } else if (index == 1) {
         page = views.page;
     }
-    views.sourceCodeContainer->setCurrentWidget(page);
+    mainWindow_->showPage(page);
     views.copy->setEnabled(page != views.preview);
     views.copyOptions->wholeText().setEnabled(page != views.preview);
 }

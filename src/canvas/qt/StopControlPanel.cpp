@@ -11,6 +11,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <algorithm>
 
 namespace tessaly {
 namespace {
@@ -72,6 +73,12 @@ StopControlPanel::StopControlPanel(QWidget* parent)
         grid->addWidget(labelFor(*field, tr(cell.label)), cell.row, column);
     }
     addLists(*grid);
+    const int height = rowHeight();
+    for (QWidget* const control : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (qobject_cast<QLabel*>(control) == nullptr) {
+            control->setFixedHeight(height);
+        }
+    }
     for (int block = 0; block < lastBlock; ++block) {
         grid->setColumnMinimumWidth(block * columnsPerBlock + columnsPerBlock - 1, columnGap);
     }
@@ -125,6 +132,10 @@ void StopControlPanel::addLists(QGridLayout& grid) {
     add(*selectedOrientationComboBox_, tr("Or&ientation"), 0, listBlock);
     add(*selectedColorFormatComboBox_, tr("Not&ation"), 1, listBlock);
     add(*hexadecimal_, tr("He&x"), 2, listBlock);
+}
+
+int StopControlPanel::rowHeight() const {
+    return std::max(hexadecimal_->sizeHint().height(), selectedOrientationComboBox_->sizeHint().height());
 }
 
 StopControlSet StopControlPanel::controlSet() const {

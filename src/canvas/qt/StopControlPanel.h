@@ -27,6 +27,9 @@ class StopControlPanel : public QWidget {
     /// For the rules that work with the controls.
     StopControlSet controlSet() const;
 
+    /// Of the grid that the controls stand in: fields, lists and buttons are as high.
+    int rowHeight() const;
+
     /// Tells the rules from now on what the user does.
     void connectTo(StopControls& rules);
 

@@ -15,14 +15,13 @@ namespace tessaly {
 namespace {
 
 constexpr int spacing = 8;
-constexpr int scrollViewHeightInPoints = 232; // two rows of thumbnails need no scroller
+constexpr int leastHeight = 152; // of the scroll view: two rows of thumbnails and the start of a third
 
-// The container's width, and what a scroller takes beyond the room that the narrow columns leave for it.
+// The container with a scroller beside it.
 int scrollViewWidth(const QScrollArea& view) {
     constexpr int containerWidth = static_cast<int>(PresetSlotGeometry::containerWidth);
-    constexpr int roomForScroller = 8;
     const int scroller = view.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &view);
-    return containerWidth + 2 * view.frameWidth() + std::max(scroller - roomForScroller, 0);
+    return containerWidth + 2 * view.frameWidth() + scroller;
 }
 
 } // namespace
@@ -39,7 +38,8 @@ PresetPanel::PresetPanel(QWidget* parent)
     QScrollArea& scrollView = *presetGradienContainerScrollView_;
     scrollView.setWidget(presetGradienContainerView_);
     scrollView.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrollView.setFixedSize(scrollViewWidth(scrollView), scrollViewHeightInPoints);
+    scrollView.setFixedWidth(scrollViewWidth(scrollView));
+    scrollView.setMinimumHeight(leastHeight);
     scrollView.setFocusPolicy(Qt::NoFocus);
     connect(presetGradienContainerView_, &PresetGradienContainerView::currentMoved, this,
             [&scrollView](const QRect& place) {

@@ -39,7 +39,7 @@ class WindowTest : public testing::Test {
         QTest::mouseRelease(&canvas, Qt::LeftButton, {}, marker + QPoint{dx, 0});
     }
 
-    QWidget* shownPage() const { return views.sourceCodeContainer->currentWidget(); }
+    const QWidget* shownPage() { return program.mainWindow().shownPage(); }
 
     // The level of grey that the screen shows at that share of the width of the preview's box, or below it.
     int previewLevel(double share, int y = 100) const {
