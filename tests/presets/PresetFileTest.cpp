@@ -2,13 +2,9 @@
 
 #include "support/FailingDisk.h"
 #include "support/FileSizeLimit.h"
-#include "support/LogCapture.h"
-#include "support/PresetProgram.h"
-#include "support/TemporaryFolder.h"
-#include "support/WithoutPrivileges.h"
+#include "support/PresetTest.h"
 
 #include <functional>
-#include <gtest/gtest.h>
 #include <span>
 #include <sys/wait.h>
 
@@ -37,7 +33,7 @@ void save(PresetProgram& program, std::int64_t number) {
     program.gallery.restore(std::make_shared<const GradientList>(list)); // which saves it
 }
 
-class PresetFileTest : public testing::Test {
+class PresetFileTest : public PresetTest {
   protected:
     std::vector<fs::path> setAside() const {
         std::vector<fs::path> found(fs::directory_iterator{folder}, {});
@@ -46,14 +42,19 @@ class PresetFileTest : public testing::Test {
         });
         return found;
     }
-    static std::string countIn(const fs::path& database) {
-        return SqliteConnection::open(database).value("select count(*) from MainTable").value_or("none");
+    /// Presets in each of them, or "none" in what is no database.
+    std::vector<std::string> countsSetAside() const {
+        std::vector<std::string> counts;
+        for (const fs::path& path : setAside()) {
+            const auto count = SqliteConnection::open(path).value("select count(*) from MainTable");
+            counts.push_back(count.value_or("none"));
+        }
+        return counts;
     }
     void saveAlone(std::int64_t number) const {
         PresetProgram program{support.path};
         save(program, number);
     }
-    std::vector<Gradient> stored() const { return PresetProgram{support.path}.presets(); }
 
     /// Runs in a process of its own. True: it came to the call at which its disk fails.
     static bool isStruck(const std::function<void()>& run) {
@@ -68,53 +69,30 @@ class PresetFileTest : public testing::Test {
         EXPECT_TRUE(struck || status == 0) << "a crash of its own: " << status;
         return struck;
     }
-
-    /// Another program's connection, in the midst of something.
-    std::shared_ptr<SqliteConnection> other(const char* statement) const {
-        auto other = std::make_shared<SqliteConnection>(SqliteConnection::open(file));
-        EXPECT_EQ(other->execute(statement).message, std::nullopt);
-        return other;
-    }
-    void overwrite(std::streamoff place, char with, std::size_t bytes) const {
-        std::fstream{file, std::ios::in | std::ios::out}.seekp(place) << std::string(bytes, with);
-    }
-
-    LogCapture log;
-    // In memory where that can be had: the tests force thousands of files to the disk.
-    const TemporaryFolder support{fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()};
-    const fs::path folder = support.path / "Tessaly";
-    const fs::path file = folder / "localDB.sqlite3";
-    const fs::path safetyCopy = folder / "localDB.sqlite3.safety";
 };
 
 TEST_F(PresetFileTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAside) {
+    const auto by = [this](const char* sql) { return [this, sql] { other(sql); }; };
     struct Row {
         const char* name;
         std::size_t shown; ///< presets, before the first save
         std::function<void()> damage;
     };
-    const std::vector<Row> rows{
+    const Row rows[] = {
         {"no damage", 7, [] {}},
         {"no database", 0, [&] { overwrite(0, 'x', 100); }},
         {"a later format that can only be read", 7, [&] { overwrite(18, '!', 1); }},
-        {"cut short", 0, [this] { fs::resize_file(file, 4096); }},
         {"a broken page of stops", 7, [&] { overwrite(8192, '\xFF', 100); }},
         {"a cut page that reads as other values", 7, [this] { fs::resize_file(file, 12'200); }},
-        {"another column", 0, [this] { other("alter table MainTable rename orientationType to kind"); }},
+        {"another column", 0, by("alter table MainTable rename orientationType to kind")},
         {"a table that a module makes up", 0,
-         [this] {
-             other("drop table MainTable; create virtual table MainTable using fts4(mainIndex, "
-                   "orientationType)");
-         }},
+         by("drop table MainTable; create virtual table MainTable using fts4(mainIndex, orientationType)")},
         {"a view that never ends", 0,
-         [this] {
-             other("drop table MainTable; create view MainTable as with recursive n(mainIndex) as (select 1 "
-                   "union all select mainIndex + 1 from n) select mainIndex, 1 as orientationType from n");
-         }},
-        {"a view", 7, [this] {
-             other("alter table AdditionalTable rename to Stops;"
-                   "create view AdditionalTable as select * from Stops");
-         }}};
+         by("drop table MainTable; create view MainTable as with recursive n(mainIndex) as (select 1 "
+            "union all select mainIndex + 1 from n) select mainIndex, 1 as orientationType from n")},
+        {"a view", 7,
+         by("alter table AdditionalTable rename to Stops;"
+            "create view AdditionalTable as select * from Stops")}};
     for (const Row& row : rows) {
         fs::remove_all(folder);
         saveAlone(27);
@@ -156,77 +134,58 @@ TEST_F(PresetFileTest, aFailureAtAnyCallLosesNothingAndWhatCannotBeReadIsSetAsid
 }
 
 TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
-    const auto unprivileged = withoutPrivileges();
     const fs::path elsewhere = support.path / "elsewhere.sqlite3";
+    const fs::path safetyCopy = folder / "localDB.sqlite3.safety";
     std::shared_ptr<void> held;
+    const auto hold = [&](const char* sql) { return [&, sql] { held = other(sql); }; };
+    const auto write = [&](const char* sql) { return [&, sql] { other(sql); }; };
+    const auto keepSafe = [&](const fs::path& copied, const char* sql) {
+        return [&, sql] { fs::copy_file(copied, safetyCopy), hold(sql)(); };
+    };
     const auto nothing = [] {};
-    const auto copyOverFile = [&] { fs::copy_file(elsewhere, file, fs::copy_options::overwrite_existing); };
+    const auto release = [&] { held.reset(); };
+    const auto copyOver = [&] { fs::copy_file(elsewhere, file, fs::copy_options::overwrite_existing); };
+    const auto fill = [&] { held = limitFileSize(0); };
+    const auto breakSafetyCopy = [&] { std::ofstream{safetyCopy} << "neither is this"; };
+    const auto crash = [&] { crashAfter("delete from MainTable; delete from AdditionalTable"); };
+    const auto becomeALink = [&] {
+        fs::rename(file, elsewhere);
+        fs::permissions(elsewhere, fs::perms{0400});
+        fs::create_symlink("../elsewhere.sqlite3", file);
+    };
+    const char* const more = "insert into MainTable values (99, 0)";
+    const char* const moreInALog = "pragma journal_mode=wal; insert into MainTable values (99, 0)";
     struct Row {
         const char* name;
-        std::function<void()> before;    ///< what is done to a file with list 27
+        std::function<void()> before;    ///< what is done to a file with list 27, list 24 lying elsewhere
         std::function<void()> meanwhile; ///< the program runs, and then saves list 22, or ends
         std::vector<std::string> presetsSetAside{};
         std::vector<Gradient> expected = listOf({22});
         fs::perms permissions{0600}; ///< of the file, or of that behind the link
     };
-    const auto makeLink = [&](fs::perms permissions) {
-        fs::rename(file, elsewhere);
-        fs::permissions(elsewhere, permissions);
-        fs::create_symlink("../elsewhere.sqlite3", file);
-    };
-    const std::vector<Row> rows{
-        {"nothing", nothing, nothing},
-        {"copied over", nothing, copyOverFile, {"4"}},
-        {"moved over", nothing, [&] { fs::rename(elsewhere, file); }, {"4"}},
+    const Row rows[] = {
+        {"copied over", nothing, copyOver, {"4"}},
         {"removed", nothing, [&] { fs::remove(file); }},
-        {"written to by others", nothing, [&] { other("insert into MainTable values (99, 0)"); }, {"8"}},
-        {"kept open by another program, with a log",
-         nothing,
-         [&] { held = other("pragma journal_mode=wal; insert into MainTable values (99, 0)"); },
-         {"8"}},
-        {"read by another program", nothing, [&] { held = other("begin; select * from MainTable"); }},
-        {"locked", [&] { held = other("begin exclusive"); }, [&] { held.reset(); }, {}, listOf({27, 22})},
-        {"no room", nothing, [&] { held = limitFileSize(0); }},
-        {"a link", [&] { makeLink(fs::perms{0640}); }, nothing, {}, listOf({22}), fs::perms{0640}},
-        {"a link to a file that can only be read",
-         [&] { makeLink(fs::perms{0400}); },
-         nothing,
-         {},
-         listOf({22}),
-         fs::perms{0400}},
-        {"a link to a file that is removed", [&] { makeLink(fs::perms{0640}); },
-         [&] { fs::remove(elsewhere); }},
-        {"a log that a crash left",
-         [&] {
-             other("pragma journal_mode=wal; update MainTable set orientationType=99");
-             held = other("delete from MainTable; delete from AdditionalTable");
-             for (const char* const suffix : {"", "-wal"}) {
-                 fs::copy_file(file.native() + suffix, elsewhere.native() + suffix,
-                               fs::copy_options::overwrite_existing);
-             }
-             held.reset();
-             fs::rename(elsewhere, file);
-             fs::rename(elsewhere.native() + "-wal", file.native() + "-wal");
-         },
-         nothing},
+        {"written to by others", nothing, write(more), {"8"}},
+        {"kept open by another program, with a log", nothing, hold(moreInALog), {"8"}},
+        {"read by another program", nothing, hold("begin; select * from MainTable")},
+        {"locked", hold("begin exclusive"), release, {}, listOf({27, 22})},
+        {"no room", nothing, fill},
+        {"a link to what can only be read", becomeALink, nothing, {}, listOf({22}), fs::perms{0400}},
+        {"a link to a file that is removed", becomeALink, [&] { fs::remove(elsewhere); }},
+        {"a log that a crash left", crash, nothing},
         {"a safety copy of a save that did not finish",
-         [&] {
-             fs::copy_file(file, safetyCopy);
-             other("delete from MainTable where mainIndex > 0");
-         },
+         keepSafe(file, "delete from MainTable where mainIndex > 0"),
          nothing,
          {"1"}},
-        {"locked, and a safety copy that holds less",
-         [&] {
-             fs::copy_file(elsewhere, safetyCopy);
-             held = other("begin exclusive");
-         },
-         [&] { held.reset(); },
+        {"a safety copy that holds less",
+         keepSafe(elsewhere, "begin exclusive"),
+         release,
          {"4"},
          listOf({27, 22})},
-        {"a safety copy that holds no more", [&] { fs::copy_file(file, safetyCopy); }, nothing, {"7"}},
+        {"a safety copy that holds no more", keepSafe(file, "select 1"), nothing, {"7"}},
         {"an empty safety copy", [&] { std::ofstream{safetyCopy}; }, nothing, {"none"}},
-        {"a broken safety copy", [&] { std::ofstream{safetyCopy} << "neither is this"; }, nothing, {"none"}}};
+        {"a broken safety copy", breakSafetyCopy, nothing, {"none"}}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         fs::remove_all(folder);
@@ -243,11 +202,7 @@ TEST_F(PresetFileTest, whatOthersDoToTheFileOrLeftBesideItIsKept) {
             held.reset();
         }
         EXPECT_EQ(stored(), row.expected);
-        std::vector<std::string> found;
-        for (const fs::path& path : setAside()) {
-            found.push_back(countIn(path));
-        }
-        EXPECT_EQ(found, row.presetsSetAside);
+        EXPECT_EQ(countsSetAside(), row.presetsSetAside);
         EXPECT_EQ(fs::is_symlink(file), isLink);
         EXPECT_EQ(fs::status(file).permissions(), row.permissions);
     }

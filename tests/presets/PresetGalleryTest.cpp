@@ -1,9 +1,13 @@
+// Where the thumbnails of the presets are.
+
 #include "presets/PresetGallery.h"
+#include "presets/PresetSlotGeometry.h"
 
 #include "support/LogCapture.h"
 #include "support/PresetProgram.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 namespace tessaly {
 namespace {
@@ -15,33 +19,25 @@ TEST(PresetGallery, laysItsThumbnailsOutCloserWhereTheScrollerNeedsRoom) {
     Gradient edited;
     PresetGallery gallery{edited, history, view, {[] {}, [] {}}};
     EXPECT_EQ(view.containerSize, (Size{263, 125}));
-    const auto add = [&](int times) {
-        for (; times > 0; --times) {
-            gallery.addGradientIntoPreset(edited);
-        }
-    };
-    const auto remove = [&](int times) {
-        for (; times > 0; --times) {
-            gallery.deletePreset(0);
-        }
-    };
     const struct {
-        std::function<void()> act;
+        int added; ///< negative: deleted
+        double scrollHeight;
         double height;     ///< of the container
         double columns;    ///< their distance
         std::string slots; ///< that were worked out
         std::string last;  ///< of them
-    } rows[] = {{[&] { add(5); }, 170, 52, "1 2 3 4 5 ", "PosX: 4.000000; PosY: 0.000000"},
-                {[&] { view.scrollHeight = 215, add(1); }, 215, 49, "6 1 2 3 4 5 6 ",
-                 "PosX: 0.000000; PosY: 1.000000"},
-                {[&] { add(1); }, 215, 49, "7 ", "PosX: 1.000000; PosY: 1.000000"},
-                {[&] { remove(2); }, 215, 49, "1 2 3 4 5 6 1 2 3 4 5 ", "PosX: 4.000000; PosY: 0.000000"},
-                {[&] { remove(2); }, 215, 49, "1 2 3 4 1 2 3 ", "PosX: 2.000000; PosY: 0.000000"},
-                {[&] { add(1); }, 170, 52, "4 1 2 3 4 ", "PosX: 3.000000; PosY: 0.000000"},
-                {[&] { remove(1); }, 170, 52, "1 2 3 ", "PosX: 2.000000; PosY: 0.000000"}};
+    } rows[] = {{5, 250, 170, 52, "1 2 3 4 5 ", "PosX: 4.000000; PosY: 0.000000"},
+                {1, 215, 215, 49, "6 1 2 3 4 5 6 ", "PosX: 0.000000; PosY: 1.000000"},
+                {1, 215, 215, 49, "7 ", "PosX: 1.000000; PosY: 1.000000"},
+                {-2, 215, 215, 49, "1 2 3 4 5 6 1 2 3 4 5 ", "PosX: 4.000000; PosY: 0.000000"},
+                {-2, 215, 215, 49, "1 2 3 4 1 2 3 ", "PosX: 2.000000; PosY: 0.000000"},
+                {1, 215, 170, 52, "4 1 2 3 4 ", "PosX: 3.000000; PosY: 0.000000"}};
     for (const auto& row : rows) {
         log.messages.clear();
-        row.act();
+        view.scrollHeight = row.scrollHeight;
+        for (int i = 0; i < std::abs(row.added); ++i) {
+            row.added > 0 ? gallery.addGradientIntoPreset(edited) : gallery.deletePreset(0);
+        }
         EXPECT_EQ(view.containerSize, (Size{263, row.height}));
         EXPECT_EQ(gallery.slots().thumbnailRect(6), (Rect{row.columns + 15, 60, 40, 40}));
         std::string slots;
@@ -50,6 +46,26 @@ TEST(PresetGallery, laysItsThumbnailsOutCloserWhereTheScrollerNeedsRoom) {
         }
         EXPECT_EQ(slots, row.slots);
         EXPECT_EQ(log.messages.back(), row.last) << "column and row";
+    }
+}
+
+TEST(PresetSlotGeometry, hitTestAndVisibleRangeAgreeWithTheRectangles) {
+    const PresetSlotGeometry slots{PresetSlotGeometry::narrowThumbDistant};
+    EXPECT_EQ(slots.thumbnailRect(9'999), (Rect{211, 89'970, 40, 40}));
+    std::mt19937 random{1};
+    std::uniform_int_distribution<int> place{-120, 660};
+    for (int i = 0; i < 50'000; ++i) {
+        const std::size_t count = random() % 14;
+        const Point point{place(random) / 2.0, place(random) / 2.0}; // edges are met often
+        const auto visible = PresetSlotGeometry::positionsBetween(point.y, point.y + 30, count);
+        std::optional<std::size_t> hit;
+        for (std::size_t position = 0; position < count; ++position) {
+            const Rect rect = slots.thumbnailRect(position);
+            const bool isVisible = rect.maxY() > point.y && rect.y < point.y + 30;
+            ASSERT_EQ(visible.first <= position && position < visible.last, isVisible);
+            hit = rect.contains(point) ? position : hit;
+        }
+        ASSERT_EQ(slots.positionAt(point, count), hit) << point.x << ' ' << point.y << " of " << count;
     }
 }
 
