@@ -5,7 +5,37 @@
 set -euo pipefail
 program=$1
 
-. "$(dirname "$0")/../support/program.sh"
+. "$(dirname "$0")/../support/places.sh"
+. "$(dirname "$0")/../support/private.sh"
+styles=$TMPDIR/WebFolder0/styles.css
+openbox >/dev/null 2>&1 & # a window manager: it is what asks a window to close
+eventually wmctrl -m # it manages what is mapped from now on; what is mapped while it starts may stay hidden
+expect() {
+    eventually grep -qF -- "$1" "$styles"
+}
+at() {
+    xdotool mousemove --window "$window" "$1" "$2"
+}
+click_at() {
+    at "$@" && xdotool click 1
+}
+begin() {
+    "$program" 2>"$work/log" &
+    pid=$!
+    window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$pid" --name '^Tessaly$' | head -n 1) || fail "no window"
+    expect '#ffffff 100%);'
+}
+# Ends the program by the command, and in order.
+finish() {
+    "$@"
+    local status=0
+    wait "$pid" || status=$?
+    [ "$status" -eq 0 ] || fail "the program ended with status $status"
+    [ -z "$(ls "$TMPDIR")" ] || fail "left behind: $(ls "$TMPDIR")"
+}
+database() {
+    sqlite3 "$XDG_DATA_HOME/Tessaly/localDB.sqlite3" "$1"
+}
 
 begin
 eval "$(xdotool getwindowgeometry --shell "$window")"
@@ -74,13 +104,6 @@ xdotool key ctrl+z ctrl+z
 expect '#ffffff 50%,'
 xdotool key alt+e Return # "Undo Delete Preset"
 eventually rows_are_stored
-xdotool key alt+e Return
-expect '#ffffff 100%);'
-xdotool key ctrl+shift+z ctrl+shift+z
-eventually none_is_stored
-expect '50%);'
-xdotool key ctrl+z ctrl+z
-eventually rows_are_stored
 echo '.a { background: linear-gradient(to top, teal 0%, gold 100%) }' >"$work/a.css"
 timeout 10 "$program" "$work/a.css" 2>"$work/third" || fail "a second start with a file did not end"
 expect '#008080 0%,'
@@ -88,7 +111,7 @@ printf 'radial-gradient(lime, navy)' | xclip -in -selection clipboard
 xdotool key ctrl+v
 expect '#00ff00 0%,'
 xdotool key ctrl+z ctrl+z
-expect '#ffffff 100%);'
+expect '#ff0000 50%);'
 click_at $red && xdotool type 12 # not applied
 finish kill -TERM "$pid"
 echo "ok"

@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Presses the tab of the preview by the assistive bus, and waits for the display to show the gradient there."""
+"""Presses the tab of the preview by the assistive bus, and waits for the display to show the gradient there; then moves its
+last stop, mostly faster than the page loads, and waits for what comes of it."""
 import glob
 import os
 import subprocess
@@ -37,7 +38,8 @@ def screen():
     return picture
 
 
-def shows_gradient(box):
+def shows_gradient(box, end):
+    """From black to white, which is reached at that share of the width."""
     picture = screen()
     pixels, row, size = picture.get_pixels(), picture.get_rowstride(), picture.get_n_channels()
 
@@ -51,9 +53,9 @@ def shows_gradient(box):
         return False  # no window
     for share in (0.1, 0.25, 0.5, 0.75, 0.9):
         x = int(left + box.x + BODY_MARGIN + share * (box.width - 2 * BODY_MARGIN))
-        if any(abs(level - 255 * share) > 4 for level in at(x, top + box.y + 100)):
+        if any(abs(level - 255 * min(share / end, 1)) > 4 for level in at(x, top + box.y + 100)):
             return False
-    return True
+    return at(left + box.x + box.width // 2, top + box.y + 270) == bytes([255] * 3)  # below it, the page
 
 
 def eventually(condition):
@@ -73,10 +75,17 @@ def tab_can_be_pressed():
     return tab and tab.do_action(0)
 
 
-def preview_shows_gradient():
+def preview_shows_gradient(end=1.0):
     view = find("Web preview")
-    return view and shows_gradient(view.get_extents(Atspi.CoordType.WINDOW))
+    return view and shows_gradient(view.get_extents(Atspi.CoordType.WINDOW), end)
 
 
 eventually(tab_can_be_pressed)
 eventually(preview_shows_gradient)
+position = find("Position stepper")
+for pause in (0, 5, 10, 15, 20, 25, 30, 40):  # milliseconds
+    end = 0.5 + pause / 100
+    position.set_current_value(1.0)
+    time.sleep(pause / 1000)
+    position.set_current_value(end)
+    eventually(lambda: preview_shows_gradient(end))
