@@ -1,5 +1,4 @@
 #include "canvas/qt/CanvasPicture.h"
-#include "support/Gradients.h"
 
 #include <QLineF>
 #include <cmath>
