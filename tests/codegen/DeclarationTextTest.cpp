@@ -43,7 +43,6 @@ TEST(DeclarationText, keepsArrayOrderAndOpacityAndSurvivesMissingPieces) {
          standard + "\n\t\t\t\trgba(256,0,0, 0.4) 90%, \n\t\t\t\trgba(0,0,0, 0.5) 25.6%);\n"},
         {{red, formless}, 2, Old, "\tbackground: rgba(256,0,0, 0.4);\n"},
         {{red, formless}, 2, MSFilter, filter + "#ff0000',\n\t\tendColorstr='(null)',GradientType=1 );\n"},
-        {{red}, -1, Standard, standard + "(null));\n"},
         {{red}, 5, Standard, standard + "(null));\n"},
         {{red}, 5, Old, "\tbackground: (null);\n"},
         {{}, 0, MSFilter, ""}};

@@ -35,10 +35,6 @@ class FakeEngine : public QWidget, public PreviewEngine {
     int order_ = 0;
 };
 
-#ifdef TESSALY_BROKEN_MODULE
-void isNowhere();
-#endif
-
 class FakeModule : public QObject, public PreviewModule {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "tessaly.PreviewModule" FILE "module.json")
@@ -47,9 +43,6 @@ class FakeModule : public QObject, public PreviewModule {
   public:
     std::unique_ptr<PreviewEngine> makeEngine(QWidget& parent, PreviewEngine::Events events,
                                               const Log& /*log*/) override {
-#ifdef TESSALY_BROKEN_MODULE
-        isNowhere();
-#endif
         return std::make_unique<FakeEngine>(parent, std::move(events));
     }
 };
