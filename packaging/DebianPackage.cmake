@@ -11,7 +11,9 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
-set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${TESSALY_HOMEPAGE_URL})
+if(TESSALY_HOMEPAGE_URL)
+    set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${TESSALY_HOMEPAGE_URL})
+endif()
 # The libraries bring everything else along: the window system's plugin, fonts, and the engine's process and data.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # For the links, which are opened by the desktop, for the icon to be found, and for desktops without X.

@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "app/MessageLine.h"
 #include "app/SavingFiles.h"
+#include "foundation/Utf8.h"
 #include "sourceview/qt/CustomTextView.h"
 
 namespace tessaly {
@@ -85,9 +86,7 @@ void StylesheetFile::finish() {
 }
 
 std::error_code StylesheetFile::write(Durability durability) {
-    const std::u16string_view text = view_.text();
-    return file_->save(QStringView{text.data(), static_cast<qsizetype>(text.size())}.toUtf8().toStdString(),
-                       durability);
+    return file_->save(toUtf8(view_.text()), durability);
 }
 
 void StylesheetFile::stopFollowing() {

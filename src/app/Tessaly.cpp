@@ -2,6 +2,7 @@
 
 #include "app/CopyButton.h"
 #include "app/CopyOptions.h"
+#include "app/Homepage.h"
 #include "app/MainMenu.h"
 #include "app/MainWindow.h"
 #include "app/MessageLine.h"
@@ -9,12 +10,10 @@
 #include "canvas/qt/CanvasView.h"
 #include "canvas/qt/FieldEdit.h"
 #include "canvas/qt/StopControlPanel.h"
-#include "chrome/ProductInfo.h"
 #include "chrome/TabNotification.h"
 #include "chrome/qt/About.h"
 #include "chrome/qt/MainTabView.h"
 #include "chrome/qt/RelatedApps.h"
-#include "chrome/qt/WebAddressOpener.h"
 #include "codegen/PageText.h"
 #include "codegen/qt/WebPreviewView.h"
 #include "foundation/qt/ToQString.h"
@@ -116,7 +115,7 @@ void Tessaly::answerMenu() {
         connect(button, &QPushButton::clicked, this, run);
     };
     onBoth(Command::About, views.about, [this] { openDialog(about_, *mainWindow_); });
-    onBoth(Command::Homepage, views.homepage, [] { WebAddressOpener::open(toQString(product::homepage())); });
+    onBoth(Command::Homepage, views.homepage, openHomepage);
     onBoth(Command::RelatedApplications, views.relatedApps,
            [this] { openDialog(relatedApps_, *mainWindow_); });
     views.menu->onCommand(Command::Quit, [this] { mainWindow_->close(); });

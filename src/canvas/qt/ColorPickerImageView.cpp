@@ -9,11 +9,32 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
+#include <algorithm>
 
 namespace tessaly {
 namespace {
 
 constexpr double cornerRadius = 4;
+
+// Beside the window if the screen has room there, else in its lower right corner, where it hides neither the
+// canvas nor the controls. Some systems place windows themselves.
+void placeBeside(const QWidget& window, QWidget& panel) {
+    constexpr QSize frame{16, 40}; // what a desktop's borders and title take at most
+    constexpr int gap = 8;
+    const QRect room = window.screen()->availableGeometry();
+    const QRect taken = window.frameGeometry();
+    const QSize size = panel.sizeHint() + frame;
+    const int leftOf = taken.left() - gap - size.width();
+    QPoint place{taken.right() + gap, taken.top()};
+    if (place.x() + size.width() > room.right() && leftOf >= room.left()) {
+        place.setX(leftOf);
+    } else if (place.x() + size.width() > room.right()) {
+        place = room.bottomRight();
+    }
+    panel.move(std::clamp(place.x(), room.left(), std::max(room.left(), room.right() - size.width())),
+               std::clamp(place.y(), room.top(), std::max(room.top(), room.bottom() - size.height())));
+}
 
 QRectF insetBounds(const QWidget& view, double inset) {
     return QRectF{view.rect()}.adjusted(inset, inset, -inset, -inset);
@@ -83,6 +104,9 @@ void ColorPickerImageView::openColorPanel() {
                 [this](const QColor& color) { setBackgroundColor(fromQColor(color)); });
     }
     Q_EMIT pickingBegun();
+    if (!colorPanel_->isVisible()) {
+        placeBeside(*window(), *colorPanel_);
+    }
     colorPanel_->show();
     showInColorPanel();
     colorPanel_->raise();

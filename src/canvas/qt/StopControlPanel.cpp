@@ -72,6 +72,14 @@ StopControlPanel::StopControlPanel(QWidget* parent)
         stepper->setToolTip(tr("Step it up or down; so do the keys Up and Down in the field"));
         grid->addWidget(labelFor(*field, tr(cell.label)), cell.row, column);
     }
+    QStringList carrying;
+    for (const colorFormat::Notation& notation : colorFormat::notations) {
+        if (notation.carriesOpacity) {
+            carrying += toQString(notation.title);
+        }
+    }
+    pairs_[static_cast<std::size_t>(StopValue::Opacity)].field->setToolTip(
+        tr("Carried by the notations %1").arg(carrying.join(tr(" and "))));
     addLists(*grid);
     const int height = rowHeight();
     for (QWidget* const control : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {

@@ -47,7 +47,6 @@ About::About(QWidget* mainWindow) : QDialog{mainWindow} {
 
     auto* const icon = centred(new QLabel);
     icon->setPixmap(programIcon().pixmap({iconSize, iconSize}, devicePixelRatioF()));
-    auto* const link = new WebLabel{toQString(LinkAddress::labelText(product::homepage()))};
     auto* const close = new QPushButton{tr("&Close")};
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
@@ -60,7 +59,10 @@ About::About(QWidget* mainWindow) : QDialog{mainWindow} {
     column->addWidget(nameLabel());
     column->addWidget(centred(new QLabel{tr("Version %1").arg(toQString(product::version()))}));
     column->addWidget(purposeLabel());
-    column->addWidget(link, 0, Qt::AlignHCenter);
+    if (!product::homepage().empty()) {
+        auto* const link = new WebLabel{toQString(LinkAddress::labelText(product::homepage()))};
+        column->addWidget(link, 0, Qt::AlignHCenter);
+    }
     column->addSpacing(space);
     column->addWidget(close, 0, Qt::AlignHCenter);
     close->setFocus();
