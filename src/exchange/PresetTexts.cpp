@@ -40,7 +40,7 @@ std::string sizeText(std::size_t count) {
 
 std::string squareText(std::size_t index) {
     return "<rect x=\"" + std::to_string(index % columns * step) + "\" y=\"" +
-           std::to_string(index / columns * step) + "\" width=\"64\" height=\"64\" fill=\"url(#" +
+           std::to_string(index / columns * step) + R"(" width="64" height="64" fill="url(#)" +
            nameOf(index) + ")\"/>\n";
 }
 

@@ -51,9 +51,9 @@ std::vector<ColorStop> stopsBetween(const ColorStop& before, const ColorStop& af
     const double bend = colors * before.opacity * after.opacity / opacities;
     const double largestRatio = std::acosh(1 + 2 * unseen / bend); // logarithms of ratios
     const double ratio = std::log(after.opacity / before.opacity);
-    const double pieces = std::max(std::ceil(std::abs(ratio) / largestRatio), 2.0);
+    const int pieces = std::max(static_cast<int>(std::ceil(std::abs(ratio) / largestRatio)), 2);
     std::vector<ColorStop> stops;
-    for (double piece = 1; piece < pieces; ++piece) {
+    for (int piece = 1; piece < pieces; ++piece) {
         stops.push_back(mixed(before, after, before.opacity * std::exp(ratio * piece / pieces)));
     }
     return stops;

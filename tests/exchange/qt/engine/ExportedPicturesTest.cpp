@@ -35,8 +35,10 @@ Gradient randomGradient(std::mt19937& random, std::int64_t orientation, std::int
         const bool isHeld = notation == colorFormat::hexadecimal || byte < 128;
         return static_cast<float>(isHeld ? byte : 255) / 255.0F;
     };
-    std::array<int, 1001> thousandths{};
+    std::vector<int> thousandths(1001);
     std::iota(thousandths.begin(), thousandths.end(), 0);
+    // A stop exactly in the middle of a row makes the engine paint that row with a full channel as 0.
+    std::erase_if(thousandths, [](int n) { return n % 5 == 0 && n > 0 && n < 1000; });
     std::vector<int> positions;
     std::ranges::sample(thousandths, std::back_inserter(positions), any(2, 20), random);
     Gradient gradient{{}, orientation};
