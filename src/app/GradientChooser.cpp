@@ -1,6 +1,7 @@
 #include "app/GradientChooser.h"
 
 #include "app/FoundGradientModel.h"
+#include "foundation/qt/ToQString.h"
 #include "presets/PresetSlotGeometry.h"
 
 #include <QDialogButtonBox>
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <utility>
 
 namespace tessaly {
 namespace {
@@ -21,9 +21,9 @@ constexpr QSize startSize{480, 480};
 
 } // namespace
 
-GradientChooser::GradientChooser(std::vector<FoundGradient> gradients, QWidget* parent)
+GradientChooser::GradientChooser(const Incoming& incoming, QWidget* parent)
     : QDialog{parent},
-      gradients_{std::move(gradients)},
+      gradients_{incoming.gradients},
       list_{new QListView},
       edit_{new QPushButton{tr("&Edit This")}},
       add_{new QPushButton{tr("&Add to Presets")}} {
@@ -52,8 +52,11 @@ GradientChooser::GradientChooser(std::vector<FoundGradient> gradients, QWidget* 
     auto* const layout = new QVBoxLayout{this};
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(spacing);
-    auto* const label =
-        new QLabel{tr("%n &gradients were found:", nullptr, static_cast<int>(gradients_.size()))};
+    const QString leftOut =
+        incoming.leftOut.empty() ? QString{} : QStringLiteral("; ") + toQString(incoming.leftOut);
+    auto* const label = new QLabel{
+        tr("%n &gradients were found%1:", nullptr, static_cast<int>(gradients_.size())).arg(leftOut)};
+    label->setWordWrap(true);
     label->setBuddy(list_);
     layout->addWidget(label);
     layout->addWidget(list_);

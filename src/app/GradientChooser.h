@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exchange/Reading.h"
+#include "document/Incoming.h"
 
 #include <QDialog>
 #include <vector>
@@ -17,7 +17,7 @@ class GradientChooser : public QDialog {
     Q_OBJECT
 
   public:
-    GradientChooser(std::vector<FoundGradient> gradients, QWidget* parent);
+    GradientChooser(const Incoming& incoming, QWidget* parent);
 
   Q_SIGNALS:
     void editThis(const FoundGradient& found);

@@ -97,7 +97,7 @@ void GradientIntake::openWaiting() {
 }
 
 void GradientIntake::takeTypedColor(const std::string& text) {
-    const auto color = readCssColor(text);
+    const auto color = readCopiedColor(text);
     if (color) {
         takeColor(*color);
     } else {
@@ -124,20 +124,21 @@ void GradientIntake::take(const Incoming& incoming, std::string_view step) {
     } else if (incoming.gradients.empty()) {
         say(toQString(incoming.failure));
     } else if (incoming.gradients.size() == 1) {
-        takeGradient(incoming.gradients.front(), incoming.complete, step);
+        takeGradient(incoming.gradients.front(), incoming.leftOut, step);
     } else {
         choose(incoming, step);
     }
 }
 
-void GradientIntake::takeGradient(const FoundGradient& found, bool isAll, std::string_view step) {
+void GradientIntake::takeGradient(const FoundGradient& found, const std::string& leftOut,
+                                  std::string_view step) {
     document_.takeGradient(found.gradient, step);
     QStringList told;
     for (const std::string& note : found.notes) {
         told += toQString(note);
     }
-    if (!isAll) {
-        told += tr("what was too much to read is left out");
+    if (!leftOut.empty()) {
+        told += toQString(leftOut);
     }
     say(told.join(QStringLiteral("; ")));
 }
@@ -153,15 +154,15 @@ void GradientIntake::takeColor(const ReadColor& color) {
 }
 
 void GradientIntake::choose(const Incoming& incoming, std::string_view step) {
-    auto* const chooser = new GradientChooser{incoming.gradients, &window_};
+    auto* const chooser = new GradientChooser{incoming, &window_};
     connect(chooser, &GradientChooser::editThis, this,
-            [this, step, isAll = incoming.complete](const FoundGradient& found) {
-                takeGradient(found, isAll, step);
+            [this, step, leftOut = incoming.leftOut](const FoundGradient& found) {
+                takeGradient(found, leftOut, step);
             });
     connect(chooser, &GradientChooser::addToPresets, this,
-            [this, isAll = incoming.complete](const std::vector<Gradient>& gradients) {
+            [this, leftOut = incoming.leftOut](const std::vector<Gradient>& gradients) {
                 document_.addToPresets(gradients);
-                say(isAll ? QString{} : tr("what was too much to read is left out"));
+                say(toQString(leftOut));
             });
     chooser->open();
 }

@@ -42,7 +42,7 @@ class GradientIntake : public QObject {
     void takeFrom(const QMimeData& data, const QString& source, std::string_view step);
     void read(const Reader& reader, std::size_t size, std::string_view step);
     void take(const Incoming& incoming, std::string_view step);
-    void takeGradient(const FoundGradient& found, bool isAll, std::string_view step);
+    void takeGradient(const FoundGradient& found, const std::string& leftOut, std::string_view step);
     void takeColor(const ReadColor& color);
     void choose(const Incoming& incoming, std::string_view step);
     void say(const QString& message);

@@ -20,6 +20,30 @@ Incoming failed(std::string sentence) {
     return incoming;
 }
 
+// Why nothing can be taken.
+std::string failureOf(const Reading& reading, const std::string& source) {
+    if (reading.leftOut == 0) {
+        return "No gradient in " + source;
+    }
+    std::string text = "The gradient ";
+    if (reading.leftOut > 1) {
+        text = "None of " + std::to_string(reading.leftOut) + " gradients can be taken: the first ";
+    }
+    return text.append(reading.reason);
+}
+
+std::string leftOutOf(const Reading& reading) {
+    std::string unread = reading.complete ? "" : "what was too much to read is left out";
+    if (reading.leftOut == 0) {
+        return unread;
+    }
+    const bool isOne = reading.leftOut == 1;
+    std::string text =
+        std::to_string(reading.leftOut) + " more gradient" + (isOne ? "" : "s") + " left out: ";
+    text.append(isOne ? "it " : "the first ").append(reading.reason);
+    return unread.empty() ? text : text + "; " + unread;
+}
+
 Incoming readPresets(const std::filesystem::path& file, const std::string& name) {
     const auto presets = readPresetFile(file);
     if (!presets || presets->empty()) {
@@ -40,15 +64,15 @@ Incoming readIncomingText(std::string_view text, const std::string& source, cons
     }
     Incoming incoming;
     if (text.size() <= longestColor) {
-        incoming.color = readCssColor(text);
+        incoming.color = readCopiedColor(text);
     }
     if (!incoming.color) {
         Reading reading = readGradients(text, progress);
-        incoming.gradients = std::move(reading.gradients);
-        incoming.complete = reading.complete;
-        if (incoming.gradients.empty()) {
-            incoming.failure = "No gradient in " + source;
+        if (reading.gradients.empty()) {
+            return failed(failureOf(reading, source));
         }
+        incoming.leftOut = leftOutOf(reading);
+        incoming.gradients = std::move(reading.gradients);
     }
     return incoming;
 }

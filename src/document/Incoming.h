@@ -17,7 +17,7 @@ struct Incoming {
     std::vector<FoundGradient> gradients;
     std::optional<ReadColor> color; ///< the text is a colour
     std::string failure;
-    bool complete = true; ///< false: there is more than could be read
+    std::string leftOut; ///< what of the text is not among the gradients, a phrase; empty: nothing
 };
 
 /// Longer ones are refused.

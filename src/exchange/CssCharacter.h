@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 /// The classes of characters of CSS, independent of the locale. Every byte of a character outside ASCII may
 /// be part of a name, well-formed or not.
@@ -9,6 +10,14 @@ namespace tessaly {
 
 constexpr bool isCssBlank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
+}
+
+/// The text without blanks at its ends.
+constexpr std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view blanks = " \t\n\r\f";
+    const std::size_t begin = text.find_first_not_of(blanks);
+    return begin == std::string_view::npos ? std::string_view{}
+                                           : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
 constexpr bool isCssLineBreak(char c) {

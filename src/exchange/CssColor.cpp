@@ -3,6 +3,7 @@
 #include "exchange/CssCharacter.h"
 #include "exchange/CssColorFunctions.h"
 #include "exchange/CssColorReader.h"
+#include "exchange/CssItems.h"
 #include "exchange/CssName.h"
 #include "exchange/CssQuantity.h"
 #include "exchange/NamedColors.h"
@@ -183,6 +184,13 @@ std::optional<ReadColor> readCssColor(std::string_view text) {
     const CssComponents value = readCssComponents(text, 0, 2);
     const bool isOne = value.complete && value.balanced && !value.closed && value.list.size() == 1;
     return isOne ? readCssColor(value.list.front()) : std::nullopt;
+}
+
+std::optional<ReadColor> readCopiedColor(std::string_view text) {
+    CssItems items{text};
+    const auto only = items.next();
+    const bool isOnly = only && only->rule == 0 && !items.next();
+    return isOnly ? readCssColor(only->text) : std::nullopt;
 }
 
 } // namespace tessaly

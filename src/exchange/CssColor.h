@@ -19,4 +19,7 @@ struct ReadColor {
 /// allowed. None: it is no colour.
 std::optional<ReadColor> readCssColor(std::string_view text);
 
+/// The same of a text as people copy it: also with a semicolon, or as a declaration, "color: #fff;".
+std::optional<ReadColor> readCopiedColor(std::string_view text);
+
 } // namespace tessaly

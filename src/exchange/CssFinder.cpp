@@ -1,8 +1,5 @@
 #include "exchange/CssFinder.h"
 
-#include "exchange/CssGradientFunction.h"
-#include "exchange/CssName.h"
-#include "exchange/CssValue.h"
 #include "foundation/Utf8.h"
 
 #include <algorithm>
@@ -30,100 +27,54 @@ std::string nameOf(std::string_view selector) {
         utf8Prefix(std::string_view{name}.substr(begin, std::max(begin, end) - begin), longestName)};
 }
 
-bool mayHoldGradient(const CssToken& token) {
-    return (token.kind == Kind::Function && findGradientFunction(token.name).has_value()) ||
-           (token.kind == Kind::String && token.name.starts_with("progid:"));
+// A value that is a string holds a filter.
+std::string_view withoutQuotes(std::string_view value) {
+    CssTokenizer tokens{value};
+    CssToken first = tokens.next();
+    first = first.kind == Kind::Blank ? tokens.next() : first;
+    return first.kind == Kind::String ? first.name : value;
 }
 
 } // namespace
 
 bool CssFinder::run() {
-    item_.begin = 0;
-    for (CssToken token = tokens_.next(); token.kind != Kind::End; token = tokens_.next()) {
-        if (!progress_.reach(offset_ + token.begin) || !take(token)) {
+    CssItems items{text_};
+    while (const auto item = items.next()) {
+        if (!progress_.reach(offset_ + items.place()) || !take(*item)) {
             return false;
         }
     }
-    return endItem(text_.size());
-}
-
-bool CssFinder::take(const CssToken& token) {
-    switch (token.kind) {
-    case Kind::Semicolon:
-        return !brackets_.empty() || endItem(token.begin);
-    case Kind::Open:
-        if (token.is('{') && brackets_.empty() && !item_.isCustomProperty()) {
-            openRule(token);
-            return true;
-        }
-        break;
-    case Kind::Close:
-        return takeClosing(token);
-    default:
-        break;
-    }
-    follow(token);
     return true;
 }
 
-bool CssFinder::takeClosing(const CssToken& token) {
-    if (!brackets_.empty() || !token.is('}')) {
-        brackets_.close(token.text.front());
+bool CssFinder::take(const CssItem& item) {
+    switch (item.kind) {
+    case CssItem::Kind::RuleStart:
+        openRule(item);
         return true;
-    }
-    const bool goesOn = endItem(token.begin);
-    if (tooDeep_ > 0) {
-        --tooDeep_;
-    } else if (rules_.size() > 1) {
-        rules_.pop_back();
-    }
-    item_ = {Item::Part::Start, token.end()};
-    return goesOn;
-}
-
-// Learns what the item is, token by token.
-void CssFinder::follow(const CssToken& token) {
-    if (token.kind == Kind::Function || token.kind == Kind::Open) {
-        brackets_.open(token.text.back());
-    }
-    item_.holdsGradient = item_.holdsGradient || mayHoldGradient(token);
-    if (token.kind == Kind::Blank) {
-        return;
-    }
-    if (item_.part == Item::Part::Start) {
-        item_.name = token.name;
-        item_.part = token.kind == Kind::Ident       ? Item::Part::Name
-                     : token.kind == Kind::AtKeyword ? Item::Part::AtRule
-                                                     : Item::Part::Other;
-    } else if (item_.part == Item::Part::Name) {
-        item_.part = token.kind == Kind::Colon ? Item::Part::Value : Item::Part::Other;
-        item_.value = token.end();
+    case CssItem::Kind::RuleEnd:
+        closeRule();
+        return true;
+    default:
+        return !item.holdsGradient || tooDeep_ > 0 || takeValue(item);
     }
 }
 
-void CssFinder::openRule(const CssToken& brace) {
-    const bool isAtRule = item_.part == Item::Part::AtRule;
-    const std::string_view prelude = text_.substr(item_.begin, brace.begin - item_.begin);
+void CssFinder::openRule(const CssItem& rule) {
     if (tooDeep_ > 0 || rules_.size() > mostOpenRules) {
         ++tooDeep_;
         found_.setIncomplete();
     } else {
-        rules_.push_back({prelude, isAtRule ? rules_.back().named : rules_.size()});
+        rules_.push_back({rule.text, rule.isAtRule ? rules_.back().named : rules_.size()});
     }
-    item_ = {Item::Part::Start, brace.end()};
 }
 
-bool CssFinder::endItem(std::size_t end) {
-    const Item item = item_;
-    const std::size_t begin = item.part == Item::Part::Value ? item.value : item.begin;
-    const bool isBareValue = item.part == Item::Part::Other && rules_.size() == 1;
-    brackets_.clear();
-    bool goesOn = true;
-    if (item.holdsGradient && tooDeep_ == 0 && (isBareValue || item.part == Item::Part::Value)) {
-        goesOn = readDeclaration(text_.substr(begin, end - begin));
+void CssFinder::closeRule() {
+    if (tooDeep_ > 0) {
+        --tooDeep_;
+    } else {
+        rules_.pop_back();
     }
-    item_ = {Item::Part::Start, std::min(end + 1, text_.size())};
-    return goesOn;
 }
 
 const std::string& CssFinder::ruleName() {
@@ -134,25 +85,36 @@ const std::string& CssFinder::ruleName() {
     return *rule.name;
 }
 
-// A value that is a string holds a filter.
-bool CssFinder::readDeclaration(std::string_view value) {
-    CssTokenizer tokens{value};
-    CssToken first = tokens.next();
-    first = first.kind == Kind::Blank ? tokens.next() : first;
-    CssValue read = readCssValue(first.kind == Kind::String ? first.name : value);
-    if (read.tooManyStops) {
+// What a gradient names of the text is looked up only when it cannot be read without.
+CssValue CssFinder::read(const CssItem& item) {
+    const std::string_view value = withoutQuotes(item.text);
+    CssValue asWritten = readCssValue(value);
+    if (!asWritten.gradient || asWritten.canBeTaken()) {
+        return asWritten;
+    }
+    if (!definitions_) {
+        definitions_.emplace().gather(text_);
+    }
+    const auto color = definitions_->find(item.rule, "color");
+    CssValue resolved =
+        readCssValue(definitions_->resolved(value, item.rule, color.value_or(std::string_view{})));
+    return resolved.canBeTaken() ? resolved : asWritten;
+}
+
+bool CssFinder::takeValue(const CssItem& item) {
+    CssValue value = read(item);
+    if (value.tooManyStops) {
         found_.setIncomplete();
     }
-    if (!read.gradient) {
+    if (!value.gradient) {
         return true;
     }
-    FoundGradient& found = read.gradient->found;
-    if (item_.part == Item::Part::Other) {
-        return found_.add(std::move(found));
+    SeenGradient& seen = *value.gradient;
+    if (item.kind == CssItem::Kind::Value) {
+        return found_.add(std::move(seen));
     }
-    OpenRule& rule = rules_.back();
-    found.name = item_.isCustomProperty() ? nameOf(item_.name) : ruleName();
-    return found_.add(rule.gradients, item_.name, read.gradient->form, std::move(found));
+    seen.found.name = item.name.starts_with("--") ? nameOf(item.name) : ruleName();
+    return found_.add(rules_.back().gradients, item.name, std::move(seen));
 }
 
 } // namespace tessaly

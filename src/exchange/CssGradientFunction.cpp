@@ -3,21 +3,10 @@
 #include "exchange/CssGradientSyntax.h"
 #include "exchange/CssName.h"
 
-#include <algorithm>
-#include <array>
-
 namespace tessaly {
 namespace {
 
 using Syntax = CssGradientFunction::Syntax;
-
-constexpr std::array<std::string_view, 4> prefixes{"-webkit-", "-moz-", "-o-", "-ms-"};
-
-bool takePrefix(std::string_view& name, std::string_view prefix) {
-    const bool starts = name.starts_with(prefix);
-    name.remove_prefix(starts ? prefix.size() : 0);
-    return starts;
-}
 
 std::optional<CssGradientFunction> pointToPoint(CssArgument components) {
     const bool isRadial = !components.empty() && components.front().isIdent("radial");
@@ -64,10 +53,10 @@ std::optional<CssGradientFunction> findGradientFunction(std::string_view written
     }
     CssGradientFunction function;
     function.knowsTo = !name.starts_with("-webkit-");
-    if (std::ranges::any_of(prefixes, [&](auto prefix) { return takePrefix(name, prefix); })) {
-        function.syntax = Syntax::Prefixed;
-    }
-    function.repeating = takePrefix(name, "repeating-");
+    function.syntax = takeBrowserPrefix(name) ? Syntax::Prefixed : Syntax::Standard;
+    constexpr std::string_view repeating = "repeating-";
+    function.repeating = name.starts_with(repeating);
+    name.remove_prefix(function.repeating ? repeating.size() : 0);
     function.radial = name == "radial-gradient";
     if (name == "conic-gradient") {
         function.syntax = Syntax::Conic;

@@ -11,6 +11,8 @@
 namespace tessaly {
 namespace {
 
+using Angles = GradientDraft::Angles;
+
 struct Side {
     std::string_view name;
     int right;
@@ -68,13 +70,21 @@ std::optional<double> readOldWay(CssArgument argument) {
 
 constexpr double downwards = 180; // where nothing is said
 
+std::optional<GradientDraft> alongWay(std::optional<double> degrees, CssArguments stops,
+                                      std::string_view mixing = {}, Angles written = Angles::Clockwise) {
+    if (!degrees) {
+        return std::nullopt;
+    }
+    GradientDraft draft;
+    draft.takeDirection(*degrees, written);
+    return withStops(std::move(draft), stops, mixing);
+}
+
 } // namespace
 
 std::optional<GradientDraft> readStandardLinear(CssArguments arguments) {
-    GradientDraft draft;
     if (startsWithColor(arguments.front())) {
-        draft.takeDirection(downwards);
-        return withStops(std::move(draft), arguments);
+        return alongWay(downwards, arguments);
     }
     const auto mixing = readCssMixing(arguments.front());
     if (!mixing) {
@@ -82,27 +92,18 @@ std::optional<GradientDraft> readStandardLinear(CssArguments arguments) {
     }
     const bool onlyMixed = mixing->rest.empty() && !mixing->space.empty();
     const auto degrees = onlyMixed ? std::optional{downwards} : readWay(mixing->rest);
-    if (!degrees) {
-        return std::nullopt;
-    }
-    draft.takeDirection(*degrees);
-    return withStops(std::move(draft), arguments.subspan(1), mixing->space);
+    return alongWay(degrees, arguments.subspan(1), mixing->space);
 }
 
 std::optional<GradientDraft> readPrefixedLinear(CssArguments arguments, bool knowsTo) {
-    GradientDraft draft;
     const CssArgument first = arguments.front();
     if (startsWithColor(first)) {
-        draft.takeDirection(downwards);
-        return withStops(std::move(draft), arguments);
+        return alongWay(downwards, arguments);
     }
-    const bool saysTo = knowsTo && !first.empty() && first.front().isIdent("to");
-    const auto degrees = saysTo ? readWay(first) : readOldWay(first);
-    if (!degrees) {
-        return std::nullopt;
+    if (knowsTo && !first.empty() && first.front().isIdent("to")) {
+        return alongWay(readWay(first), arguments.subspan(1));
     }
-    draft.takeDirection(*degrees);
-    return withStops(std::move(draft), arguments.subspan(1));
+    return alongWay(readOldWay(first), arguments.subspan(1), {}, Angles::Legacy);
 }
 
 } // namespace tessaly

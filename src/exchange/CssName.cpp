@@ -4,6 +4,7 @@
 #include "foundation/Utf8.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tessaly {
 namespace {
@@ -65,6 +66,14 @@ bool isCssName(std::string_view written, std::string_view name) {
         return cssName(written) == name;
     }
     return std::ranges::equal(written, name, {}, lowered);
+}
+
+bool takeBrowserPrefix(std::string_view& name) {
+    constexpr std::array<std::string_view, 4> prefixes{"-webkit-", "-moz-", "-o-", "-ms-"};
+    const auto* const prefix =
+        std::ranges::find_if(prefixes, [&](std::string_view p) { return name.starts_with(p); });
+    name.remove_prefix(prefix == prefixes.end() ? 0 : prefix->size());
+    return prefix != prefixes.end();
 }
 
 } // namespace tessaly

@@ -14,4 +14,7 @@ std::string cssName(std::string_view written);
 /// Whether a name as written is `name`, which is in lower case and not empty.
 bool isCssName(std::string_view written, std::string_view name);
 
+/// Takes the prefix of a browser, "-webkit-", off the front of a name in lower case; false: it has none.
+bool takeBrowserPrefix(std::string_view& name);
+
 } // namespace tessaly

@@ -57,10 +57,11 @@ bool isCssPlace(CssArgument argument) {
 }
 
 bool isCssCenter(CssArgument place) {
-    return std::ranges::all_of(place, [](const CssComponent& component) {
+    const bool isFromSides = place.size() == 4; // of which half way is the same from either
+    return std::ranges::all_of(place, [=](const CssComponent& component) {
         const auto quantity = readCssQuantity(component);
-        const bool isHalf = quantity && quantity->kind == Kind::Percent && quantity->value == 50;
-        return isHalf || component.isIdent("center");
+        return quantity ? quantity->kind == Kind::Percent && quantity->value == 50
+                        : isFromSides || component.isIdent("center");
     });
 }
 

@@ -3,11 +3,10 @@
 #include "exchange/CssCharacter.h"
 #include "exchange/CssGradientFunction.h"
 #include "exchange/CssLayers.h"
-#include "exchange/CssName.h"
 #include "exchange/CssTokenizer.h"
+#include "exchange/CssUnread.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tessaly {
 namespace {
@@ -29,29 +28,6 @@ CssForm formOf(Syntax syntax) {
     }
 }
 
-// What is right in a browser although it cannot be read here: it depends on where it stands.
-bool isBeyondReading(const CssGradientFunction& function, std::string_view text) {
-    constexpr std::array<std::string_view, 14> dependent{
-        "var",  "env", "attr", "color-mix", "light-dark",     "currentcolor", "from",
-        "calc", "min", "max",  "clamp",     "contrast-color", "device-cmyk",  "if"};
-    if (function.syntax == Syntax::Conic) {
-        return true;
-    }
-    CssTokenizer tokens{text};
-    for (CssToken token = tokens.next(); token.kind != Kind::End; token = tokens.next()) {
-        const bool isName = token.kind == Kind::Ident || token.kind == Kind::Function;
-        if (isName &&
-            std::ranges::any_of(dependent, [&](auto name) { return isCssName(token.name, name); })) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool isBlank(std::string_view text) {
-    return std::ranges::all_of(text, isCssBlank);
-}
-
 // Reads a value, gradient by gradient.
 class ValueReader {
   public:
@@ -67,8 +43,7 @@ class ValueReader {
         }
         if (isWrong_) {
             value_.gradient.reset();
-        }
-        if (value_.gradient) {
+        } else if (value_.canBeTaken()) {
             tellTheRest(value_.gradient->found);
         }
         return std::move(value_);
@@ -84,18 +59,27 @@ class ValueReader {
             return;
         }
         auto found = components.balanced ? readGradientFunction(function, components.list) : std::nullopt;
-        const std::string_view arguments = text_.substr(token.end(), components.end - token.end());
-        isWrong_ = isWrong_ || (!found && !isBeyondReading(function, arguments));
-        if (!found || value_.gradient) {
+        if (!found) {
+            const bool isConic = function.syntax == Syntax::Conic;
+            const auto arguments = text_.substr(token.end(), components.end - token.end());
+            const std::string_view reason = isConic ? "is conic" : whyCssUnread(arguments);
+            isWrong_ = isWrong_ || reason.empty();
+            if (!value_.gradient) {
+                value_.gradient = {formOf(function.syntax), {}, reason};
+            }
+            return;
+        }
+        if (value_.canBeTaken()) {
             return;
         }
         if (found->gradient.stops().size() > FoundGradients::mostStops) {
             value_.tooManyStops = true;
             return;
         }
-        value_.gradient = {std::move(*found), formOf(function.syntax)};
+        value_.gradient = {formOf(function.syntax), std::move(*found)};
         place_ = token.begin;
-        isAlone_ = isBlank(text_.substr(0, token.begin)) && isBlank(text_.substr(components.end));
+        isAlone_ =
+            trimmed(text_.substr(0, token.begin)).empty() && trimmed(text_.substr(components.end)).empty();
     }
 
     void tellTheRest(FoundGradient& found) const {

@@ -7,17 +7,13 @@
 
 namespace tessaly {
 
-/// The gradient of a value, and how it is written.
-struct ValueGradient {
-    FoundGradient found;
-    CssForm form = CssForm::Standard;
-};
-
-/// What a value gives: the first gradient that can be read; further ones are told. One that has a mistake
-/// makes the whole value worthless, as it does in a browser.
+/// What a value gives: the first gradient that can be read, else one that was seen; further ones are told.
+/// One that has a mistake makes the whole value worthless, as it does in a browser.
 struct CssValue {
-    std::optional<ValueGradient> gradient;
+    std::optional<SeenGradient> gradient;
     bool tooManyStops = false;
+
+    bool canBeTaken() const { return gradient && gradient->canBeTaken(); }
 };
 
 CssValue readCssValue(std::string_view text);

@@ -2,7 +2,6 @@
 
 #include "exchange/CssName.h"
 
-#include <algorithm>
 #include <array>
 
 namespace tessaly {
@@ -10,7 +9,6 @@ namespace {
 
 // What all properties are called that set the same picture.
 std::string pictureOf(std::string_view written, CssForm form) {
-    constexpr std::array<std::string_view, 4> prefixes{"-webkit-", "-moz-", "-o-", "-ms-"};
     constexpr std::array<std::string_view, 2> suffixes{"-source", "-image"};
     if (form == CssForm::Filter) {
         return "background";
@@ -20,9 +18,7 @@ std::string pictureOf(std::string_view written, CssForm form) {
     }
     const std::string name = cssName(written);
     std::string_view picture = name;
-    for (const std::string_view prefix : prefixes) {
-        picture.remove_prefix(picture.starts_with(prefix) ? prefix.size() : 0);
-    }
+    takeBrowserPrefix(picture);
     for (const std::string_view suffix : suffixes) {
         picture.remove_suffix(picture.ends_with(suffix) ? suffix.size() : 0);
     }
@@ -31,26 +27,23 @@ std::string pictureOf(std::string_view written, CssForm form) {
 
 } // namespace
 
-bool FoundGradients::add(RuleGradients& rule, std::string_view property, CssForm form, FoundGradient found) {
-    const auto [place, isNew] = rule.try_emplace(pictureOf(property, form), found_.size());
+bool FoundGradients::add(RuleGradients& rule, std::string_view property, SeenGradient&& seen) {
+    const auto [place, isNew] = rule.try_emplace(pictureOf(property, seen.form), found_.size());
     if (isNew) {
-        return append(form, std::move(found));
+        return add(std::move(seen));
     }
-    Entry& entry = found_[place->second];
-    if (form <= entry.form) { // of one form the later holds
-        entry = {form, std::move(found)};
+    SeenGradient& other = found_[place->second];
+    const bool isNearer = seen.form <= other.form; // of one form the later holds
+    if (seen.canBeTaken() && (isNearer || !other.canBeTaken())) {
+        other = std::move(seen);
     }
     return true;
 }
 
-bool FoundGradients::add(FoundGradient found) {
-    return append(CssForm::Standard, std::move(found));
-}
-
-bool FoundGradients::append(CssForm form, FoundGradient found) {
+bool FoundGradients::add(SeenGradient&& seen) {
     const bool fits = found_.size() < mostGradients;
     if (fits) {
-        found_.push_back({form, std::move(found)});
+        found_.push_back(std::move(seen));
     } else {
         setIncomplete();
     }
@@ -58,10 +51,17 @@ bool FoundGradients::append(CssForm form, FoundGradient found) {
 }
 
 Reading FoundGradients::taken() && {
-    Reading reading{{}, isComplete_};
+    Reading reading;
+    reading.complete = isComplete_;
     reading.gradients.reserve(found_.size());
-    std::ranges::transform(found_, std::back_inserter(reading.gradients),
-                           [](Entry& entry) { return std::move(entry.found); });
+    for (SeenGradient& seen : found_) {
+        if (seen.canBeTaken()) {
+            reading.gradients.push_back(std::move(seen.found));
+        } else {
+            reading.leftOut += 1;
+            reading.reason = reading.reason.empty() ? seen.reason : reading.reason;
+        }
+    }
     return reading;
 }
 

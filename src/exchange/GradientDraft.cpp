@@ -1,25 +1,38 @@
 #include "exchange/GradientDraft.h"
 
 #include "exchange/LinearDirection.h"
+#include "foundation/NumberText.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessaly {
 namespace {
 
 std::string taken(std::string_view what, std::string_view written, std::string_view as) {
     std::string note{what};
-    return note.append(written.empty() ? "" : " ").append(written).append(" taken as ").append(as);
+    return note.append(what.empty() || written.empty() ? "" : " ")
+        .append(written)
+        .append(" taken as ")
+        .append(as);
+}
+
+std::string degreesText(double degrees) {
+    const double tenths = std::round(degrees * 10) / 10;
+    return fixedText(tenths, tenths == std::round(tenths) ? 0 : 1) + "°";
 }
 
 } // namespace
 
-void GradientDraft::takeDirection(double degrees) {
+void GradientDraft::takeDirection(double degrees, Angles written) {
     const LinearDirection direction = nearestDirection(degrees);
     orientation = direction.orientation;
     turned = direction.turned;
     if (!direction.isExact()) {
-        notes.push_back(direction.note());
+        const bool isLegacy = written == Angles::Legacy;
+        const double said = isLegacy ? 90 - degrees : degrees;
+        const int way = isLegacy ? (450 - direction.degrees) % 360 : direction.degrees;
+        notes.push_back(taken({}, degreesText(said), degreesText(said < 0 && way > 0 ? way - 360 : way)));
     }
 }
 

@@ -21,9 +21,15 @@ struct GradientDraft {
     bool mayEndBefore = false; ///< the box may be larger than what the stops cover
     std::vector<std::string> notes;
 
-    /// The nearest of the eight directions, with a note where it is not exact; degrees, 0 is upwards,
-    /// clockwise.
-    void takeDirection(double degrees);
+    /// How angles are counted where they are written.
+    enum class Angles {
+        Clockwise, ///< from upwards
+        Legacy     ///< against the clock, from the right
+    };
+
+    /// The nearest of the eight directions, with a note in the angles of the text where it is not exact;
+    /// degrees, 0 is upwards, clockwise.
+    void takeDirection(double degrees, Angles written = Angles::Clockwise);
 
     /// The direction of a line, and where its stops come to lie.
     void takeLine(const GradientLine& line);

@@ -6,7 +6,7 @@ namespace tessaly {
 
 /// How a linear gradient lies in a square box, as CSS would say it.
 struct GradientLine {
-    double angle = 90.0; ///< degrees, -180 ... 180, 0 upwards, clockwise
+    double angle = 90.0; ///< degrees, 0 ... 360, 0 upwards, clockwise
     double start = 0.0;  ///< its positions 0 and 1 as positions between the corners that the angle points to
     double end = 1.0;
 };

@@ -1,7 +1,5 @@
 #include "exchange/LinearDirection.h"
 
-#include "foundation/NumberText.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -27,20 +25,10 @@ constexpr std::array ways{
     Way{orientation::leftToRight, true},  Way{orientation::diagonalToTopLeft, false},
 };
 
-std::string degreesText(double degrees) {
-    const double tenths = std::round(degrees * 10) / 10;
-    return fixedText(tenths, tenths == std::round(tenths) ? 0 : 1) + "°";
-}
-
 } // namespace
 
 bool LinearDirection::isExact() const {
     return std::abs(offset) < unseen;
-}
-
-std::string LinearDirection::note() const {
-    const double written = degrees + offset;
-    return degreesText(written < 0 ? written + turn : written) + " taken as " + degreesText(degrees);
 }
 
 LinearDirection nearestDirection(double degrees) {
@@ -52,7 +40,8 @@ LinearDirection nearestDirection(double degrees) {
 }
 
 double degreesOf(double right, double up) {
-    return std::atan2(right, up) * 180 / std::numbers::pi;
+    const double degrees = std::atan2(right, up) * 180 / std::numbers::pi;
+    return degrees < 0 ? degrees + turn : degrees;
 }
 
 } // namespace tessaly

@@ -2,7 +2,7 @@
 
 #include "model/Orientation.h"
 
-#include <string>
+#include <cstdint>
 
 namespace tessaly {
 
@@ -14,15 +14,12 @@ struct LinearDirection {
     double offset = 0.0; ///< what is left out, -22.5 ... 22.5 degrees
 
     bool isExact() const;
-
-    /// How it is told when it is not exact.
-    std::string note() const;
 };
 
 /// The nearest of the eight directions; degrees as CSS counts them, 0 is upwards, clockwise.
 LinearDirection nearestDirection(double degrees);
 
-/// The angle of a way over the box, `right` and `up` of any length, not both 0.
+/// The angle of a way over the box, 0 ... 360 degrees, `right` and `up` of any length, not both 0.
 double degreesOf(double right, double up);
 
 } // namespace tessaly

@@ -22,17 +22,10 @@ bool endsTagName(char c) {
 } // namespace
 
 bool PageStyles::isPage(std::string_view text) {
-    text.remove_prefix(text.starts_with("\xEF\xBB\xBF") ? 3 : 0);
     constexpr std::string_view comment = "<!--"; // a stylesheet may stand within one
-    const auto skipBlanks = [&] {
-        text.remove_prefix(
-            static_cast<std::size_t>(std::ranges::find_if_not(text, isCssBlank) - text.begin()));
-    };
-    skipBlanks();
-    while (text.starts_with(comment)) {
+    for (text = trimmed(text); text.starts_with(comment); text = trimmed(text)) {
         const std::size_t end = text.find("-->");
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 3);
-        skipBlanks();
     }
     return text.starts_with('<');
 }

@@ -1,11 +1,11 @@
 #include "exchange/Readers.h"
 
 #include "exchange/CssReader.h"
+#include "exchange/PageStyles.h"
 #include "exchange/SvgReader.h"
 #include "foundation/Utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <string>
 
@@ -32,50 +32,6 @@ std::optional<std::string> fromUtf16(std::string_view bytes) {
     return toUtf8(units);
 }
 
-void skipBlanks(std::string_view& text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
-}
-
-// The end of a document type, which may hold declarations in brackets.
-std::size_t typeEnd(std::string_view text) {
-    const std::size_t end = text.find_first_of("[>");
-    return end == std::string_view::npos || text[end] == '>'
-               ? end
-               : text.find('>', std::min(text.find(']', end), text.size()));
-}
-
-// Takes off the front what may stand before the first element. False: there is none of that.
-bool skipOneBeforeElement(std::string_view& text) {
-    struct Item {
-        std::string_view start;
-        std::string_view end; // empty: that of a document type
-    };
-    constexpr std::array<Item, 3> items{{{"<?", "?>"}, {"<!--", "-->"}, {"<!DOCTYPE", {}}}};
-    for (const Item& item : items) {
-        if (text.starts_with(item.start)) {
-            const std::size_t found =
-                item.end.empty() ? typeEnd(text) : text.find(item.end, item.start.size());
-            text.remove_prefix(found == std::string_view::npos
-                                   ? text.size()
-                                   : found + std::max<std::size_t>(item.end.size(), 1));
-            return true;
-        }
-    }
-    return false;
-}
-
-bool isSvg(std::string_view text) {
-    text.remove_prefix(text.starts_with(utf8Mark) ? utf8Mark.size() : 0);
-    do {
-        skipBlanks(text);
-    } while (skipOneBeforeElement(text));
-    if (!text.starts_with('<')) {
-        return false;
-    }
-    const std::string_view name = text.substr(1, text.find_first_of(" \t\r\n/>") - 1);
-    return name.substr(name.find(':') + 1) == "svg";
-}
-
 // For a line of the window, whatever a text has in its place.
 void shorten(std::string& text) {
     constexpr std::size_t most = 120;
@@ -84,12 +40,9 @@ void shorten(std::string& text) {
         text, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
 }
 
-Reading shortened(Reading reading) {
-    for (FoundGradient& found : reading.gradients) {
-        shorten(found.name);
-        std::ranges::for_each(found.notes, shorten);
-    }
-    return reading;
+void append(Reading& reading, Reading more) {
+    std::ranges::move(more.gradients, std::back_inserter(reading.gradients));
+    reading.complete = reading.complete && more.complete;
 }
 
 } // namespace
@@ -97,13 +50,27 @@ Reading shortened(Reading reading) {
 Reading readGradients(std::string_view text, const Progress& progress) {
     const std::optional<std::string> converted = fromUtf16(text);
     text = converted ? std::string_view{*converted} : text;
-    if (isSvg(text)) {
-        if (auto reading = readSvgGradients(text, progress)) {
-            return shortened(std::move(*reading));
-        }
+    text.remove_prefix(text.starts_with(utf8Mark) ? utf8Mark.size() : 0);
+    const bool maySvg = text.find("Gradient") != std::string_view::npos;
+    const double size = maySvg ? 0.5 : 1.0;
+    bool goesOn = true;
+    const auto part = [&](double begin, double length) {
+        const Progress told = [&goesOn, &progress, begin, length](double share) {
+            goesOn = goesOn && progress(begin + share * length);
+            return goesOn;
+        };
+        return progress ? told : Progress{};
+    };
+    Reading reading = readCssGradients(text, part(0.0, size));
+    if (maySvg && goesOn &&
+        (reading.gradients.empty() || PageStyles::isPage(text))) { // else it is in a string
+        append(reading, readSvgGradients(text, part(size, 1.0 - size)));
     }
-    return shortened(
-        readCssGradients(text, progress)); // also of a picture in the middle of a page, or with CSS alone
+    for (FoundGradient& found : reading.gradients) {
+        shorten(found.name);
+        std::ranges::for_each(found.notes, shorten);
+    }
+    return goesOn ? reading : Reading{};
 }
 
 } // namespace tessaly

@@ -2,8 +2,10 @@
 
 #include "model/Gradient.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tessaly {
@@ -17,7 +19,9 @@ struct FoundGradient {
 
 struct Reading {
     std::vector<FoundGradient> gradients;
-    bool complete = true; ///< false: a limit was reached
+    bool complete = true;      ///< false: a limit was reached
+    std::size_t leftOut = 0;   ///< gradients that were seen and cannot be said here
+    std::string_view reason{}; ///< why the first of them cannot, a phrase such as "is conic"; static
 };
 
 /// Is told the share 0 ... 1 that is read or written; false from it ends that. A reading is then empty.

@@ -33,9 +33,9 @@ Size halfAxes(const SvgTransform& map) {
 
 } // namespace
 
-std::optional<SvgDisc> svgDisc(const SvgGradient& gradient, Size viewport) {
+std::optional<SvgDisc> svgDisc(const SvgGradient& gradient) {
     const bool isInUserSpace = gradient.isInUserSpace.value_or(false);
-    const Size unit = isInUserSpace ? viewport : Size{1.0, 1.0};
+    const Size unit = isInUserSpace ? gradient.viewport : Size{1.0, 1.0};
     const double unitRadius = std::hypot(unit.width, unit.height) / std::numbers::sqrt2;
     const auto& [cx, cy, r, fx, fy, fr] = gradient.geometry;
     const Point center{cx.value_or(half).of(unit.width), cy.value_or(half).of(unit.height)};

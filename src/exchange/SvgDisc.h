@@ -18,7 +18,7 @@ struct SvgDisc {
 };
 
 /// None: the gradient's transform flattens everything, and nothing is painted. In user space the box is not
-/// known, nor then the size and the place in it. `viewport` is what percentages are shares of there.
-std::optional<SvgDisc> svgDisc(const SvgGradient& gradient, Size viewport);
+/// known, nor then the size and the place in it.
+std::optional<SvgDisc> svgDisc(const SvgGradient& gradient);
 
 } // namespace tessaly

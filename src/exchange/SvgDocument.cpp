@@ -1,5 +1,7 @@
 #include "exchange/SvgDocument.h"
 
+#include "exchange/CssCharacter.h"
+#include "exchange/CssUnread.h"
 #include "exchange/SvgColorText.h"
 
 #include <algorithm>
@@ -15,6 +17,8 @@ constexpr std::array<std::string_view, 6> radialNames{"cx", "cy", "r", "fx", "fy
 // What only serves to make the picture of a program that mixes otherwise; Tessaly writes such stops.
 constexpr std::string_view helperClass = "between";
 
+constexpr std::size_t mostStyled = 1000; // elements around a stop that its style is looked for in
+
 std::string_view valueOr(const XmlAttributes& attributes, std::string_view name,
                          std::string_view otherwise = {}) {
     return attributes.value(name).value_or(otherwise);
@@ -28,16 +32,6 @@ std::optional<bool> choice(std::string_view text, std::string_view no, std::stri
 std::string referenceOf(const XmlAttributes& attributes) {
     const std::string_view address = trimmed(valueOr(attributes, "href", valueOr(attributes, "xlink:href")));
     return std::string{address.starts_with('#') ? address.substr(1) : std::string_view{}};
-}
-
-bool mixesLinearly(const XmlAttributes& attributes) {
-    std::string_view space = valueOr(attributes, "color-interpolation");
-    const std::string style = withoutComments(valueOr(attributes, "style"));
-    std::string_view declarations = style;
-    while (const auto declaration = takeDeclaration(declarations)) {
-        space = declaration->name == "color-interpolation" ? declaration->value : space;
-    }
-    return trimmed(space) == "linearRGB";
 }
 
 std::optional<bool> isRepeated(std::string_view method) {
@@ -68,28 +62,20 @@ Color heldColor(std::string_view held, const Color& written) {
     return svgColorText(exact) == svgColorText(written) ? exact : written;
 }
 
-SvgStopStyle styleOf(const XmlAttributes& attributes, const SvgStyleSheet& styles) {
-    SvgStopStyle style;
-    for (const std::string_view name : {"stop-color", "stop-opacity"}) {
-        style.declare({name, valueOr(attributes, name)}, SvgStopStyle::attribute);
-    }
-    styles.applyTo(style, valueOr(attributes, "class"), valueOr(attributes, "id"));
-    if (const auto own = attributes.value("style")) {
-        style.declareAll(withoutComments(*own), SvgStopStyle::own);
-    }
-    return style;
-}
-
 } // namespace
 
 void SvgDocument::startElement(std::string_view name, const XmlAttributes& attributes) {
     ++depth_;
+    const bool isStop = name == "stop" && gradientDepth_ > 0 && depth_ == gradientDepth_ + 1;
+    if (isStop || path_.size() < mostStyled) {
+        path_.push_back(svgElement(name, attributes));
+    }
     if (depth_ == 1) {
         readViewport(attributes);
     }
     if (name == "linearGradient" || name == "radialGradient") {
         addGradient(name == "radialGradient", attributes);
-    } else if (name == "stop" && gradientDepth_ > 0 && depth_ == gradientDepth_ + 1) {
+    } else if (isStop) {
         addStop(attributes);
     }
 }
@@ -97,6 +83,9 @@ void SvgDocument::startElement(std::string_view name, const XmlAttributes& attri
 void SvgDocument::endElement() {
     if (depth_ == gradientDepth_) {
         gradientDepth_ = 0;
+    }
+    if (path_.size() == depth_ || path_.size() > mostStyled) {
+        path_.pop_back();
     }
     --depth_;
 }
@@ -108,12 +97,12 @@ void SvgDocument::readViewport(const XmlAttributes& attributes) {
         skipSeparators(box);
         number = takeNumber(box);
     }
-    const auto length = [&](const char* name, const std::optional<double>& ofBox, double otherwise) {
+    const auto length = [&](const char* name, const std::optional<double>& ofBox) {
+        constexpr double otherwise = 100.0;
         const auto written = svgLength(valueOr(attributes, name));
         return ofBox ? *ofBox : written && !written->isShare ? written->value : otherwise;
     };
-    viewport_ = {length("width", numbers[2], viewport_.width),
-                 length("height", numbers[3], viewport_.height)};
+    viewport_ = {length("width", numbers[2]), length("height", numbers[3])};
 }
 
 void SvgDocument::addGradient(bool isRadial, const XmlAttributes& attributes) {
@@ -135,7 +124,8 @@ void SvgDocument::addGradient(bool isRadial, const XmlAttributes& attributes) {
     if (const auto transform = attributes.value("gradientTransform")) {
         gradient.transform = svgTransform(*transform);
     }
-    gradient.isMixedLinearly = mixesLinearly(attributes);
+    gradient.isMixedLinearly = styles_.styleOf(path_).value(SvgProperty::ColorInterpolation) == "linearRGB";
+    gradient.viewport = viewport_;
     gradient.firstStop = stops_.size();
     gradientDepth_ = depth_;
 }
@@ -152,11 +142,27 @@ void SvgDocument::addStop(const XmlAttributes& attributes) {
         isComplete_ = false;
         return;
     }
-    ReadColor color = styleOf(attributes, styles_).color();
-    color.color = heldColor(valueOr(attributes, "data-color"), color.color);
     const double offset = svgLength(valueOr(attributes, "offset")).value_or(SvgLength{}).value;
-    stops_.push_back({color, std::clamp(offset, 0.0, 1.0)});
+    SvgStop& stop = stops_.emplace_back(SvgStop{{}, std::clamp(offset, 0.0, 1.0)});
+    readStyle(stop);
+    stop.color.color = heldColor(valueOr(attributes, "data-color"), stop.color.color);
     ++gradient.stopCount;
+}
+
+// Of the innermost open element.
+void SvgDocument::readStyle(SvgStop& stop) {
+    const SvgStyle style = styles_.styleOf(path_);
+    const std::string color = styles_.resolved(style.value(SvgProperty::StopColor), path_);
+    const std::string opacity = styles_.resolved(style.value(SvgProperty::StopOpacity), path_);
+    const auto readColor = readCssColor(color);
+    const auto share = svgLength(opacity);
+    stop.color = readColor.value_or(ReadColor{});
+    stop.color.alpha *= share ? std::clamp(share->value, 0.0, 1.0) : 1.0;
+    if (style.isUnsure) {
+        stop.unread = "needs another selector";
+    }
+    const std::string_view reason = whyCssUnread(readColor ? opacity : color);
+    stop.unread = reason.empty() ? stop.unread : reason;
 }
 
 } // namespace tessaly

@@ -11,7 +11,7 @@
 
 namespace tessaly {
 
-/// The gradients of a document, in its order, and what they need of it.
+/// The gradients of a document, or of several pieces of a text, in its order, and what they need of it.
 class SvgDocument : public XmlHandler {
   public:
     /// More is left out.
@@ -19,8 +19,8 @@ class SvgDocument : public XmlHandler {
     static constexpr std::size_t mostStops = 10'000;       ///< of a gradient
     static constexpr std::size_t mostStopsInAll = 250'000; ///< bounds the memory that a text can ask for
 
-    /// The rules are those of the same document; they must outlive this.
-    explicit SvgDocument(const SvgStyleSheet& styles) : styles_{styles} {}
+    /// The rules are those of the same text; they must outlive this.
+    explicit SvgDocument(SvgStyleSheet& styles) : styles_{styles} {}
 
     void startElement(std::string_view name, const XmlAttributes& attributes) override;
     void endElement() override;
@@ -34,21 +34,20 @@ class SvgDocument : public XmlHandler {
         return std::span{stops_}.subspan(gradient.firstStop, gradient.stopCount);
     }
 
-    /// What percentages in user space are shares of.
-    Size viewport() const { return viewport_; }
-
     /// Nothing was left out.
-    bool isComplete() const { return isComplete_; }
+    bool isComplete() const { return isComplete_ && styles_.isComplete(); }
 
   private:
     void readViewport(const XmlAttributes& attributes);
     void addGradient(bool isRadial, const XmlAttributes& attributes);
     void addStop(const XmlAttributes& attributes);
+    void readStyle(SvgStop& stop);
 
-    const SvgStyleSheet& styles_;
+    SvgStyleSheet& styles_;
+    std::vector<SvgElement> path_; ///< the open elements, of those very deep only a stop
     std::vector<SvgGradient> gradients_;
     std::vector<SvgStop> stops_;
-    Size viewport_{100.0, 100.0};
+    Size viewport_;
     std::size_t depth_ = 0;         ///< of elements that are open
     std::size_t gradientDepth_ = 0; ///< that of the gradient being read; 0: there is none
     bool isComplete_ = true;

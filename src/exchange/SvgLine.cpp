@@ -10,9 +10,9 @@ constexpr SvgLength whole{1.0, true};
 
 } // namespace
 
-std::optional<SvgLine> svgLine(const SvgGradient& gradient, Size viewport) {
+std::optional<SvgLine> svgLine(const SvgGradient& gradient) {
     const bool isInUserSpace = gradient.isInUserSpace.value_or(false);
-    const Size unit = isInUserSpace ? viewport : Size{1.0, 1.0};
+    const Size unit = isInUserSpace ? gradient.viewport : Size{1.0, 1.0};
     const auto& [x1, y1, x2, y2, unused, unusedToo] = gradient.geometry;
     const Point from{x1.value_or(none).of(unit.width), y1.value_or(none).of(unit.height)};
     const Point way{x2.value_or(whole).of(unit.width) - from.x, y2.value_or(none).of(unit.height) - from.y};

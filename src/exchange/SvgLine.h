@@ -17,7 +17,6 @@ struct SvgLine {
 
 /// None: the gradient's transform flattens everything, and nothing is painted. In user space the box is not
 /// known; the line is then taken to run right through it, as it does where the box is the whole picture.
-/// `viewport` is the picture's size, of which percentages are shares there.
-std::optional<SvgLine> svgLine(const SvgGradient& gradient, Size viewport);
+std::optional<SvgLine> svgLine(const SvgGradient& gradient);
 
 } // namespace tessaly

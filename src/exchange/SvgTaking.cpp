@@ -12,8 +12,8 @@ namespace {
 
 enum class Extent { Nothing, Point, Whole };
 
-Extent takeLine(const SvgGradient& gradient, Size viewport, GradientDraft& draft) {
-    const std::optional<SvgLine> line = svgLine(gradient, viewport);
+Extent takeLine(const SvgGradient& gradient, GradientDraft& draft) {
+    const std::optional<SvgLine> line = svgLine(gradient);
     if (!line || line->isPoint) {
         return line ? Extent::Point : Extent::Nothing;
     }
@@ -24,9 +24,9 @@ Extent takeLine(const SvgGradient& gradient, Size viewport, GradientDraft& draft
     return Extent::Whole;
 }
 
-Extent takeDisc(const SvgGradient& gradient, Size viewport, GradientDraft& draft) {
+Extent takeDisc(const SvgGradient& gradient, GradientDraft& draft) {
     draft.orientation = orientation::radial;
-    const std::optional<SvgDisc> disc = svgDisc(gradient, viewport);
+    const std::optional<SvgDisc> disc = svgDisc(gradient);
     if (!disc || disc->isPoint) {
         return disc ? Extent::Point : Extent::Nothing;
     }
@@ -51,8 +51,7 @@ Extent takeDisc(const SvgGradient& gradient, Size viewport, GradientDraft& draft
 
 } // namespace
 
-std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::span<const SvgStop> stops,
-                                             Size viewport) {
+std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::span<const SvgStop> stops) {
     if (stops.empty()) {
         return std::nullopt;
     }
@@ -60,7 +59,7 @@ std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::s
     draft.mixing = StopMixing::Plain;
     draft.repeating = gradient.isRepeated.value_or(false);
     const auto take = gradient.isRadial ? takeDisc : takeLine;
-    const Extent extent = take(gradient, viewport, draft);
+    const Extent extent = take(gradient, draft);
     if (extent == Extent::Nothing) {
         return std::nullopt;
     }
@@ -74,6 +73,10 @@ std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::s
     }
     if (isMixingSeen(inOrder(seen), draft.track)) {
         draft.notes.emplace_back("opacity mixed as in CSS");
+    }
+    const auto unread = std::ranges::find_if(seen, [](const SvgStop& stop) { return !stop.unread.empty(); });
+    if (unread != seen.end()) {
+        draft.notes.push_back("style of a stop left out: it " + std::string{unread->unread});
     }
     draft.stops.reserve(seen.size());
     std::ranges::transform(seen, std::back_inserter(draft.stops), [](const SvgStop& stop) {

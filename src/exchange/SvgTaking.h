@@ -2,7 +2,6 @@
 
 #include "exchange/Reading.h"
 #include "exchange/SvgGradient.h"
-#include "foundation/Geometry.h"
 
 #include <optional>
 #include <span>
@@ -10,8 +9,7 @@
 namespace tessaly {
 
 /// A gradient of SVG as this program has gradients: with the same picture in a square box, or with notes.
-/// None: nothing would be painted. `viewport` is what percentages in user space are shares of.
-std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::span<const SvgStop> stops,
-                                             Size viewport);
+/// None: nothing would be painted.
+std::optional<FoundGradient> takeSvgGradient(const SvgGradient& gradient, std::span<const SvgStop> stops);
 
 } // namespace tessaly

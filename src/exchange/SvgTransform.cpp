@@ -1,5 +1,6 @@
 #include "exchange/SvgTransform.h"
 
+#include "exchange/CssCharacter.h"
 #include "exchange/SvgValue.h"
 
 #include <algorithm>

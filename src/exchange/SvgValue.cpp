@@ -1,30 +1,22 @@
 #include "exchange/SvgValue.h"
 
+#include "exchange/CssCharacter.h"
+
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
 namespace tessaly {
-namespace {
-
-constexpr std::string_view blanks = " \t\r\n\f";
-
-} // namespace
-
 void skipSeparators(std::string_view& text) {
-    while (!text.empty() && (text.front() == ',' || blanks.find(text.front()) != std::string_view::npos)) {
+    while (!text.empty() && (text.front() == ',' || isCssBlank(text.front()))) {
         text.remove_prefix(1);
     }
 }
 
-std::string_view trimmed(std::string_view text) {
-    const std::size_t begin = text.find_first_not_of(blanks);
-    return begin == std::string_view::npos ? std::string_view{}
-                                           : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
-}
-
 std::optional<std::string_view> takeWord(std::string_view& text) {
     text = trimmed(text);
-    const std::string_view word = text.substr(0, text.find_first_of(blanks));
+    const auto end = std::ranges::find_if(text, isCssBlank);
+    const std::string_view word = text.substr(0, static_cast<std::size_t>(end - text.begin()));
     text.remove_prefix(word.size());
     return word.empty() ? std::nullopt : std::optional{word};
 }

@@ -8,9 +8,6 @@ namespace tessaly {
 /// Takes blanks off the front of the text, and commas too.
 void skipSeparators(std::string_view& text);
 
-/// The text without blanks at its ends.
-std::string_view trimmed(std::string_view text);
-
 /// Takes the next word, which ends at a blank, off the front of the text.
 std::optional<std::string_view> takeWord(std::string_view& text);
 

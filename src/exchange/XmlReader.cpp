@@ -7,9 +7,6 @@
 namespace tessaly {
 namespace {
 
-// With every piece the parser looks at an unfinished token from its beginning.
-constexpr std::size_t pieceSize = std::size_t{4} << 20U;
-
 struct ParserEnd {
     void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
 };
@@ -28,36 +25,38 @@ bool isUtf8(std::string_view text) {
     return true;
 }
 
-// None: the parser finds it out from the byte-order mark.
-const char* encodingOf(std::string_view text) {
-    if (text.starts_with("\xFE\xFF") || text.starts_with("\xFF\xFE")) {
-        return nullptr;
-    }
-    return isUtf8(text) ? "UTF-8" : "ISO-8859-1";
-}
+// Of the parser that is at work.
+struct Work {
+    XmlHandler& handler;
+    std::size_t depth = 0; ///< of open elements
+    XML_Index behind = 0;  ///< the root, once it has ended
+};
 
-// The document without what may precede it in a pasted text but not in XML.
-std::string_view withoutMargin(std::string_view text) {
-    constexpr std::string_view mark = "\xEF\xBB\xBF";
-    text.remove_prefix(text.starts_with(mark) ? mark.size() : 0);
-    return text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
-}
-
-XmlHandler& handlerOf(void* parser) {
-    return *static_cast<XmlHandler*>(XML_GetUserData(static_cast<XML_Parser>(parser)));
+Work& workOf(void* parser) {
+    return *static_cast<Work*>(XML_GetUserData(static_cast<XML_Parser>(parser)));
 }
 
 void start(void* parser, const XML_Char* name, const XML_Char** attributes) {
     const std::string_view whole = name;
-    handlerOf(parser).startElement(whole.substr(whole.find(':') + 1), XmlAttributes{attributes});
+    Work& work = workOf(parser);
+    ++work.depth;
+    work.handler.startElement(whole.substr(whole.find(':') + 1), XmlAttributes{attributes});
 }
 
+// Nothing behind the root matters.
 void end(void* parser, const XML_Char* /*name*/) {
-    handlerOf(parser).endElement();
+    Work& work = workOf(parser);
+    work.handler.endElement();
+    --work.depth;
+    if (work.depth == 0) {
+        auto* const at = static_cast<XML_Parser>(parser);
+        work.behind = XML_GetCurrentByteIndex(at) + XML_GetCurrentByteCount(at);
+        XML_StopParser(at, XML_FALSE);
+    }
 }
 
 void characters(void* parser, const XML_Char* text, int length) {
-    handlerOf(parser).characters({text, static_cast<std::size_t>(length)});
+    workOf(parser).handler.characters({text, static_cast<std::size_t>(length)});
 }
 
 void refuse(void* parser, const XML_Char*, int, const XML_Char*, int, const XML_Char*, const XML_Char*,
@@ -79,10 +78,10 @@ void refuseUnlessShort(void* parser, const XML_Char*, int isParameter, const XML
 
 constexpr std::size_t mostWithEntities = std::size_t{1} << 20U;
 
-Parser makeParser(const char* encoding, bool isLong, XmlHandler& handler) {
+Parser makeParser(const char* encoding, bool isLong, Work& work) {
     Parser parser{XML_ParserCreate(encoding)};
     if (parser) {
-        XML_SetUserData(parser.get(), &handler);
+        XML_SetUserData(parser.get(), &work);
         XML_UseParserAsHandlerArg(parser.get());
         XML_SetElementHandler(parser.get(), start, end);
         XML_SetCharacterDataHandler(parser.get(), characters);
@@ -91,26 +90,48 @@ Parser makeParser(const char* encoding, bool isLong, XmlHandler& handler) {
     return parser;
 }
 
+bool endedTooSoon(XML_Error error) {
+    return error == XML_ERROR_UNCLOSED_TOKEN || error == XML_ERROR_PARTIAL_CHAR ||
+           error == XML_ERROR_NO_ELEMENTS || error == XML_ERROR_UNCLOSED_CDATA_SECTION;
+}
+
 } // namespace
 
-XmlEnd readXml(std::string_view text, XmlHandler& handler, const Progress& progress) {
-    const bool isWhole = text.size() <= longestXml;
-    text = withoutMargin(text.substr(0, longestXml));
-    const Parser parser = makeParser(encodingOf(text), text.size() > mostWithEntities, handler);
-    std::size_t read = 0;
-    while (parser && read < text.size()) {
-        const std::string_view piece = text.substr(read, pieceSize);
-        read += piece.size();
-        const bool isLast = isWhole && read == text.size();
-        if (XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isLast ? 1 : 0) !=
-            XML_STATUS_OK) {
-            return XmlEnd::Malformed;
+XmlReader::XmlReader(std::string_view text, bool isCut, ReadingProgress& progress, std::size_t offset)
+    : text_{text},
+      isCut_{isCut},
+      progress_{progress},
+      offset_{offset},
+      encoding_{isUtf8(text) ? "UTF-8" : "ISO-8859-1"} {}
+
+XmlElement XmlReader::read(std::size_t begin, XmlHandler& handler) {
+    // Pieces grow, since the parser looks at an unfinished token from its beginning with each, and most
+    // elements are short.
+    constexpr std::size_t shortest = std::size_t{4} << 10U;
+    constexpr std::size_t longest = std::size_t{4} << 20U;
+    Work work{handler};
+    const Parser parser = makeParser(encoding_, text_.size() > mostWithEntities, work);
+    std::size_t size = shortest;
+    for (std::size_t place = begin; parser && place < text_.size(); size = std::min(2 * size, longest)) {
+        const std::string_view piece = text_.substr(place, size);
+        place += piece.size();
+        const bool isLast = !isCut_ && place == text_.size();
+        const auto status =
+            XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isLast ? 1 : 0);
+        if (!progress_.reach(offset_ + place)) {
+            return {XmlEnd::Cancelled, place};
         }
-        if (progress && !progress(static_cast<double>(read) / static_cast<double>(text.size()))) {
-            return XmlEnd::Cancelled;
+        if (work.behind > 0) {
+            return {XmlEnd::Whole, begin + static_cast<std::size_t>(work.behind)};
+        }
+        if (status != XML_STATUS_OK) {
+            const XML_Index index = std::max<XML_Index>(XML_GetCurrentByteIndex(parser.get()), 0);
+            const bool isMistake = !endedTooSoon(XML_GetErrorCode(parser.get()));
+            return {isMistake ? XmlEnd::Malformed : XmlEnd::Unfinished,
+                    begin + static_cast<std::size_t>(index)};
         }
     }
-    return parser && read > 0 ? XmlEnd::Whole : XmlEnd::Malformed;
+    return {parser && isCut_ ? XmlEnd::Whole : XmlEnd::Unfinished, text_.size()};
 }
 
 } // namespace tessaly

@@ -16,7 +16,10 @@ std::string offered(const Incoming& incoming) {
     if (incoming.color) {
         return "color " + hexadecimalText(incoming.color->color).value();
     }
-    return incoming.gradients.empty() ? incoming.failure : described({incoming.gradients, incoming.complete});
+    if (incoming.gradients.empty()) {
+        return incoming.failure;
+    }
+    return described({incoming.gradients}) + (incoming.leftOut.empty() ? "" : "; " + incoming.leftOut);
 }
 
 TEST(Incoming, aTextIsAColorOrHasGradientsOrIsToldOf) {
@@ -25,7 +28,23 @@ TEST(Incoming, aTextIsAColorOrHasGradientsOrIsToldOf) {
         {"<svg xmlns='http://www.w3.org/2000/svg'><radialGradient id='a'><stop/><stop offset='1' "
          "stop-color='red'/></radialGradient></svg>",
          "a: 4 #000000 0, #ff0000 100 (size taken as farthest-corner)"},
-        {"color: red", "No gradient in the clipboard"},
+        {"color: #ff5f6d;", "color #ff5f6d"},
+        {"\n#FF5F6D ; ", "color #ff5f6d"},
+        {"--brand: red ! important", "color #ff0000"},
+        {"color: red; width: 1px", "No gradient in the clipboard"},
+        {"a { color: red }", "No gradient in the clipboard"},
+        {"conic-gradient(red, blue)", "The gradient is conic"},
+        {"a { background: linear-gradient(currentColor, red); color: inherit }",
+         "The gradient uses currentColor"},
+        {"a { background: linear-gradient(var(--x), red) } b { mask: conic-gradient(red, blue) }",
+         "None of 2 gradients can be taken: the first uses var()"},
+        {"linear-gradient(red, blue); mask: linear-gradient(light-dark(red, blue), red)",
+         "0 #0000ff 0, #ff0000 100; 1 more gradient left out: it uses light-dark()"},
+        {"linear-gradient(red, " + std::string(80'000, ',') + "red); linear-gradient(red, blue);" +
+             "conic-gradient(red, blue); linear-gradient(color-mix(in lab, red, blue), red)",
+         "0 #0000ff 0, #ff0000 100; 2 more gradients left out: the first is conic; what was too much to "
+         "read is left out"},
+        {"", "No gradient in the clipboard"},
         {std::string(longestIncoming + 1, ' '), "More than 16 MB in the clipboard: not read"}};
     for (const auto& [text, expected] : texts) {
         EXPECT_EQ(offered(readIncomingText(text, "the clipboard")), expected) << text.substr(0, 80);

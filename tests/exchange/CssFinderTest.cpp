@@ -75,6 +75,26 @@ TEST(CssFinder, findsWhatIsInAStylesheet) {
     });
 }
 
+TEST(CssFinder, putsInWhatATextDefines) {
+    expectAll({
+        {"a { background: linear-gradient(90deg, currentColor, #bbb); color: #aaa !important }", "a: AB"},
+        {"color: #aaa; background: linear-gradient(90deg, currentcolor, #bbb)", "AB"},
+        {"a { color: #aaa } b { background: linear-gradient(currentcolor, #bbb) }", ""},
+        {"<p style='background: linear-gradient(90deg, currentColor, #bbb); color: #aaa'>", "AB"},
+        {"a { background: linear-gradient(calc(2 * VAR(--w)), var(--a), var(--n, var(--m, #bbb))) }"
+         "/* all */ b, :root { --w: 45deg; --a: var(--c); --c: #aaa } i { --c: red }"
+         "@media print { :root { --a: red } }",
+         "a: AB"},
+        {":root { --a: red; --d: var(--d) } a { background: linear-gradient(90deg,var(--a),var(--b)); --a: "
+         "#aaa;"
+         " --b: #bbb } b { background: linear-gradient(var(--c), var(--d)) }",
+         "a: AB"},
+        {"a { background: CD; background: linear-gradient(var(--a), red) } b { background: linear-gradient("
+         "var(--a), red); background: -webkit-linear-gradient(left, #aaa, #bbb) }",
+         "a: CD\nb: AB"},
+    });
+}
+
 TEST(CssFinder, tellsWhatElseAValueShows) {
     constexpr std::string_view placed = "AB (size and place of the layer left out)";
     constexpr std::string_view seeThrough = "linear-gradient(90deg, #aaa, #bbb8)";

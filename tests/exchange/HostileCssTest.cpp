@@ -23,6 +23,11 @@ TEST(HostileCss, isAnswered) {
         {repeated("linear-gradient(", 100'000) + "red", 0},
         {repeated("image-set(", 100'000) + "linear-gradient(red, blue)", 1},
         {repeated("a{", 900) + "background:linear-gradient(red,blue)", 1},
+        {"linear-gradient(" + repeated("var(--a,", 100'000), 0},
+        {"--a:" + repeated("var(--b)", 1000) + ";--b:" + repeated("var(--a)", 1000) +
+             repeated(";x:linear-gradient(var(--a))", 1000),
+         0},
+        {repeated("<", 100'000), 0},
         {"<style>" + repeated("</", 100'000), 0},
         {"<p style='" + repeated("&", 100'000) + repeated("&#1", 100'000), 0},
         {repeated("/*", 100'000), 0},
