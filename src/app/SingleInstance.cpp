@@ -13,7 +13,7 @@ namespace tessaly {
 namespace {
 
 // In milliseconds, with a copy that does not answer.
-constexpr int patience = 2'000;
+constexpr int patience = 1'700; // the start of this copy takes its time too
 constexpr int pause = 100;
 
 // In the user's private folder for sockets; short, since the path of a socket has little room.

@@ -41,6 +41,10 @@ begin
 eval "$(xdotool getwindowgeometry --shell "$window")"
 [ "$HEIGHT" -le 680 ] || fail "the window is higher than the screen"
 timeout 10 "$program" 2>"$work/second" || fail "a second start did not end"
+kill -STOP "$pid"
+! timeout 4 "$program" 2>"$work/second" || fail "a first copy that hangs was taken to answer"
+grep -q 'does not answer' "$work/second"
+kill -CONT "$pid"
 [ ! -e "$TMPDIR/WebFolder1" ] || fail "a second copy went to work"
 at $last_marker && xdotool mousedown 1
 at 400 208 && at $middle_of_track && xdotool mouseup 1
