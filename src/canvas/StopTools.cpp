@@ -110,7 +110,8 @@ std::string_view nameOf(StopTool tool) {
 std::optional<StopSelection> appliedTo(const GlobalData& record, std::int64_t selected, StopTool tool) {
     const std::vector<ColorStop>& before = record.gradient.stops();
     Stops stops{before, selected, colorFormat::carriesOpacity(record.colorFormatType)};
-    toolOf(tool).apply(stops);
+    const auto apply = toolOf(tool).apply;
+    apply(stops);
     if (stops.list == before) {
         return std::nullopt;
     }
