@@ -67,7 +67,7 @@ class Page : public QObject {
     }
 
   private:
-    SourceView page_{QStringLiteral("CSS code")};
+    SourceView page_{CodeLanguage::Css, QStringLiteral("CSS code")};
     QEventLoop untilPaint_;
 };
 

@@ -15,9 +15,8 @@ inline Color fromQColor(const QColor& color) {
     if (!color.isValid()) {
         return Color::withoutRGBForm();
     }
-    const QColor rgb = color.toRgb();
-    return Color::calibratedRGB(static_cast<double>(rgb.redF()), static_cast<double>(rgb.greenF()),
-                                static_cast<double>(rgb.blueF()), static_cast<double>(rgb.alphaF()));
+    const RGBAComponents rgb = toComponents(color);
+    return Color::calibratedRGB(rgb.red, rgb.green, rgb.blue, rgb.alpha);
 }
 
 } // namespace tessaly

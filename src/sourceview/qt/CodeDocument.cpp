@@ -11,8 +11,8 @@
 
 namespace tessaly {
 
-CodeDocument::CodeDocument(QObject* parent) : QTextDocument{parent} {
-    setDocumentLayout(new CodeDocumentLayout{this});
+CodeDocument::CodeDocument(QObject* parent) : QTextDocument{parent}, layout_{new CodeDocumentLayout{this}} {
+    setDocumentLayout(layout_);
     connect(this, &QTextDocument::contentsChange, this, &CodeDocument::noteChange);
 }
 

@@ -12,6 +12,8 @@ class QTextCursor;
 
 namespace tessaly {
 
+class CodeDocumentLayout;
+
 /// A document of code that knows its exact text, which of its edits are the user's, and whether its lines can
 /// be wrapped. Offsets and lengths count UTF-16 units. Lines end with LF whatever ended them in the text put
 /// in; all other characters stay exactly as they are.
@@ -20,6 +22,8 @@ class CodeDocument : public QTextDocument {
 
   public:
     explicit CodeDocument(QObject* parent);
+
+    CodeDocumentLayout& lineLayout() { return *layout_; }
 
     /// The whole text; valid until it changes.
     std::u16string_view text() const { return mirror_.text(); }
@@ -44,6 +48,7 @@ class CodeDocument : public QTextDocument {
     void noteChange(int position, int removed, int added);
     QString rawText(std::size_t position, std::size_t length);
 
+    CodeDocumentLayout* layout_;
     TextMirror mirror_;
     LongLineWatch longLines_;
     std::optional<TextEdit> userEdit_;

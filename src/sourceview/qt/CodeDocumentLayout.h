@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPlainTextDocumentLayout>
+#include <QTextLayout>
 
 namespace tessaly {
 
@@ -13,6 +14,13 @@ class CodeDocumentLayout : public QPlainTextDocumentLayout {
   public:
     using QPlainTextDocumentLayout::QPlainTextDocumentLayout;
 
+    /// Whether that line is too long to be wrapped.
+    static bool isLong(const QTextBlock& line);
+
+    /// Colours a line. That is no edit: it is not reported, and nothing is laid out anew but the line, when
+    /// it is looked at next.
+    void setColors(const QTextBlock& line, const QList<QTextLayout::FormatRange>& colors);
+
     QRectF blockBoundingRect(const QTextBlock& block) const override;
 
   protected:
@@ -20,6 +28,7 @@ class CodeDocumentLayout : public QPlainTextDocumentLayout {
 
   private:
     int lines_ = 1; ///< as of the last change
+    bool isColoring_ = false;
 };
 
 } // namespace tessaly

@@ -4,6 +4,7 @@
 #include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
 #include "sourceview/qt/CodeDocument.h"
+#include "sourceview/qt/SelectionBand.h"
 
 #include <QDragEnterEvent>
 #include <QFontDatabase>
@@ -21,23 +22,16 @@ namespace {
 
 constexpr int tabWidth = 4; // in characters
 
-// The band behind the selected lines.
-constexpr RGBAComponents bandFill = rgbOfBytes(209, 226, 242, 0.4);
-constexpr RGBAComponents bandBorder = rgbOfBytes(120, 174, 229, 0.4);
-
-// At full strength the pale fill would take the contrast from the light text of a dark desktop.
-double bandStrength(const QColor& background) {
-    return isDark(background) ? 0.35 : 1.0;
-}
-
 } // namespace
 
-CustomTextView::CustomTextView(QWidget* parent) : QPlainTextEdit{parent}, code_{new CodeDocument{this}} {
+CustomTextView::CustomTextView(CodeLanguage language, QWidget* parent)
+    : QPlainTextEdit{parent}, code_{new CodeDocument{this}}, coloring_{*code_, language} {
     setDocument(code_);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     code_->setDefaultFont(font());
     setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(QLatin1Char{' '}));
     setInputMethodHints(Qt::ImhMultiLine | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+    followPalette();
     connect(code_, &CodeDocument::wrappingAdvised, this, &CustomTextView::setWrapping);
     connect(code_, &QTextDocument::contentsChanged, this, &CustomTextView::reportEdits);
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CustomTextView::redisplay);
@@ -150,22 +144,30 @@ bool CustomTextView::leave(bool forwards) {
     return left;
 }
 
+void CustomTextView::followPalette() {
+    coloring_.setPalette(toComponents(palette().color(QPalette::Text)),
+                         selectionBand::colorOn(palette().color(QPalette::Base)));
+}
+
+void CustomTextView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        followPalette();
+    }
+    QPlainTextEdit::changeEvent(event);
+}
+
 void CustomTextView::paintEvent(QPaintEvent* event) {
+    coloring_.colorLines(firstVisibleBlock(), viewport()->height() / fontMetrics().height() + 2);
     drawViewBackgroundInRect(event->rect());
     QPlainTextEdit::paintEvent(event); // the text; the background is the viewport's own
 }
 
 void CustomTextView::drawViewBackgroundInRect(const QRectF& rectangle) {
-    const QRectF band = highlightRectForRange(selection()).toAlignedRect();
-    if (!band.intersects(rectangle)) {
-        return;
+    const QRect band = highlightRectForRange(selection()).toAlignedRect();
+    if (rectangle.intersects(band)) {
+        QPainter painter{viewport()};
+        selectionBand::draw(painter, band, palette().color(QPalette::Base));
     }
-    QPainter painter{viewport()};
-    painter.setOpacity(bandStrength(palette().color(QPalette::Base)));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(band, toQColor(bandFill));
-    painter.setPen(QPen{toQColor(bandBorder), 1});
-    painter.drawRect(band.adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 QRectF CustomTextView::highlightRectForRange(TextRange range) const {

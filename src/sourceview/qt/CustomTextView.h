@@ -2,6 +2,7 @@
 
 #include "foundation/TextRange.h"
 #include "sourceview/TextLayout.h"
+#include "sourceview/qt/CodeColoring.h"
 #include "sourceview/qt/CodeDocument.h"
 
 #include <QPlainTextEdit>
@@ -12,14 +13,15 @@
 
 namespace tessaly {
 
-/// An editable view of generated code. A band runs behind the selected lines, and only plain text gets in and
-/// out. Offsets and lengths count UTF-16 units. What the program writes into the view ends the undo history.
-/// Long lines wrap at the view's width while none is longer than `LongLineWatch::longestWrapped`.
+/// An editable view of generated code, whose visible lines are coloured. A band runs behind the selected
+/// lines, and only plain text gets in and out. Offsets and lengths count UTF-16 units. What the program
+/// writes into the view ends the undo history. Long lines wrap at the view's width while none is longer than
+/// `LongLineWatch::longestWrapped`.
 class CustomTextView : public QPlainTextEdit, public TextLayout {
     Q_OBJECT
 
   public:
-    explicit CustomTextView(QWidget* parent = nullptr);
+    explicit CustomTextView(CodeLanguage language, QWidget* parent = nullptr);
 
     /// Always -31: kept, though nobody reads it, for whoever learns from it that the caret was never
     /// followed.
@@ -57,6 +59,7 @@ class CustomTextView : public QPlainTextEdit, public TextLayout {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool event(QEvent* event) override;
@@ -69,6 +72,7 @@ class CustomTextView : public QPlainTextEdit, public TextLayout {
 
   private:
     void reportEdits();
+    void followPalette();
     void setWrapping(bool wrapping);
     void placeRuler();
     bool leave(bool forwards);
@@ -76,6 +80,7 @@ class CustomTextView : public QPlainTextEdit, public TextLayout {
     void drawViewBackgroundInRect(const QRectF& rectangle);
 
     CodeDocument* code_;
+    CodeColoring coloring_;
     QPointer<QWidget> ruler_;
 };
 

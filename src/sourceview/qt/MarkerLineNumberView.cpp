@@ -2,20 +2,22 @@
 
 #include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
+#include "sourceview/CodeColors.h"
 #include "sourceview/qt/CustomTextView.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QFontInfo>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWheelEvent>
 #include <cmath>
 
 namespace tessaly {
 namespace {
 
-// The gutter's own colours, the same on a light and on a dark desktop.
-constexpr RGBAComponents textColor{0.42, 0.42, 0.42, 1.0};
+// The markers' own colours, the same on a light and on a dark desktop.
 constexpr RGBAComponents alternateTextColor{1.0, 1.0, 1.0, 1.0};
 constexpr RGBAComponents markerFill{0.003, 0.56, 0.85, 1.0};
 constexpr RGBAComponents markerStroke{0.0, 0.44, 0.8, 1.0};
@@ -49,11 +51,12 @@ void drawMarker(QPainter& painter, const Rect& place) {
     painter.restore();
 }
 
-// The platform's small label font.
+// The platform's small label font; never larger than the code, whose rows are as high as its own font.
 QFont labelFont() {
     constexpr double miniSize = 0.85;
+    const QFont code = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     QFont small = QApplication::font();
-    small.setPointSizeF(QFontInfo{small}.pointSizeF() * miniSize);
+    small.setPointSizeF(std::min(QFontInfo{small}.pointSizeF(), QFontInfo{code}.pointSizeF()) * miniSize);
     return small;
 }
 
@@ -120,6 +123,8 @@ void MarkerLineNumberView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     const QFont font = labelFont();
     const double ascent = QFontMetricsF{font}.ascent();
+    const RGBAComponents textColor = codeColor::ofLineNumber(toComponents(palette().color(QPalette::Text)),
+                                                             toComponents(palette().color(backgroundRole())));
     painter.setFont(font);
     for (const GutterLabel& label : gutter::labels(textView_, lineIndices(), width(), labelMeasure())) {
         const bool isMarked = markedLines_.contains(static_cast<std::uint32_t>(label.line + 1));
@@ -137,6 +142,11 @@ void MarkerLineNumberView::redrawWithText(const QRect& changed, int scrolled) {
     } else {
         update(0, changed.y(), width(), changed.height());
     }
+}
+
+// The toolkit scrolls a text for what its viewport hears.
+void MarkerLineNumberView::wheelEvent(QWheelEvent* event) {
+    QCoreApplication::sendEvent(textView_.viewport(), event);
 }
 
 void MarkerLineNumberView::mousePressEvent(QMouseEvent* event) {

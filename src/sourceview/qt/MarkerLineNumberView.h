@@ -13,7 +13,8 @@ namespace tessaly {
 
 class CustomTextView;
 
-/// The gutter of a code view: the numbers of its lines, counted from 1. A click only redraws it.
+/// The gutter of a code view: the numbers of its lines, counted from 1. A click only redraws it; the
+/// wheel scrolls the text.
 class MarkerLineNumberView : public QWidget {
     Q_OBJECT
 
@@ -33,6 +34,7 @@ class MarkerLineNumberView : public QWidget {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
   private:
     const LineIndices& lineIndices();

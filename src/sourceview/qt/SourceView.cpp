@@ -7,8 +7,8 @@
 
 namespace tessaly {
 
-SourceView::SourceView(const QString& accessibleName, QWidget* parent)
-    : QWidget{parent}, textView_{new CustomTextView{this}} {
+SourceView::SourceView(CodeLanguage language, const QString& accessibleName, QWidget* parent)
+    : QWidget{parent}, textView_{new CustomTextView{language, this}} {
     new MarkerLineNumberView{*textView_}; // which owns it
     textView_->setAccessibleName(accessibleName);
     setFocusProxy(textView_);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sourceview/CodeStretch.h"
+
 #include <QWidget>
 
 namespace tessaly {
@@ -11,7 +13,7 @@ class SourceView : public QWidget {
     Q_OBJECT
 
   public:
-    explicit SourceView(const QString& accessibleName, QWidget* parent = nullptr);
+    SourceView(CodeLanguage language, const QString& accessibleName, QWidget* parent = nullptr);
 
     CustomTextView& textView() const { return *textView_; }
 

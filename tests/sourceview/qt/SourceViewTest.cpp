@@ -1,8 +1,11 @@
 // A code view and its gutter.
 
 #include "sourceview/qt/SourceView.h"
+#include "foundation/Contrast.h"
+#include "foundation/qt/ToQColor.h"
 #include "sourceview/qt/CustomTextView.h"
 #include "sourceview/qt/MarkerLineNumberView.h"
+#include "support/Palettes.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -37,8 +40,14 @@ class SourceViewTest : public testing::Test {
         view.setTextCursor(cursor);
     }
 
+    /// The colours of a line, as far as it has been seen.
+    QList<QTextLayout::FormatRange> colorsOf(int line) const {
+        return view.document()->findBlockByNumber(line).layout()->formats();
+    }
+    MarkerLineNumberView& gutter() { return *view.findChild<MarkerLineNumberView*>(); }
+
     QClipboard& clipboard = *QGuiApplication::clipboard();
-    SourceView page{u"CSS code"_s};
+    SourceView page{CodeLanguage::Css, u"CSS code"_s};
     CustomTextView& view = page.textView();
     std::vector<TextEdit> edits;
 };
@@ -166,11 +175,10 @@ TEST_F(SourceViewTest, theKeyboardIsNotTrapped) {
 TEST_F(SourceViewTest, theGutterNumbersTheFirstRowOfEachLineOfItsClient) {
     setText(u"a\n" + std::u16string(60, u'w') + u"\nnel\u0085is no row\u2028but this is");
     QTest::keyClick(&view, Qt::Key_Return);
-    auto& gutter = *view.findChild<MarkerLineNumberView*>();
     const QRectF first = view.highlightRectForRange({0, 0});
     const auto pixelsBeside = [&](int row) {
         const auto y = static_cast<int>(first.center().y() + row * first.height());
-        return gutter.grab().toImage().copy(0, y, gutter.width(), 1);
+        return gutter().grab().toImage().copy(0, y, gutter().width(), 1);
     };
     const int end = 4 + view.document()->findBlock(3).layout()->lineCount();
     for (int row = 0; row < end; ++row) { // the toolkit starts no row for the line behind NEL
@@ -178,6 +186,85 @@ TEST_F(SourceViewTest, theGutterNumbersTheFirstRowOfEachLineOfItsClient) {
         EXPECT_EQ(isNumbered, row < 3 || row >= end - 2) << row;
     }
     EXPECT_EQ(view.rectangleOfRowAt(68), std::nullopt);
+}
+
+TEST_F(SourceViewTest, theWheelScrollsOverTheGutterAsOverTheText) {
+    setText(u"x\n"_s.repeated(300).toStdU16String());
+    for (QWidget* const target : {view.viewport(), static_cast<QWidget*>(&gutter())}) {
+        view.verticalScrollBar()->setValue(0);
+        QWheelEvent event{{}, {}, {}, {0, -240}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false};
+        QCoreApplication::sendEvent(target, &event);
+        EXPECT_EQ(view.verticalScrollBar()->value(), 2 * QApplication::wheelScrollLines());
+    }
+}
+
+TEST_F(SourceViewTest, whatIsSeenIsColored) {
+    const QString rule = u"a { /* b */\n\tc: d; }\n"_s;
+    setText((rule + QString{10'001, u'x'} + u'\n' + rule.repeated(300)).toStdU16String());
+    page.grab();
+    EXPECT_EQ(colorsOf(0).size(), 2);
+    EXPECT_EQ(colorsOf(2).size(), 0) << "a long line";
+    EXPECT_EQ(colorsOf(4).at(1).length, 1);
+    EXPECT_EQ(colorsOf(300).size(), 0) << "not seen yet";
+    view.verticalScrollBar()->setValue(300);
+    page.grab();
+    EXPECT_EQ(colorsOf(300), colorsOf(4));
+    EXPECT_NE(colorsOf(300), colorsOf(301));
+    select(view.document()->findBlockByNumber(300).position() + 2, 0);
+    QTest::keyClicks(&view, u"/*"_s);
+    page.grab();
+    ASSERT_EQ(colorsOf(301).size(), 1);
+    EXPECT_EQ(colorsOf(301).at(0).format, colorsOf(0).at(1).format) << "a comment now";
+    QInputMethodEvent composing{u"ni"_s, {{QInputMethodEvent::TextFormat, 0, 2, QTextCharFormat{}}}};
+    QCoreApplication::sendEvent(&view, &composing);
+    page.grab();
+    EXPECT_EQ(colorsOf(300).size(), 1) << "the input method's own";
+}
+
+TEST_F(SourceViewTest, coloringIsNoEdit) {
+    const std::u16string rules = u"a { /* b */ }\n"_s.repeated(300).toStdU16String();
+    setText(rules);
+    select(14, 0);
+    QTest::keyClicks(&view, u"x"_s);
+    std::vector<std::pair<int, int>> reports;
+    QObject::connect(
+        view.document(), &QTextDocument::contentsChange,
+        [&](int position, int /*removed*/, int added) { reports.emplace_back(position, added); });
+    const double height = view.highlightRectForRange({0, 40}).height();
+    page.grab();
+    view.verticalScrollBar()->setValue(290);
+    page.grab();
+    EXPECT_EQ(view.highlightRectForRange({view.length() - 41, 40}).height(), height);
+    QTest::keyClicks(&view, u"y"_s);
+    EXPECT_EQ(reports, (std::vector{std::pair{15, 1}}));
+    view.undo();
+    EXPECT_EQ(view.text(), rules) << "typed in one go";
+    EXPECT_FALSE(view.document()->isUndoAvailable());
+}
+
+TEST_F(SourceViewTest, whatIsColoredCanBeRead) {
+    setText(u"a { /* b */\n\tc: d; }");
+    for (const QPalette& palette : {QPalette{Qt::white}, darkPalette()}) {
+        page.setPalette(palette);
+        const QImage shown = view.viewport()->grab().toImage();
+        const QRectF band = view.highlightRectForRange({0, 0}).toAlignedRect();
+        const auto base = toComponents(palette.color(QPalette::Base));
+        for (const auto& range : colorsOf(0) + colorsOf(1)) {
+            const auto color = toComponents(range.format.foreground().color());
+            EXPECT_GE(contrastBetween(color, base), 4.5);
+            EXPECT_GE(contrastBetween(color, toComponents(shown.pixelColor(band.center().toPoint()))), 4.5);
+        }
+        const auto border = toComponents(shown.pixelColor(int(band.center().x()), int(band.top())));
+        EXPECT_GE(contrastBetween(border, base), isDark(palette.color(QPalette::Base)) ? 3.0 : 1.3);
+        const QImage numbers = gutter().grab().toImage();
+        double strongest = 0;
+        for (int i = 0; i < numbers.width() * numbers.height(); ++i) {
+            const auto pixel = toComponents(numbers.pixelColor(i % numbers.width(), i / numbers.width()));
+            strongest = std::max(strongest, contrastBetween(pixel, base));
+        }
+        EXPECT_GE(strongest, 4.4) << "as far as smoothing lets it";
+        EXPECT_LT(strongest, 8) << "less than the text";
+    }
 }
 
 } // namespace

@@ -1,0 +1,42 @@
+#include "foundation/Contrast.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+double linear(double component) {
+    constexpr double straightEnd = 0.04045; // below it the curve of sRGB is a line
+    return component <= straightEnd ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const RGBAComponents& color) {
+    return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
+}
+
+} // namespace
+
+double contrastBetween(const RGBAComponents& one, const RGBAComponents& other) {
+    constexpr double glare = 0.05; // of the room, on every display
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + glare) / (darker + glare);
+}
+
+RGBAComponents laidOver(const RGBAComponents& background, const RGBAComponents& color) {
+    const auto mix = [&](double under, double over) { return under + (over - under) * color.alpha; };
+    return {mix(background.red, color.red), mix(background.green, color.green),
+            mix(background.blue, color.blue)};
+}
+
+RGBAComponents withContrast(double contrast, const RGBAComponents& color, const RGBAComponents& text,
+                            const RGBAComponents& background) {
+    constexpr int steps = 32;
+    RGBAComponents mixed = color;
+    for (int step = 1; step <= steps && contrastBetween(mixed, background) < contrast; ++step) {
+        mixed = laidOver(color, {text.red, text.green, text.blue, double(step) / steps});
+    }
+    return mixed;
+}
+
+} // namespace tessaly
