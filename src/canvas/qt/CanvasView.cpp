@@ -1,7 +1,9 @@
 #include "canvas/qt/CanvasView.h"
 
+#include "foundation/Contrast.h"
 #include "foundation/NumberText.h"
 #include "foundation/qt/Flipped.h"
+#include "foundation/qt/ToQColor.h"
 #include "foundation/qt/ToQString.h"
 #include "model/qt/ColorBridge.h"
 
@@ -71,10 +73,23 @@ void CanvasView::paintEvent(QPaintEvent* /*event*/) {
     updateMedium(); // the window may have come to another screen, the desktop to another theme
     QPainter painter{this};
     painter.drawImage(QPointF{0, 0}, picture_.image());
-    if (hasFocus()) {
+    if (editor_ != nullptr && accessibleItemCount() == 0) {
+        paintInvitation(painter);
+    }
+    if (hasFocus() && keyboardFocus_.isShown()) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
+}
+
+// Where there is no stop.
+void CanvasView::paintInvitation(QPainter& painter) const {
+    const RGBAComponents background = toComponents(palette().color(QPalette::Window));
+    const RGBAComponents quiet =
+        laidOver(background, toComponents(palette().color(QPalette::PlaceholderText)));
+    const RGBAComponents text = toComponents(palette().color(QPalette::WindowText));
+    painter.setPen(toQColor(withContrast(textContrast, quiet, text, background)));
+    painter.drawText(rect(), Qt::AlignCenter, tr("Press Insert to add a stop"));
 }
 
 QRectF CanvasView::markerRect(const ColorStop& stop) const {
@@ -154,6 +169,9 @@ void CanvasView::keyPressEvent(QKeyEvent* event) {
 
 // With any of these the release of the mouse may go elsewhere.
 bool CanvasView::event(QEvent* event) {
+    if (keyboardFocus_.isChangedBy(*event)) {
+        update();
+    }
     switch (event->type()) {
     case QEvent::FocusOut:
     case QEvent::Hide:

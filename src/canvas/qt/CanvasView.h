@@ -4,6 +4,7 @@
 #include "canvas/GradientEditor.h"
 #include "canvas/qt/CanvasPicture.h"
 #include "foundation/qt/AccessibleItems.h"
+#include "foundation/qt/KeyboardFocus.h"
 
 #include <QWidget>
 
@@ -58,11 +59,13 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     void openMenuOfSelected();
     void updateMedium();
     void announceToAssistiveTools();
+    void paintInvitation(QPainter& painter) const;
 
     CanvasGeometry geometry_;
     GradientEditor* editor_ = nullptr;
     CanvasPicture picture_;
     QMenu* popupMenu_;
+    KeyboardFocus keyboardFocus_;
 
     // What assistive tools were last told of the stops.
     int announcedCount_ = 0;

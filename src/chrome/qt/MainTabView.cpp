@@ -77,6 +77,13 @@ bool MainTabView::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+bool MainTabView::event(QEvent* event) {
+    if (keyboardFocus_.isChangedBy(*event)) {
+        update();
+    }
+    return QWidget::event(event);
+}
+
 void MainTabView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
     QLinearGradient grey{0, static_cast<double>(height()), 0, 0};
@@ -87,7 +94,7 @@ void MainTabView::paintEvent(QPaintEvent* /*event*/) {
     for (std::size_t i = 0; i < drawn.titles.size(); ++i) {
         drawTab(painter, i, drawn);
     }
-    if (hasFocus()) {
+    if (hasFocus() && keyboardFocus_.isShown()) {
         drawFocusFrame(painter, drawn);
     }
 }

@@ -3,6 +3,7 @@
 #include "chrome/TabBarColors.h"
 #include "chrome/TabBarLayout.h"
 #include "foundation/qt/AccessibleItems.h"
+#include "foundation/qt/KeyboardFocus.h"
 
 #include <QStringList>
 #include <QTimer>
@@ -37,6 +38,7 @@ class MainTabView : public QWidget, public AccessibleItems {
     void pressAccessibleItem(int item) override { pressTab(item); }
 
   protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -60,6 +62,7 @@ class MainTabView : public QWidget, public AccessibleItems {
     TabBarColors colors_;
     QTimer nextPass_; // of the event loop
     std::int64_t selectIndex_ = 0;
+    KeyboardFocus keyboardFocus_;
 };
 
 } // namespace tessaly
