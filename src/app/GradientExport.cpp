@@ -18,9 +18,13 @@
 namespace tessaly {
 namespace {
 
-constexpr auto durable = AtomicFile::Durability::Forced;
-
 const QString svg = QStringLiteral("svg");
+
+std::error_code writeText(const std::filesystem::path& file, const std::string& text,
+                          const Progress& progress) {
+    return progress(1.0) ? writeUserFile(file, text, AtomicFile::Durability::Forced)
+                         : std::make_error_code(std::errc::operation_canceled);
+}
 
 } // namespace
 
@@ -40,13 +44,11 @@ void GradientExport::askForPicture(QSize size) {
         window_, tr("Export Picture"), tr("gradient.png"), forms,
         [this, size](const std::filesystem::path& file, const QString& suffix) {
             const GlobalData& record = document_.record();
-            const auto opacity = colorFormat::carriesOpacity(record.colorFormatType)
-                                     ? GradientRamp::Opacity::Drawn
-                                     : GradientRamp::Opacity::Ignored;
+            const auto opacity = GradientRamp::opacityIn(record.colorFormatType);
             if (suffix == svg) {
-                write(file, [file, gradient = record.gradient, opacity, size](const Progress& /*progress*/) {
-                    return writeUserFile(file, svgPictureText(gradient, opacity, size.width(), size.height()),
-                                         durable);
+                write(file, [file, gradient = record.gradient, opacity, size](const Progress& progress) {
+                    return writeText(file, svgPictureText(gradient, opacity, size.width(), size.height()),
+                                     progress);
                 });
             } else {
                 const GradientPicture picture{record.gradient, opacity, size.width(), size.height()};
@@ -66,16 +68,16 @@ void GradientExport::exportPresets() {
                    std::vector<Gradient> gradients(presets.size());
                    std::ranges::transform(presets, gradients.begin(),
                                           [](const auto& preset) { return *preset; });
-                   write(file, [file, textOf, gradients](const Progress& /*progress*/) {
-                       return writeUserFile(file, textOf(gradients), durable);
+                   write(file, [file, textOf, gradients](const Progress& progress) {
+                       return writeText(file, textOf(gradients), progress);
                    });
                });
 }
 
-void GradientExport::write(const std::filesystem::path& file, const Write& write) {
+void GradientExport::write(const std::filesystem::path& file, const Job& job) {
     const auto error = std::make_shared<std::error_code>();
     workBeside(
-        window_, tr("Writing…"), [error, write](const Progress& progress) { *error = write(progress); },
+        window_, tr("Writing…"), [error, job](const Progress& progress) { *error = job(progress); },
         [this, error, file] { window_.views().message->say(tellSaved(file, *error)); });
 }
 

@@ -26,10 +26,10 @@ class GradientExport : public QObject {
     void exportPresets();
 
   private:
-    using Write = std::function<std::error_code(const Progress& progress)>;
+    using Job = std::function<std::error_code(const Progress& progress)>;
 
     void askForPicture(QSize size);
-    void write(const std::filesystem::path& file, const Write& write);
+    void write(const std::filesystem::path& file, const Job& job);
 
     Document& document_;
     MainWindow& window_;

@@ -12,8 +12,9 @@ namespace tessaly {
 void openHomepage() {
     const QString guide = QDir::cleanPath(QCoreApplication::applicationDirPath() +
                                           QStringLiteral("/../share/doc/tessaly/guide.html"));
-    WebAddressOpener::open(product::homepage().empty() ? QUrl::fromLocalFile(guide).toString()
-                                                       : toQString(product::homepage()));
+    WebAddressOpener::open(product::homepage().empty()
+                               ? QString::fromLatin1(QUrl::fromLocalFile(guide).toEncoded())
+                               : toQString(product::homepage()));
 }
 
 } // namespace tessaly

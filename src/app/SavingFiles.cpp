@@ -34,13 +34,21 @@ void askForFile(QWidget& window, const QString& title, const QString& name, cons
     };
     follow(filters.first());
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, follow);
-    QObject::connect(
-        dialog, &QFileDialog::fileSelected, &window, [dialog, suffixOf, forms, chosen](const QString& path) {
-            const QString suffix = QFileInfo{path}.suffix().toLower();
-            const bool isKnown = std::ranges::find(forms, suffix, &FileForm::suffix) != forms.end();
-            chosen(std::filesystem::path{path.toStdU16String()},
-                   isKnown ? suffix : suffixOf(dialog->selectedNameFilter()));
-        });
+    const auto take = [&window, title, dialog, suffixOf, forms, chosen](const QString& path) {
+        const QString suffix = QFileInfo{path}.suffix().toLower();
+        if (std::ranges::find(forms, suffix, &FileForm::suffix) != forms.end()) {
+            chosen(std::filesystem::path{path.toStdU16String()}, suffix);
+            return;
+        }
+        const QString wanted = suffixOf(dialog->selectedNameFilter());
+        const QString named = path + u'.' + wanted;
+        if (QFileInfo::exists(named)) { // which nobody has been asked about
+            askForFile(window, title, named, forms, chosen);
+        } else {
+            chosen(std::filesystem::path{named.toStdU16String()}, wanted);
+        }
+    };
+    QObject::connect(dialog, &QFileDialog::fileSelected, &window, take);
     dialog->selectFile(name);
     dialog->open();
 }

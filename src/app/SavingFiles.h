@@ -16,8 +16,8 @@ struct FileForm {
     QString suffix; ///< without a dot
 };
 
-/// Asks for the place of a file, `name` and the first of the forms being proposed. The form is that of the
-/// name that the user gave, or else the one chosen from the list; `chosen` is told the place and its suffix.
+/// Asks for the place of a file, `name` and the first of the forms being proposed. A name without the suffix
+/// of any form gets that of the one chosen from the list; `chosen` is told the place and the form's suffix.
 void askForFile(QWidget& window, const QString& title, const QString& name, const QList<FileForm>& forms,
                 const std::function<void(const std::filesystem::path& file, const QString& suffix)>& chosen);
 

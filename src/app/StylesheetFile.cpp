@@ -3,12 +3,14 @@
 #include "app/MainWindow.h"
 #include "app/MessageLine.h"
 #include "app/SavingFiles.h"
+#include "foundation/DiagnosticLog.h"
+#include "foundation/UserFileError.h"
 #include "foundation/Utf8.h"
 #include "sourceview/qt/CustomTextView.h"
 
-namespace tessaly {
+#include <utility>
 
-using Durability = AtomicFile::Durability;
+namespace tessaly {
 
 StylesheetFile::StylesheetFile(const CustomTextView& view, MainWindow& window)
     : view_{view}, window_{window} {
@@ -20,48 +22,46 @@ StylesheetFile::StylesheetFile(const CustomTextView& view, MainWindow& window)
 }
 
 void StylesheetFile::save() {
-    if (file_) {
-        saveAndTell();
-    } else {
+    if (!file_) {
         saveAs();
+    } else if (!saveIn(*file_)) {
+        setFollowing(false);
     }
 }
 
 void StylesheetFile::saveAs() {
-    ask([this] { saveAndTell(); });
+    ask([](bool /*saved*/) {});
 }
 
-bool StylesheetFile::saveAndTell() {
-    toBeSaved_.stop();
-    const std::error_code error = write(Durability::Forced);
-    window_.views().message->say(tellSaved(file_->path(), error));
-    return !error;
-}
-
-void StylesheetFile::ask(const std::function<void()>& then) {
+void StylesheetFile::ask(const std::function<void(bool saved)>& then) {
     const QString name = file_ ? QString::fromStdString(file_->path().string()) : tr("gradient.css");
     askForFile(window_, tr("Save Stylesheet"), name, {{tr("Stylesheet"), QStringLiteral("css")}},
-               [this, then](const std::filesystem::path& file, const QString& /*suffix*/) {
-                   file_.emplace(file);
-                   then();
+               [this, then](const std::filesystem::path& path, const QString& /*suffix*/) {
+                   SavedFile file{path};
+                   const bool saved = saveIn(file);
+                   if (saved) {
+                       file_ = std::move(file);
+                   }
+                   then(saved);
                });
+}
+
+bool StylesheetFile::saveIn(SavedFile& file) {
+    toBeSaved_.stop();
+    const std::error_code error = write(file, AtomicFile::Durability::Forced);
+    tell(file, error);
+    return !error;
 }
 
 void StylesheetFile::saveOnEveryChange(bool wanted) {
     if (!wanted) {
         finish();
-        stopFollowing();
-        return;
-    }
-    const auto follow = [this] {
-        follows_ = saveAndTell();
-        Q_EMIT savesOnEveryChange(follows_);
-    };
-    if (file_) {
-        follow();
+        setFollowing(false);
+    } else if (file_) {
+        setFollowing(saveIn(*file_));
     } else {
-        Q_EMIT savesOnEveryChange(false); // until there is a file
-        ask(follow);
+        setFollowing(false); // until there is a file
+        ask([this](bool saved) { setFollowing(saved); });
     }
 }
 
@@ -72,26 +72,36 @@ void StylesheetFile::changed() {
 }
 
 void StylesheetFile::saveNow() {
-    if (const std::error_code error = write(Durability::Eventual)) {
-        window_.views().message->say(tellSaved(file_->path(), error));
-        stopFollowing();
+    if (const std::error_code error = write(*file_, AtomicFile::Durability::Eventual)) {
+        tell(*file_, error);
+        setFollowing(false);
     }
 }
 
 void StylesheetFile::finish() {
-    if (toBeSaved_.isActive()) {
-        toBeSaved_.stop();
-        saveNow();
+    if (!toBeSaved_.isActive()) {
+        return;
+    }
+    toBeSaved_.stop();
+    saveNow();
+    if (!follows_) { // the window may be closed already
+        DiagnosticLog::write(window_.views().message->accessibleDescription().toStdString());
     }
 }
 
-std::error_code StylesheetFile::write(Durability durability) {
-    return file_->save(toUtf8(view_.text()), durability);
+std::error_code StylesheetFile::write(SavedFile& file, AtomicFile::Durability durability) const {
+    return file.save(toUtf8(view_.text()), durability);
 }
 
-void StylesheetFile::stopFollowing() {
-    follows_ = false;
-    Q_EMIT savesOnEveryChange(false);
+void StylesheetFile::tell(const SavedFile& file, std::error_code error) {
+    const bool isTheirs = error == UserFileError::ChangedByOthers;
+    window_.views().message->say(tellSaved(file.path(), error) +
+                                 (isTheirs ? tr("; Save Stylesheet As replaces it") : QString{}));
+}
+
+void StylesheetFile::setFollowing(bool follows) {
+    follows_ = follows;
+    Q_EMIT savesOnEveryChange(follows);
 }
 
 } // namespace tessaly

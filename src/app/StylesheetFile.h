@@ -36,12 +36,14 @@ class StylesheetFile : public QObject {
     void savesOnEveryChange(bool saves);
 
   private:
-    void ask(const std::function<void()>& then);
-    bool saveAndTell();
+    /// Saves in a file that the user names, which from then on is the one if that succeeds.
+    void ask(const std::function<void(bool saved)>& then);
+    bool saveIn(SavedFile& file);
     void changed();
     void saveNow();
-    std::error_code write(AtomicFile::Durability durability);
-    void stopFollowing();
+    std::error_code write(SavedFile& file, AtomicFile::Durability durability) const;
+    void tell(const SavedFile& file, std::error_code error);
+    void setFollowing(bool follows);
 
     const CustomTextView& view_;
     MainWindow& window_;

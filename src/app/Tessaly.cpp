@@ -59,10 +59,7 @@ Tessaly::Tessaly(std::filesystem::path temporaryDirectory, const std::filesystem
       document_{{mainWindow_->views().canvas->geometry(), *mainWindow_->views().canvas,
                  mainWindow_->views().stopControls->controlSet(), *mainWindow_->views().presets},
                 applicationSupport,
-                [this] {
-                    mainWindow_->views().message->say({});
-                    updateMenu();
-                }},
+                [this] { updateMenu(); }},
       intake_{document_, *mainWindow_},
       htmlTextView_{mainWindow_->views().page->textView()},
       css3TextView_{mainWindow_->views().stylesheet->textView()},
@@ -126,8 +123,9 @@ void Tessaly::answerMenu() {
     on(Command::SaveStylesheet, [this] { stylesheetFile_.save(); });
     on(Command::SaveStylesheetAs, [this] { stylesheetFile_.saveAs(); });
     QAction& onEveryChange = views.menu->actionOf(Command::SaveOnEveryChange);
-    on(Command::SaveOnEveryChange,
-       [this, &onEveryChange] { stylesheetFile_.saveOnEveryChange(onEveryChange.isChecked()); });
+    views.menu->onCommand(Command::SaveOnEveryChange, [this, &onEveryChange] {
+        stylesheetFile_.saveOnEveryChange(onEveryChange.isChecked());
+    });
     connect(&stylesheetFile_, &StylesheetFile::savesOnEveryChange, &onEveryChange, &QAction::setChecked);
     on(Command::ExportPicture, [this] { export_.exportPicture(); });
     on(Command::ExportPresets, [this] { export_.exportPresets(); });

@@ -90,7 +90,8 @@ void WindowArrangement::placeTools(QHBoxLayout& header, QSize room) {
     side->setSpacing(margin);
     side->addWidget(views_.presets);
     const int usualWidth = views_.stopControls->minimumSizeHint().width() + side_->minimumSizeHint().width();
-    if (usualWidth + 3 * margin <= room.width()) {
+    isTight_ = usualWidth + 3 * margin > room.width();
+    if (!isTight_) {
         grid_->addWidget(views_.stopControls, controlsRow, canvasColumn, Qt::AlignLeft | Qt::AlignTop);
         side->addLayout(buttons);
         return;
@@ -124,8 +125,7 @@ void WindowArrangement::arrange() {
          std::initializer_list<QWidget*>{side_, header_, views_.sourceCodeContainer, views_.preview}) {
         grid_->removeWidget(widget);
     }
-    const bool areToolsBelow = grid_->itemAtPosition(controlsRow, presetsColumn) != nullptr;
-    const int sideRows = isBeside ? rowCount : areToolsBelow ? 1 : controlsRow + 1;
+    const int sideRows = isBeside ? rowCount : isTight_ ? 1 : controlsRow + 1;
     const int codeColumns = isBeside ? 1 : 2;
     grid_->addWidget(side_, canvasRow, presetsColumn, sideRows, 1, Qt::AlignRight);
     grid_->addWidget(header_, tabsRow, canvasColumn, 1, codeColumns);

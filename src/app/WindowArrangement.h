@@ -30,6 +30,7 @@ class WindowArrangement {
     QWidget* side_; ///< the presets, and the buttons
     QWidget* header_;
     QWidget* page_;
+    bool isTight_ = false; ///< the controls reach below the presets
     bool isWide_ = false;
 };
 

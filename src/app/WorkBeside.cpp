@@ -1,5 +1,7 @@
 #include "app/WorkBeside.h"
 
+#include "foundation/DiagnosticLog.h"
+
 #include <QProgressDialog>
 #include <QThread>
 #include <QTimer>
@@ -41,6 +43,9 @@ class WorkDialog : public QProgressDialog {
     WorkDialog(const WorkDialog&) = delete;
     WorkDialog& operator=(const WorkDialog&) = delete;
     ~WorkDialog() override {
+        if (thread_->isRunning()) {
+            DiagnosticLog::write("Not finished: " + labelText().toStdString());
+        }
         shared_->cancelled = true;
         thread_->wait();
     }

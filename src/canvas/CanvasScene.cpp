@@ -6,8 +6,7 @@ namespace tessaly {
 
 CanvasScene::CanvasScene(const CanvasGeometry& geometry, const GlobalData& data, std::int64_t selectedMarker)
     : gradient{data.gradient},
-      opacity{colorFormat::carriesOpacity(data.colorFormatType) ? GradientRamp::Opacity::Drawn
-                                                                : GradientRamp::Opacity::Ignored},
+      opacity{GradientRamp::opacityIn(data.colorFormatType)},
       guideLine{geometry.guideLine(gradient.orientation())} {
     markers.reserve(gradient.stops().size());
     for (const ColorStop& stop : gradient.stops()) {

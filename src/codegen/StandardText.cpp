@@ -1,7 +1,9 @@
 #include "codegen/StandardText.h"
 
 #include "codegen/DeclarationText.h"
+#include "model/Gradient.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace tessaly {
@@ -23,10 +25,19 @@ std::string onOneLine(std::string_view text) {
     return line;
 }
 
+// Any other orientation looks like left to right but has no text.
+Gradient withKnownOrientation(Gradient gradient) {
+    if (std::ranges::find(orientation::items, gradient.orientation(), &orientation::Item::code) ==
+        orientation::items.end()) {
+        gradient.setOrientation(orientation::leftToRight);
+    }
+    return gradient;
+}
+
 } // namespace
 
 std::string standardDeclarationText(const Gradient& gradient, std::int64_t notation) {
-    return onOneLine(declarationText(Declaration::Standard, gradient, notation));
+    return onOneLine(declarationText(Declaration::Standard, withKnownOrientation(gradient), notation));
 }
 
 std::string standardValueText(const Gradient& gradient, std::int64_t notation) {

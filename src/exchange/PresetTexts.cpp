@@ -21,15 +21,6 @@ std::int64_t notationFor(const Gradient& gradient) {
     return isOpaque ? colorFormat::hexadecimal : colorFormat::rgba;
 }
 
-// Any other orientation looks like left to right but has no text.
-Gradient withKnownOrientation(Gradient gradient) {
-    if (std::ranges::find(orientation::items, gradient.orientation(), &orientation::Item::code) ==
-        orientation::items.end()) {
-        gradient.setOrientation(orientation::leftToRight);
-    }
-    return gradient;
-}
-
 constexpr std::size_t columns = 10; // of the grid of squares
 constexpr std::size_t step = 72;    // a square and the gap to the next one
 
@@ -50,9 +41,8 @@ std::string presetsCssText(std::span<const Gradient> gradients) {
     std::string text;
     for (std::size_t i = 0; i < gradients.size(); ++i) {
         if (!gradients[i].stops().empty()) {
-            const Gradient gradient = withKnownOrientation(gradients[i]);
-            text +=
-                '.' + nameOf(i) + " { " + standardDeclarationText(gradient, notationFor(gradient)) + " }\n";
+            text += '.' + nameOf(i) + " { " +
+                    standardDeclarationText(gradients[i], notationFor(gradients[i])) + " }\n";
         }
     }
     return text;

@@ -1,8 +1,10 @@
 #include "foundation/AtomicFile.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -29,21 +31,38 @@ AtomicFile::~AtomicFile() {
     }
 }
 
-std::error_code AtomicFile::takeAccessOf(const struct stat& other) {
-    constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
+std::error_code AtomicFile::takeAccessOf(const struct stat& replaced) {
     if (error_) {
         return error_;
     }
     // Only root can give a file away. Whoever else replaces a file becomes its owner, and may leave it to a
-    // group of theirs.
+    // group of theirs; another group gets no more than everybody has.
     constexpr uid_t unchanged = -1U;
-    const auto give = [&](uid_t user) {
-        return ::fchown(file_.number(), user, other.st_gid) == 0 || errno == EPERM;
-    };
-    if (!give(unchanged) || !give(other.st_uid)) {
+    const bool keepsGroup = ::fchown(file_.number(), unchanged, replaced.st_gid) == 0;
+    if ((!keepsGroup && errno != EPERM) ||
+        (::fchown(file_.number(), replaced.st_uid, unchanged) != 0 && errno != EPERM)) {
         return failed();
     }
-    return ::fchmod(file_.number(), other.st_mode & permissions) == 0 ? error_ : failed();
+    constexpr unsigned fromOthersToGroup = 3;
+    mode_t mode = replaced.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    if (!keepsGroup) {
+        mode = (mode & ~static_cast<mode_t>(S_IRWXG)) | (mode & S_IRWXO) << fromOthersToGroup;
+    }
+    return ::fchmod(file_.number(), mode) == 0 ? takeAccessList() : failed();
+}
+
+// Of users and groups beside the owner and the group, if the file has one.
+std::error_code AtomicFile::takeAccessList() {
+    constexpr const char* attribute = "system.posix_acl_access";
+    const std::string replaced = "/proc/self/fd/" + std::to_string(folder_.number()) + '/' + name_;
+    std::array<char, 4096> list{};
+    const ssize_t size = ::lgetxattr(replaced.c_str(), attribute, list.data(), list.size());
+    if (size < 0) {
+        return errno == ERANGE ? failed() : error_;
+    }
+    return ::fsetxattr(file_.number(), attribute, list.data(), static_cast<std::size_t>(size), 0) == 0
+               ? error_
+               : failed();
 }
 
 std::error_code AtomicFile::write(std::string_view bytes) {

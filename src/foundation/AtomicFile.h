@@ -25,8 +25,8 @@ class AtomicFile {
     AtomicFile& operator=(const AtomicFile&) = delete;
     ~AtomicFile();
 
-    /// Gives it the owner, if that is allowed, and the permissions of another file.
-    std::error_code takeAccessOf(const struct stat& other);
+    /// Gives it the owner, if that is allowed, and the permissions of the file that it is to replace.
+    std::error_code takeAccessOf(const struct stat& replaced);
 
     std::error_code write(std::string_view bytes);
 
@@ -34,6 +34,7 @@ class AtomicFile {
     std::error_code commit(Durability durability);
 
   private:
+    std::error_code takeAccessList();
     std::error_code failed();
 
     const Descriptor& folder_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ColorFormat.h"
 #include "model/ColorStop.h"
 
 #include <array>
@@ -17,6 +18,9 @@ class GradientRamp {
   public:
     /// Whether the stops are drawn with their opacity or as their colours are.
     enum class Opacity { Drawn, Ignored };
+    static constexpr Opacity opacityIn(std::int64_t notation) {
+        return colorFormat::carriesOpacity(notation) ? Opacity::Drawn : Opacity::Ignored;
+    }
 
     /// The gradient lies over `backdrop`; a transparent one leaves it as it is. There must be at least one
     /// stop.

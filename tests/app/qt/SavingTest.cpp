@@ -78,7 +78,9 @@ TEST_F(SavingTest, aFileFollowsTheStylesheetUntilOthersChangeIt) {
     std::ofstream{file} << "theirs";
     item(Command::Reverse).trigger();
     EXPECT_TRUE(eventually([&] { return !item(Command::SaveOnEveryChange).isChecked(); }));
-    EXPECT_EQ(message(), QStringLiteral("page.css was not saved: Changed by another program"));
+    EXPECT_EQ(
+        message(),
+        QStringLiteral("page.css was not saved: Changed by another program; Save Stylesheet As replaces it"));
     item(Command::SaveStylesheet).trigger();
     EXPECT_EQ(contentsOf(file), "theirs");
     item(Command::SaveStylesheetAs).trigger(); // the user has said so
@@ -109,7 +111,7 @@ TEST_F(SavingTest, exportsPicturesOfAnySizeByTheirName) {
     };
     for (const auto& [name, told] :
          {Case{"a.png", QStringLiteral("Saved in a.png")}, Case{"b.SVG", QStringLiteral("Saved in b.SVG")},
-          Case{"c", QStringLiteral("Saved in c")},
+          Case{"c.jpg", QStringLiteral("Saved in c.jpg.png")},
           Case{"no/d.png", QStringLiteral("d.png was not saved: No such file or directory")}}) {
         item(Command::ExportPicture).trigger();
         auto* const dialog = window.findChild<PictureSizeDialog*>();
@@ -123,7 +125,8 @@ TEST_F(SavingTest, exportsPicturesOfAnySizeByTheirName) {
         EXPECT_TRUE(eventually([&] { return message() == told; })) << message().toStdString();
     }
     EXPECT_EQ(QImage{QString::fromStdString((temporary.path / "a.png").string())}.size(), (QSize{30, 20}));
-    EXPECT_EQ(QImage{QString::fromStdString((temporary.path / "c").string())}.size(), (QSize{30, 20}));
+    EXPECT_EQ(QImage{QString::fromStdString((temporary.path / "c.jpg.png").string())}.size(),
+              (QSize{30, 20}));
     EXPECT_EQ(readGradients(contentsOf(temporary.path / "b.SVG")).gradients.front().gradient,
               Gradient({{0.0, Color::black()}, {1.0, Color::white()}}));
 }

@@ -98,7 +98,7 @@ TEST_P(ExportedPictures, areWhatTheEnginePaints) {
     BoxPage page{GetParam(), 1, 2};
     ASSERT_TRUE(page.open());
     for (int i = 0; i < count; ++i) {
-        const std::int64_t notation = i % 4 == 0 ? colorFormat::hexadecimal : colorFormat::rgba;
+        const std::int64_t notation = i % 4 == 3 ? colorFormat::hexadecimal : colorFormat::rgba;
         const std::int64_t orientation = i % (orientation::radial + 1);
         expectSamePictures(page, randomGradient(random, orientation, notation), notation, GetParam());
     }
