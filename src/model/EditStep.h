@@ -17,6 +17,7 @@ inline constexpr std::string_view boundTrack = "Bound Track";
 inline constexpr std::string_view addPreset = "Add Preset";
 inline constexpr std::string_view applyPreset = "Apply Preset";
 inline constexpr std::string_view deletePreset = "Delete Preset";
+inline constexpr std::string_view movePreset = "Move Preset";
 inline constexpr std::string_view newGradient = "New Gradient";
 inline constexpr std::string_view pasteGradient = "Paste Gradient";
 inline constexpr std::string_view openGradient = "Open Gradient";

@@ -11,10 +11,6 @@
 namespace tessaly {
 namespace {
 
-// Stands in front of the table of the same name while all presets are read: each of them asks for its stops
-// by a query of its own, and would go through the whole table.
-const std::string indexedCopy = "temp." + presetTable::additional;
-
 struct Rows {
     std::int64_t count = -1; ///< of what is no sound database of presets
     SqliteResult failure;
@@ -95,15 +91,16 @@ void PresetDatabase::logUnsaved(const std::optional<std::string>& reason) {
     }
 }
 
+// Each preset asks for its stops by a query of its own, which would go through the whole table: while they
+// are read it has an index, which is then taken back, since the file has none.
 void PresetDatabase::beginReading() {
     memory_.limitToSize();
-    memory_.execute("pragma temp_store=memory; create temp table " + presetTable::additional +
-                    " as select * from main." + presetTable::additional + "; create index temp.byPreset on " +
+    memory_.execute("pragma temp_store=memory; begin; create index tessalyByPreset on " +
                     presetTable::additional + " (mainIndex)");
 }
 
 void PresetDatabase::endReading(bool complete) {
-    complete = memory_.execute("drop table " + indexedCopy).code == SQLITE_OK && complete;
+    complete = memory_.execute("rollback").code == SQLITE_OK && complete;
     memory_.liftLimit();
     usable_ = complete && !memory_.isReadOnly() && presetTable::areIn(memory_);
 }

@@ -3,7 +3,6 @@
 #include "foundation/DiagnosticLog.h"
 #include "foundation/NumberText.h"
 #include "model/EditStep.h"
-#include "model/History.h"
 #include "presets/PresetGalleryView.h"
 
 #include <algorithm>
@@ -88,6 +87,32 @@ void PresetGallery::deletePreset(std::size_t position) {
     });
 }
 
+void PresetGallery::movePresetBeside(std::size_t position, int direction) {
+    const std::size_t to = position + static_cast<std::size_t>(direction); // before the first: wraps
+    if (to < presetGradient_.size()) {
+        move(position, to, {"Presets"});
+    }
+}
+
+void PresetGallery::move(std::size_t from, std::size_t to, const History::Run& run) {
+    if (from == to) {
+        return;
+    }
+    const std::shared_ptr<const Gradient> preset = presetGradient_[from];
+    if (std::exchange(moved_, preset) != preset) {
+        history_.endRun();
+    }
+    history_.act(editStep::movePreset, run, [&] {
+        presetGradient_.erase(presetGradient_.begin() + static_cast<std::ptrdiff_t>(from));
+        presetGradient_.insert(presetGradient_.begin() + static_cast<std::ptrdiff_t>(to), preset);
+        snapshot_.reset();
+        redrawPresetGradientContainer(true);
+        actions_.insertData();
+    });
+    const auto found = std::ranges::find(presetGradient_, preset); // the save may have put others in front
+    view_.showThumbnail(static_cast<std::size_t>(found - presetGradient_.begin()));
+}
+
 std::shared_ptr<const GradientList> PresetGallery::snapshot() const {
     if (snapshot_ == nullptr) {
         snapshot_ = std::make_shared<const GradientList>(presetGradient_);
@@ -95,9 +120,26 @@ std::shared_ptr<const GradientList> PresetGallery::snapshot() const {
     return snapshot_;
 }
 
+// Where the one preset is, in a list to come, that moves or is added; of one that goes, where it was.
+std::size_t PresetGallery::changedPosition(const GradientList& wanted) const {
+    const GradientList& shown = presetGradient_;
+    const auto first = std::ranges::mismatch(shown, wanted).in2 - wanted.begin();
+    if (shown.size() != wanted.size() || first == std::ssize(wanted)) {
+        return static_cast<std::size_t>(first);
+    }
+    const auto same = std::mismatch(shown.rbegin(), shown.rend(), wanted.rbegin()).second - wanted.rbegin();
+    const auto last = std::ssize(wanted) - 1 - same;
+    const auto at = [](const GradientList& list, auto position) {
+        return list[static_cast<std::size_t>(position)];
+    };
+    const bool movesForth = at(shown, first) == at(wanted, last);
+    const bool movesBack = at(shown, last) == at(wanted, first); // so do both of two neighbours
+    const bool isFirst = movesBack && (!movesForth || at(wanted, first) == moved_);
+    return static_cast<std::size_t>(isFirst ? first : last);
+}
+
 void PresetGallery::restore(const std::shared_ptr<const GradientList>& snapshot) {
-    const auto first = std::ranges::mismatch(presetGradient_, *snapshot).in2;
-    const auto changed = static_cast<std::size_t>(first - snapshot->begin());
+    const std::size_t changed = changedPosition(*snapshot);
     presetGradient_ = *snapshot;
     snapshot_ = snapshot;
     room_ = std::max(room_, presetGradient_.size());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/GradientList.h"
+#include "model/History.h"
 #include "presets/PresetSlotGeometry.h"
 
 #include <cstddef>
@@ -10,11 +11,11 @@
 
 namespace tessaly {
 
-class History;
 class PresetGalleryView;
 
 /// The list of presets and the layout of their thumbnails: adds the gradient being edited, applies a preset
-/// to it, deletes presets, and asks for a save after each change that the user made. Main thread only.
+/// to it, moves and deletes presets, and asks for a save after each change that the user made. Main thread
+/// only.
 class PresetGallery {
   public:
     struct Actions {
@@ -55,7 +56,16 @@ class PresetGallery {
     void applyPreset(std::size_t position);
     void deletePreset(std::size_t position);
 
+    /// Puts a preset where another one is; those in between give way. Its thumbnail becomes the current one.
+    void movePreset(std::size_t from, std::size_t to) { move(from, to, {}); }
+
+    /// Lets a preset change places with the one before it (-1) or behind it (1), if there is one. Those of
+    /// one preset that follow each other closely are one step.
+    void movePresetBeside(std::size_t position, int direction);
+
   private:
+    void move(std::size_t from, std::size_t to, const History::Run& run);
+    std::size_t changedPosition(const GradientList& wanted) const;
     void append(std::shared_ptr<const Gradient> gradient);
 
     /// Sizes the container and, when that changes the distance of the columns or `force` is set, lays out
@@ -71,6 +81,7 @@ class PresetGallery {
     /// The thumbnails that the container has room for: as many as there were at the last add. A delete
     /// deliberately leaves it, so that the container keeps its height under the mouse.
     std::size_t room_ = 0;
+    std::shared_ptr<const Gradient> moved_; ///< the one that was moved last; null: none yet
     double presetGradientThumbDistant_ = PresetSlotGeometry::wideThumbDistant;
 };
 

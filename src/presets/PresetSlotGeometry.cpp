@@ -9,6 +9,7 @@ namespace {
 constexpr double margin = 15.0;      // left of the first column and above the first row
 constexpr double rowDistant = 45.0;  // from one row to the next
 constexpr double freeHeight = 125.0; // container height with no row at all
+constexpr double markWidth = 4.0;    // of where a thumbnail would land
 
 double rowsOf(std::size_t count) {
     constexpr std::size_t perRow = PresetSlotGeometry::thumbnailsPerRow;
@@ -44,6 +45,28 @@ std::optional<std::size_t> PresetSlotGeometry::positionAt(Point point, std::size
         }
     }
     return std::nullopt;
+}
+
+std::optional<PresetSlotGeometry::Landing> PresetSlotGeometry::landingOf(std::size_t held, Point point,
+                                                                         std::size_t count) const {
+    const double betweenRows = rowDistant - thumbnailSize;
+    const double row =
+        std::clamp(std::floor((point.y - margin + betweenRows / 2) / rowDistant), 0.0, rowsOf(count) - 1);
+    const std::size_t first = static_cast<std::size_t>(row) * thumbnailsPerRow;
+    const auto inRow = static_cast<double>(std::min(thumbnailsPerRow, count - first));
+    // Those whose middles the point has passed stay in front.
+    const double column =
+        std::clamp(std::ceil((point.x - margin - thumbnailSize / 2) / thumbDistant_), 0.0, inRow);
+    const std::size_t gap = first + static_cast<std::size_t>(column);
+    const std::size_t position = gap > held ? gap - 1 : gap;
+    if (position == held) {
+        return std::nullopt;
+    }
+    const double betweenColumns = thumbDistant_ - thumbnailSize;
+    const double x = margin + thumbDistant_ * column - (betweenColumns + markWidth) / 2;
+    return Landing{
+        position,
+        {std::min(x, containerWidth - markWidth), margin + rowDistant * row, markWidth, thumbnailSize}};
 }
 
 PresetSlotGeometry::Range PresetSlotGeometry::positionsBetween(double top, double bottom, std::size_t count) {

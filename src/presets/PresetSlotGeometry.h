@@ -23,6 +23,12 @@ class PresetSlotGeometry {
         std::size_t last = 0;
     };
 
+    /// Where a thumbnail that is put elsewhere comes to lie.
+    struct Landing {
+        std::size_t position; ///< that it would have
+        Rect mark;            ///< between those that would be its neighbours
+    };
+
     /// `thumbDistant`: from one column to the next.
     explicit PresetSlotGeometry(double thumbDistant) : thumbDistant_{thumbDistant} {}
 
@@ -37,6 +43,10 @@ class PresetSlotGeometry {
 
     /// The position of the thumbnail at a point, if one of `count` thumbnails is there.
     std::optional<std::size_t> positionAt(Point point, std::size_t count) const;
+
+    /// Where one of `count` thumbnails comes to lie when it is dropped at a point, however far away; none
+    /// where it would stay.
+    std::optional<Landing> landingOf(std::size_t held, Point point, std::size_t count) const;
 
     /// Those of `count` thumbnails that lie, with any part of them, between two heights.
     static Range positionsBetween(double top, double bottom, std::size_t count);

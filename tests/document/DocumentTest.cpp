@@ -110,6 +110,8 @@ bool DocumentTest::actAtRandom() {
         [&] { choose(controls.colorFormat, below(6) - 1); },
         [&] { document.gallery().addGradientIntoPreset(); },
         [&] { presets > 0 ? document.gallery().deletePreset(anyPreset) : void(); },
+        [&] { presets > 0 ? document.gallery().movePresetBeside(anyPreset, 1 - 2 * below(2)) : void(); },
+        [&] { document.use(allStopTools[static_cast<std::size_t>(below(5))]); },
         [&] { below(4) == 0 ? document.newGradient() : void(); }};
     now += std::chrono::milliseconds{below(1500)};
     const int action = below(std::ssize(actions));
@@ -228,6 +230,44 @@ TEST_F(DocumentTest, oneActionIsOneStepAndNothingIsNone) {
         EXPECT_EQ(history().stepCount() - before, steps);
         EXPECT_EQ(history().undoName(), name);
     }
+}
+
+TEST_F(DocumentTest, aMovedPresetIsShownWhereItComesToLieAndItsRunIsOneStep) {
+    constexpr std::size_t count = 4;
+    for (std::size_t i = 0; i < count; ++i) {
+        document.takeGradient(Gradient{{{0.1 * static_cast<double>(i)}}}, editStep::pasteGradient);
+        document.gallery().addGradientIntoPreset();
+    }
+    const std::vector<Gradient> before = gradientsIn(document.gallery());
+    for (std::size_t pair = 0; pair < count * count; ++pair) {
+        const std::size_t from = pair / count, to = pair % count;
+        document.gallery().movePreset(from, to);
+        EXPECT_EQ(history().undoName(), from != to ? "Move Preset" : "Add Preset");
+        EXPECT_EQ(gradientsIn(document.gallery())[to], before[from]);
+        if (from != to) {
+            EXPECT_EQ(gallery.shown, to);
+            history().undo();
+            EXPECT_EQ(gallery.shown, from);
+            history().redo();
+            EXPECT_EQ(gallery.shown, to);
+            history().undo();
+        }
+        EXPECT_EQ(gradientsIn(document.gallery()), before);
+    }
+    const auto movesBeside = [this](std::initializer_list<std::pair<std::size_t, int>> moves) {
+        for (const auto& [position, direction] : moves) {
+            document.gallery().movePresetBeside(position, direction);
+        }
+        return history().stepCount();
+    };
+    const std::size_t steps = movesBeside({{0, -1}, {3, 1}}); // there is no neighbour
+    EXPECT_EQ(history().undoName(), "Add Preset");
+    EXPECT_EQ(movesBeside({{0, 1}, {1, 1}, {2, 1}}), steps) << "one run, in place of what was taken back";
+    EXPECT_EQ(gallery.shown, 3U);
+    EXPECT_EQ(movesBeside({{0, 1}}), steps + 1) << "of another preset";
+    history().undo();
+    history().undo();
+    EXPECT_EQ(gradientsIn(document.gallery()), before);
 }
 
 TEST_F(DocumentTest, asksTheStoreForChangedPresetsAloneAndKeepsItsStepsWhenThatFails) {

@@ -3,6 +3,11 @@
 #include "foundation/qt/AccessibleItems.h"
 
 namespace tessaly {
+namespace {
+
+constexpr QLatin1StringView deleteAction{"delete"}; // the toolkit has no name for it
+
+} // namespace
 
 AccessibleItem::AccessibleItem(QWidget& widget, AccessibleItems& items, int index)
     : widget_{&widget}, items_{items}, index_{index} {}
@@ -65,6 +70,9 @@ QStringList AccessibleItem::actionNames() const {
     if (items_.accessibleItemsHaveMenu()) {
         names << showMenuAction();
     }
+    if (items_.accessibleItemsCanBeDeleted()) {
+        names << deleteAction;
+    }
     return names;
 }
 
@@ -76,6 +84,8 @@ void AccessibleItem::doAction(const QString& name) {
         items_.pressAccessibleItem(index_);
     } else if (name == showMenuAction()) {
         items_.openAccessibleItemMenu(index_);
+    } else if (name == deleteAction) {
+        items_.deleteAccessibleItem(index_);
     }
 }
 

@@ -9,8 +9,8 @@ namespace tessaly {
 
 class AccessibleItems;
 
-/// One item of a widget that paints its items itself: has a name and a place, can be pressed and may have a
-/// context menu.
+/// One item of a widget that paints its items itself: has a name and a place, can be pressed, may have a
+/// context menu and may be deleted.
 class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInterface {
   public:
     /// `items` is the widget itself.

@@ -30,6 +30,10 @@ class AccessibleItems {
     /// Whether items have a context menu; if so, opens that of one.
     virtual bool accessibleItemsHaveMenu() const { return false; }
     virtual void openAccessibleItemMenu(int /*item*/) {}
+
+    /// Whether assistive tools may delete items; if so, deletes one.
+    virtual bool accessibleItemsCanBeDeleted() const { return false; }
+    virtual void deleteAccessibleItem(int /*item*/) {}
 };
 
 /// Makes every widget that is an `AccessibleItems` known to assistive tools as a list of its items.
