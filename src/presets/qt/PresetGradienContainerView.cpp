@@ -2,8 +2,9 @@
 
 #include "foundation/DiagnosticLog.h"
 #include "foundation/qt/KeptKeys.h"
+#include "foundation/qt/ReadableColor.h"
 #include "presets/PresetGallery.h"
-#include "presets/qt/PresetThumbnail.h"
+#include "presets/qt/PresetDrag.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -13,35 +14,28 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cstdlib>
+#include <map>
 
 namespace tessaly {
 namespace {
 
-constexpr int focusRingReach = 3; // points beyond the thumbnail
-
 int stepFor(int key) {
     constexpr int row = static_cast<int>(PresetSlotGeometry::thumbnailsPerRow);
-    switch (key) {
-    case Qt::Key_Left:
-        return -1;
-    case Qt::Key_Right:
-        return 1;
-    case Qt::Key_Up:
-        return -row;
-    case Qt::Key_Down:
-        return row;
-    default:
-        return 0;
-    }
+    static const std::map<int, int> steps{
+        {Qt::Key_Left, -1}, {Qt::Key_Right, 1}, {Qt::Key_Up, -row}, {Qt::Key_Down, row}};
+    const auto step = steps.find(key);
+    return step == steps.end() ? 0 : step->second;
 }
 
 } // namespace
 
 PresetGradienContainerView::PresetGradienContainerView(QWidget* parent)
-    : QWidget{parent}, menu_{new QMenu{tr("Contextual Menu"), this}} {
+    : QWidget{parent}, menu_{new QMenu{tr("Contextual Menu"), this}}, drag_{new PresetDrag{*this}} {
     installAccessibleItems();
     setAccessibleName(tr("Presets"));
     setFocusPolicy(Qt::StrongFocus);
+    connect(drag_, &PresetDrag::toBeSeen, this, &PresetGradienContainerView::toBeSeen);
 }
 
 std::size_t PresetGradienContainerView::count() const {
@@ -51,6 +45,7 @@ std::size_t PresetGradienContainerView::count() const {
 void PresetGradienContainerView::thumbnailsChanged() {
     current_ = std::min(current_, std::max<std::size_t>(count(), 1) - 1);
     update();
+    drag_->cancel();
     if (!isVisible()) {
         return; // the stored presets come one by one before the window does
     }
@@ -73,21 +68,30 @@ void PresetGradienContainerView::paintEvent(QPaintEvent* event) {
         return;
     }
     QPainter painter{this};
-    const QRect area = event->rect().adjusted(0, -focusRingReach, 0, focusRingReach);
-    const auto visible = PresetSlotGeometry::positionsBetween(area.top(), area.bottom() + 1, count());
-    for (std::size_t position = visible.first; position < visible.last; ++position) {
-        const QRect place = placeOf(position);
-        drawPresetThumbnail(painter, *gallery_->presetGradient()[position], place.topLeft());
-        if (hasFocus() && position == current_) {
-            painter.setPen(QPen{palette().color(QPalette::Highlight), 2});
-            painter.drawRoundedRect(place.adjusted(-2, -2, 2, 2), 5, 5);
-        }
+    const QColor marking =
+        readableOn(palette().color(QPalette::Window), palette().color(QPalette::Highlight), lineContrast);
+    sheet_.paint(painter, *gallery_, event->rect(), *drag_);
+    if (hasFocus() && keyboardFocus_.isShown()) {
+        constexpr double reach = 1.0; // of the middle of the line, beyond the thumbnail
+        const QRectF room = QRectF{rect()}.adjusted(reach, reach, -reach, -reach);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen{marking, 2 * reach});
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF{placeOf(current_)}.adjusted(-reach, -reach, reach, reach) & room, 5,
+                                5);
     }
+    drag_->paint(painter, sheet_, marking);
 }
 
 void PresetGradienContainerView::mousePressEvent(QMouseEvent* event) {
     const auto position = positionAt(event->position());
-    if (position && event->button() == Qt::LeftButton) {
+    if (!position || event->button() != Qt::LeftButton) {
+        return;
+    }
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        setCurrent(*position);
+        drag_->take(*gallery_, *position, *event);
+    } else {
         apply(*position);
     }
 }
@@ -114,6 +118,11 @@ void PresetGradienContainerView::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
         return;
     }
+    const int step = stepFor(event->key());
+    if (std::abs(step) == 1 && event->modifiers().testFlag(Qt::ControlModifier)) {
+        gallery_->movePresetBeside(current_, step);
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -126,7 +135,7 @@ void PresetGradienContainerView::keyPressEvent(QKeyEvent* event) {
         }
         break;
     default:
-        if (const int step = stepFor(event->key()); step != 0) {
+        if (step != 0) {
             moveTo(current_ + static_cast<std::size_t>(step)); // before the first: wraps, and there is none
         } else {
             QWidget::keyPressEvent(event);
@@ -138,9 +147,13 @@ bool PresetGradienContainerView::event(QEvent* event) {
     if (keepKeys(*event, {Qt::Key_Delete, Qt::Key_Insert})) {
         return true;
     }
+    if (keyboardFocus_.isChangedBy(*event)) {
+        update();
+    }
     if (event->type() == QEvent::ToolTip) {
         const auto position = positionAt(static_cast<QHelpEvent*>(event)->pos());
-        setToolTip(position ? tr("Apply preset %1; right click for its menu").arg(*position + 1) : QString{});
+        const QString text = tr("Apply preset %1; right click for its menu, drag with Ctrl to move it");
+        setToolTip(position ? text.arg(*position + 1) : QString{});
     }
     return QWidget::event(event);
 }
@@ -148,7 +161,7 @@ bool PresetGradienContainerView::event(QEvent* event) {
 void PresetGradienContainerView::moveTo(std::size_t position) {
     if (position < count()) {
         setCurrent(position);
-        Q_EMIT currentMoved(placeOf(position));
+        Q_EMIT toBeSeen(placeOf(position));
     }
 }
 
@@ -169,22 +182,6 @@ void PresetGradienContainerView::remove(std::size_t position) {
         DiagnosticLog::write("deletePresetGradientItem");
         gallery_->deletePreset(position);
     }
-}
-
-QString PresetGradienContainerView::accessibleItemName(int item) const {
-    return tr("Preset %1").arg(item + 1);
-}
-
-QRect PresetGradienContainerView::accessibleItemRect(int item) const {
-    return placeOf(static_cast<std::size_t>(item));
-}
-
-int PresetGradienContainerView::currentAccessibleItem() const {
-    return current_ < count() ? static_cast<int>(current_) : -1;
-}
-
-void PresetGradienContainerView::pressAccessibleItem(int item) {
-    apply(static_cast<std::size_t>(item));
 }
 
 void PresetGradienContainerView::openAccessibleItemMenu(int item) {

@@ -2,11 +2,12 @@
 
 #include "presets/PresetGallery.h"
 #include "presets/qt/PresetGradienContainerView.h"
+#include "presets/qt/PresetScrollView.h"
+#include "presets/qt/QuietLabel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -16,6 +17,7 @@ namespace {
 
 constexpr int spacing = 8;
 constexpr int leastHeight = 152; // of the scroll view: two rows of thumbnails and the start of a third
+constexpr int margin = 16;
 
 // The container with a scroller beside it.
 int scrollViewWidth(const QScrollArea& view) {
@@ -29,8 +31,10 @@ int scrollViewWidth(const QScrollArea& view) {
 PresetPanel::PresetPanel(QWidget* parent)
     : QWidget{parent},
       addButton_{new QPushButton{tr("A&dd Preset")}},
-      presetGradienContainerScrollView_{new QScrollArea},
-      presetGradienContainerView_{new PresetGradienContainerView} {
+      presetGradienContainerScrollView_{new PresetScrollView},
+      presetGradienContainerView_{new PresetGradienContainerView},
+      noPresets_{new QuietLabel{tr("Keep a gradient with Add Preset"),
+                                presetGradienContainerScrollView_->viewport()}} {
     addButton_->setObjectName(QStringLiteral("addPreset"));
     presetGradienContainerView_->setObjectName(QStringLiteral("presets"));
     addButton_->setAccessibleName(tr("Add Preset"));
@@ -41,10 +45,14 @@ PresetPanel::PresetPanel(QWidget* parent)
     scrollView.setFixedWidth(scrollViewWidth(scrollView));
     scrollView.setMinimumHeight(leastHeight);
     scrollView.setFocusPolicy(Qt::NoFocus);
-    connect(presetGradienContainerView_, &PresetGradienContainerView::currentMoved, this,
+    connect(presetGradienContainerView_, &PresetGradienContainerView::toBeSeen, this,
             [&scrollView](const QRect& place) {
                 scrollView.ensureVisible(place.center().x(), place.center().y(), 0, place.height() / 2 + 8);
             });
+    auto* const middle = new QVBoxLayout{scrollView.viewport()};
+    middle->setContentsMargins(margin, margin, margin, margin);
+    middle->addWidget(noPresets_);
+    noPresets_->raise();
 
     auto* const label = new QLabel{tr("Prese&ts")};
     label->setBuddy(presetGradienContainerView_);
@@ -78,6 +86,7 @@ void PresetPanel::showThumbnail(std::size_t position) {
 
 void PresetPanel::thumbnailsChanged() {
     presetGradienContainerView_->thumbnailsChanged();
+    noPresets_->setVisible(presetGradienContainerView_->accessibleItemCount() == 0);
 }
 
 } // namespace tessaly

@@ -5,12 +5,13 @@
 #include <QWidget>
 
 class QPushButton;
-class QScrollArea;
 
 namespace tessaly {
 
 class PresetGallery;
 class PresetGradienContainerView;
+class PresetScrollView;
+class QuietLabel;
 
 /// The presets beside the canvas: their scrolling gallery, and the button that adds one.
 class PresetPanel : public QWidget, public PresetGalleryView {
@@ -29,8 +30,9 @@ class PresetPanel : public QWidget, public PresetGalleryView {
 
   private:
     QPushButton* addButton_;
-    QScrollArea* presetGradienContainerScrollView_;
+    PresetScrollView* presetGradienContainerScrollView_;
     PresetGradienContainerView* presetGradienContainerView_;
+    QuietLabel* noPresets_; ///< shown in place of them
 };
 
 } // namespace tessaly

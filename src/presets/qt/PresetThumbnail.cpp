@@ -27,8 +27,9 @@ QPointF onPixels(const QPainter& painter, QPointF place) {
     return toDevice.inverted().map(QPointF{std::round(pixel.x()), std::round(pixel.y())});
 }
 
-// In device pixels.
-QImage gradientPicture(const Gradient& gradient, double devicePixelRatio) {
+} // namespace
+
+QImage presetPicture(const Gradient& gradient, double devicePixelRatio) {
     const int pixels = static_cast<int>(std::ceil(size * devicePixelRatio));
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -44,18 +45,20 @@ QImage gradientPicture(const Gradient& gradient, double devicePixelRatio) {
     return image;
 }
 
-} // namespace
-
 void drawPresetThumbnail(QPainter& painter, const Gradient& gradient, QPointF origin) {
+    drawPresetThumbnail(painter, presetPicture(gradient, painter.device()->devicePixelRatioF()), origin);
+}
+
+void drawPresetThumbnail(QPainter& painter, const QImage& picture, QPointF origin) {
     const double ratio = painter.device()->devicePixelRatioF();
     const auto wholePixels = [&](double points) { return std::round(points * ratio) / ratio; };
     const QPointF corner = onPixels(painter, origin);
     const double outer = wholePixels(outerInset);
     painter.setRenderHint(QPainter::Antialiasing);
-    QBrush picture{gradientPicture(gradient, ratio)};
-    picture.setTransform(QTransform::fromTranslate(corner.x(), corner.y()).scale(1 / ratio, 1 / ratio));
+    QBrush filling{picture};
+    filling.setTransform(QTransform::fromTranslate(corner.x(), corner.y()).scale(1 / ratio, 1 / ratio));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(picture);
+    painter.setBrush(filling);
     painter.drawRoundedRect(inset(corner, outer), cornerRadius, cornerRadius);
 
     // Of the grey line only the inner half is to be seen, half a point, and the white one starts behind it;
