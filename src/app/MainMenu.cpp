@@ -79,6 +79,8 @@ MainMenu::MainMenu(QWidget* parent) : QMenuBar{parent} {
     for (const Item& item : items) {
         if (menu == nullptr || opened != item.menu) {
             menu = addMenu(tr(item.menu));
+            // An item that assistive tools press leaves its menu open, and beneath one no command acts.
+            connect(menu, &QMenu::triggered, menu, &QMenu::hide);
             opened = item.menu;
         } else if (item.separated) {
             menu->addSeparator();

@@ -12,6 +12,7 @@ namespace tessaly {
 
 FieldEdit::FieldEdit(int digits, QWidget* parent) : QLineEdit{parent}, digits_{digits} {
     connect(this, &QLineEdit::editingFinished, this, &FieldEdit::endEditing);
+    connect(this, &QLineEdit::textChanged, this, &FieldEdit::takePutIn);
 }
 
 void FieldEdit::setText(std::string_view text) {
@@ -53,6 +54,18 @@ void FieldEdit::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+// Assistive tools have no Enter to end an edit with, and pass by the validator.
+void FieldEdit::takePutIn() {
+    if (isModified()) {
+        return; // is being typed
+    }
+    if (hasAcceptableInput()) {
+        endEditing();
+    } else {
+        QLineEdit::setText(shown_);
+    }
 }
 
 void FieldEdit::endEditing() {

@@ -7,7 +7,8 @@
 namespace tessaly {
 
 /// A text field that acts when editing ends and the text was changed since; Escape gives the text back. Until
-/// then undo and redo are its own, and afterwards the document's.
+/// then undo and redo are its own, and afterwards the document's. What assistive tools put in is taken
+/// at once.
 class FieldEdit : public QLineEdit, public TextField {
     Q_OBJECT
 
@@ -34,6 +35,8 @@ class FieldEdit : public QLineEdit, public TextField {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void takePutIn();
+
     int digits_;
     QString shown_; ///< the text at the last end of editing or setting
 };

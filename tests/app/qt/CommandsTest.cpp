@@ -196,6 +196,14 @@ TEST_F(CommandsTest, undoBelongsToWhatIsBeingTyped) {
     program.reset(); // applies it, and ends
 }
 
+TEST_F(CommandsTest, anItemThatAssistiveToolsPressInAnOpenMenuClosesItAndActs) {
+    QMenu& gradient = *views().menu->actions().at(2)->menu();
+    gradient.popup({});
+    item(u"Duplicate"_s).trigger(); // as the toolkit does for them
+    EXPECT_FALSE(gradient.isVisible());
+    EXPECT_TRUE(item(u"Undo Duplicate"_s).isEnabled());
+}
+
 TEST_F(CommandsTest, picksOfOneVisitToThePanelAreOneStepUnlessTheyAreGivenUp) {
     const QString start = code();
     auto* const well = window().findChild<ColorPickerImageView*>();

@@ -133,6 +133,22 @@ TEST_F(CanvasViewTest, steppersListsAndTheWellAct) {
     EXPECT_EQ(data.gradient.stopAt(0)->color, fine) << "rounding nothing";
 }
 
+TEST_F(CanvasViewTest, whatAssistiveToolsPutInIsTakenAtOnce) {
+    canvas->pressAccessibleItem(1);
+    const auto put = [&](const char* name, const QString& wanted) {
+        auto& field = named<NumberFieldEdit>(name);
+        auto* const access = QAccessible::queryAccessibleInterface(&field)->editableTextInterface();
+        access->replaceText(0, static_cast<int>(field.QLineEdit::text().size()), wanted);
+        return text(name);
+    };
+    EXPECT_EQ(put("Position", QStringLiteral("0.25")), "0.250");
+    EXPECT_DOUBLE_EQ(positions()[1], 0.25);
+    EXPECT_EQ(put("Position", QStringLiteral("quarter")), "0.250");
+    EXPECT_DOUBLE_EQ(positions()[1], 0.25);
+    EXPECT_EQ(put("Red", QStringLiteral("7")), "7");
+    EXPECT_EQ(text("Hue"), "180") << "in the stop too";
+}
+
 TEST_F(CanvasViewTest, assistiveToolsSeeTheStops) {
     QAccessibleInterface* const view = QAccessible::queryAccessibleInterface(canvas);
     ASSERT_EQ(view->childCount(), 2);
