@@ -1,33 +1,15 @@
-#!/usr/bin/python3
+#!/usr/bin/python3 -B
 """Presses the tab of the preview by the assistive bus, and waits for the display to show the gradient there; then moves its
 last stop, mostly faster than the page loads, and waits for what comes of it."""
 import glob
 import os
 import subprocess
-import sys
 import time
 
-import gi
-
-gi.require_version("Atspi", "2.0")
-gi.require_version("GdkPixbuf", "2.0")
-from gi.repository import Atspi, GdkPixbuf, GLib
+from outside import Atspi, GdkPixbuf, eventually, find
 
 BODY_MARGIN = 8  # of the page
 DESKTOP = bytes([255, 0, 255])
-
-
-def descendants(item):
-    for i in range(item.get_child_count()):
-        child = item.get_child_at_index(i)
-        if child is not None:
-            yield child
-            yield from descendants(child)
-
-
-def find(name):
-    """The item of that name in the one program on the bus; None while there is none."""
-    return next((item for item in descendants(Atspi.get_desktop(0)) if item.get_name() == name), None)
 
 
 def screen():
@@ -56,18 +38,6 @@ def shows_gradient(box, end):
         if any(abs(level - 255 * min(share / end, 1)) > 4 for level in at(x, top + box.y + 100)):
             return False
     return at(left + box.x + box.width // 2, top + box.y + 270) == bytes([255] * 3)  # below it, the page
-
-
-def eventually(condition):
-    end = time.monotonic() + 30
-    while time.monotonic() < end:
-        try:
-            if result := condition():
-                return result
-        except GLib.Error:  # the program is still making what was asked for
-            pass
-        time.sleep(0.1)
-    sys.exit(f"never came true: {condition.__name__}")
 
 
 def tab_can_be_pressed():
