@@ -20,5 +20,21 @@ TEST(CanvasGeometry, placesMarkersGuideLinesAndTheDisc) {
     EXPECT_EQ(geometry.radialRadius(), 200);
 }
 
+TEST(CanvasGeometry, knowsWhichWayEachTrackRuns) {
+    struct Row {
+        std::int64_t orientation;
+        int right;
+        int up;
+    };
+    for (const auto& [orientation, right, up] : {Row{orientation::bottomToTop, 0, 1},
+                                                 {orientation::leftToRight, 1, 0},
+                                                 {orientation::diagonalToTopRight, 1, 1},
+                                                 {orientation::diagonalToTopLeft, -1, 1},
+                                                 {orientation::radial, 1, 0}}) {
+        EXPECT_EQ(CanvasGeometry::alongTrack(orientation, 1, 0), right) << orientation;
+        EXPECT_EQ(CanvasGeometry::alongTrack(orientation, 0, 1), up) << orientation;
+    }
+}
+
 } // namespace
 } // namespace tessaly

@@ -107,6 +107,7 @@ TEST_F(GradientEditorTest, mouseAndKeysAddAndMoveStopsOnEveryTrack) {
         {"left of the track", 1, {0, 1}, add, {15, 30}, {60, 30}, " a0 >b1"},
         {"right of the track", 1, {0, 1}, add, {425, 30}, {300, 30}, " a0 >b1"},
         {"in the corner of a marker", 1, {0, 0.5}, drag, {212, 33}, {312, 33}, " a0 >b0.5"},
+        {"on the edge of a marker", 1, {0, 0.5}, drag, {210, 25}, {250, 25}, " a0 >b0.6"},
         {"the lower of two markers", 1, {0.5, 0.52}, drag, {224, 25}, {264, 25}, " b0.52 >a0.6"},
         {"past the end", 1, {0, 0.5, 0.7}, drag, {220, 25}, {500, 25}, " a0 c0.7 >b1"},
         {"adds beside the upward track", 0, {0, 1}, add, {220, 45}, {0, 0}, " a0 >+0.25 b1"},
@@ -156,8 +157,11 @@ TEST_F(GradientEditorTest, keysReachEveryPointAndEveryStop) {
     }
     EXPECT_EQ(stops(), " a0 >b1") << "no step may stick to a rounded place";
     setStops({0.5, 1});
+    mouse().mouseDown({420, 25}, 1);
     mouse().addBesideSelected();
     mouse().addBesideSelected();
+    mouse().mouseDragged({20, 25}); // of what it grabbed no more
+    mouse().mouseUp();
     EXPECT_EQ(stops(), " a0.5 +0.75 >+0.875 b1") << "before the last, then behind the new one";
     setStops({0, 1});
     EXPECT_TRUE(mouse().selectNeighbour(-1) && !mouse().selectNeighbour(-1));

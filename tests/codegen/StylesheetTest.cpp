@@ -124,6 +124,15 @@ TEST_F(StylesheetTest, keepsWhatTheUserAddsAndTellsItsDeclarationsFromCopies) {
             edit({first + 30, 0}, u"\tcolor: red;");
             return radialWith(line, "\tbackground: radial");
         },
+        [&] { // a line typed into a changed one; before an update the same text had it above
+            edit({first, 0}, line);
+            edit({first + line.size() + 14, 0}, u"x");
+            stylesheet.insertCSS3Code(record.gradient, record.colorFormatType);
+            edit({first + 14, 0}, u"x");
+            css.contents.insert(first + 1, line.substr(1) + u'\t');
+            stylesheet.edited({first + 1, 0, line.size()});
+            return radialCss;
+        },
         [&] { // a changed one cut out and brought back, after much else
             for (int i = 0; i < 1'500; ++i) {
                 edit({0, 0}, u"x");

@@ -45,6 +45,9 @@ TEST(Incoming, aTextIsAColorOrHasGradientsOrIsToldOf) {
          "0 #0000ff 0, #ff0000 100; 2 more gradients left out: the first is conic; what was too much to "
          "read is left out"},
         {"", "No gradient in the clipboard"},
+        {"red" + std::string(253, ' '), "color #ff0000"},
+        {"red" + std::string(254, ' '), "No gradient in the clipboard"},
+        {std::string(longestIncoming, ' '), "No gradient in the clipboard"},
         {std::string(longestIncoming + 1, ' '), "More than 16 MB in the clipboard: not read"}};
     for (const auto& [text, expected] : texts) {
         EXPECT_EQ(offered(readIncomingText(text, "the clipboard")), expected) << text.substr(0, 80);

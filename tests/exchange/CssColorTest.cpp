@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace tessaly {
@@ -23,7 +24,6 @@ std::string described(std::string_view text) {
 
 TEST(CssColor, readsEverySyntax) {
     const std::vector<std::pair<std::string_view, std::string_view>> rows{
-        {"red", "255 0 0 100"},
         {" /* of */ RebeccaPurple\n", "102 51 153 100"},
         {"gr\\65 y", "128 128 128 100"},
         {"transparent", "0 0 0 0"},
@@ -67,6 +67,15 @@ TEST(CssColor, readsEverySyntax) {
         EXPECT_EQ(described(text), text == "hsl(1 2% 3%" ? "8 8 7 100" : "none")
             << text; // ends with the text
     }
+}
+
+TEST(CssColor, knowsEveryName) {
+    std::ifstream names{TESSALY_TEST_DATA "/named-colors.tsv"};
+    int known = 0;
+    for (std::string name, color; std::getline(names, name, '\t') && std::getline(names, color); ++known) {
+        EXPECT_EQ(described(name), color) << name;
+    }
+    EXPECT_EQ(known, 148);
 }
 
 TEST(CssColor, makesTheChannelsOfTheNumberFields) {

@@ -1,5 +1,6 @@
 #include "foundation/AtomicFile.h"
 #include "foundation/Descriptor.h"
+#include "foundation/DiagnosticLog.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/NumberText.h"
 #include "foundation/Truncation.h"
@@ -28,6 +29,13 @@ TEST(AtomicFile, replacesWholeAndLeavesTheOldFileOnFailure) {
               std::errc::file_too_large);
     fullDisk.reset();
     EXPECT_TRUE(writeFileAtomically(folder, "taken", "new"));
+    {
+        const int next = ::dup(folder.number());
+        ::close(next);
+        AtomicFile unclosable{folder, "styles.css", S_IRUSR};
+        EXPECT_TRUE(!unclosable.write("new") && ::close(next) == 0);
+        EXPECT_EQ(unclosable.commit(AtomicFile::Durability::Eventual), std::errc::bad_file_descriptor);
+    }
     EXPECT_EQ(contentsOf(file), old);
     EXPECT_EQ(contentsOf(temporary.path / "theirs"), "theirs") << "no link is followed";
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator{temporary.path}, {}), 3) << "of its own none";
@@ -76,6 +84,12 @@ TEST(NumberText, writesThePrintfFormsWithAPointAndCutsPercentsToOneDecimal) {
     EXPECT_EQ(texts, "33.2 1.000 -0.333000 1 0 0.8 0.2 0.05 0.6 1e-05 0 100 25.6 99.9 33.3 33.4 0.4 0 7 0");
     EXPECT_EQ(fixedText(std::numeric_limits<double>::max(), 1).size(), 311U);
     EXPECT_EQ(hexByteText(0) + hexByteText(10) + hexByteText(255), "000aff");
+}
+
+TEST(DiagnosticLog, writesALineForAMessage) {
+    testing::internal::CaptureStderr();
+    DiagnosticLog::write("a\r\nb");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "a\\r\\nb\n");
 }
 
 TEST(Truncation, cutsTowardZeroAndNeverOverflows) {

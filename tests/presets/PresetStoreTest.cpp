@@ -102,8 +102,11 @@ TEST_F(PresetStoreTest, goesOnAfterAFailedMainRowAlone) {
     std::vector<std::vector<std::string>> rows;
     program.store.executeSQL("select group_concat(mainIndex) from AdditionalTable", rows);
     EXPECT_EQ(rows, (std::vector<std::vector<std::string>>{{"0,1,2"}}));
-    EXPECT_TRUE(program.store.executeSQL("select NULL, '\xC3\xA9', mainIndex from MainTable ", rows));
-    EXPECT_EQ(rows, (std::vector<std::vector<std::string>>{{"", "\xC3\xA9", "0"}, {"", "\xC3\xA9", "2"}}));
+    const std::string wide = "\xC3\xA9\xF0\x9F\x8C\x88"; // 6 bytes, 3 units: the query ends 3 bytes early
+    const std::string query =
+        "select NULL, '" + wide + "', mainIndex from AdditionalTable where mainIndex<2999";
+    EXPECT_TRUE(program.store.executeSQL(query, rows));
+    EXPECT_EQ(rows, (std::vector<std::vector<std::string>>{{"", wide, "0"}, {"", wide, "1"}}));
 }
 
 TEST_F(PresetStoreTest, worksOnWithoutADatabase) {

@@ -1,6 +1,7 @@
 #include "raster/GradientRaster.h"
 
 #include "model/Orientation.h"
+#include "raster/DiscRaster.h"
 
 #include <bit>
 #include <cmath>
@@ -118,6 +119,37 @@ TEST(GradientRamp, takesAnyPosition) {
                       {HUGE_VAL, Color::white(), 0.0}};
     for (const double t : {-1e9, 0.0, 1.0, 1e9}) {
         EXPECT_EQ((GradientRamp{stops, Opacity::Ignored}.pixelAt(t)), t < 0 ? 0xFF000000U : 0xFFFFFFFFU) << t;
+    }
+}
+
+TEST(DiscRaster, coversEveryPixelAsFarAsItReachesIntoIt) {
+    const RGBAComponents color{0.2, 0.4, 1.0, 1.0};
+    const Channels over = premultiplied({0, Color::calibratedRGB(0.2, 0.4, 1.0), 1}, lightGrey);
+    constexpr std::uint32_t under = 0xFF804020;
+    std::vector<std::uint32_t> pixels(24 * 17);
+    for (const double scale : {1.0, 1.5}) {
+        const PixelBuffer buffer{pixels, 24, 17, scale, 20};
+        for (const auto& [center, radius] : {std::pair{Point{8, 13}, 5.0},
+                                             {Point{8.3, 13.8}, 4.6},
+                                             {Point{0, 20}, 6},
+                                             {Point{16, 9}, 7},
+                                             {Point{7.2, 14.1}, 0.3}}) {
+            std::ranges::fill(pixels, under);
+            fillDisc(buffer, center, radius, color);
+            for (int i = 0; i < 24 * 17; ++i) {
+                const Point middle{buffer.x(i % 24), buffer.y(i / 24)};
+                const double beyond = std::hypot(middle.x - center.x, middle.y - center.y) - radius;
+                const double share = std::clamp(0.5 - beyond * scale, 0.0, 1.0);
+                for (std::size_t channel = 0; channel < over.size(); ++channel) {
+                    const auto byteOf = [&](std::uint32_t pixel) {
+                        return pixel >> (24 - 8 * channel) & 0xFFU;
+                    };
+                    const double expected = over[channel] * share + byteOf(under) * (1 - share);
+                    ASSERT_NEAR(byteOf(pixels[static_cast<std::size_t>(i)]), expected, 2)
+                        << i << ", " << radius;
+                }
+            }
+        }
     }
 }
 

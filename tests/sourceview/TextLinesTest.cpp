@@ -3,9 +3,12 @@
 #include "foundation/TextEdit.h"
 #include "sourceview/GutterLayout.h"
 #include "sourceview/LineIndices.h"
+#include "sourceview/LongLineWatch.h"
 #include "sourceview/TextLayout.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace tessaly {
 namespace {
@@ -61,6 +64,64 @@ TEST(TextEdit, isNoMoreThanDiffersAndNeverCutsASurrogatePair) {
     EXPECT_EQ(TextEdit::between(u"aaa", u"a"), (TextEdit{1, 2, 0}));
     EXPECT_EQ(TextEdit::between(u"x\U0001F308y", u"x\U0001F302y"), (TextEdit{1, 2, 2}));
     EXPECT_EQ(TextEdit::between(u"x\U0001F308y", u"x\U0001D308y"), (TextEdit{1, 2, 2}));
+}
+
+TEST(TextEdit, mapsPlacesAndJoinsWithTheNext) {
+    const TextEdit edit{3, 4, 2};
+    for (const auto& [before, after] :
+         {std::pair<std::size_t, std::size_t>{0, 0}, {3, 3}, {4, 4}, {6, 5}, {7, 5}, {10, 8}}) {
+        EXPECT_EQ(edit.mapped(before), after) << before;
+    }
+    EXPECT_EQ((TextEdit{2, 3, 1}.followedBy({1, 1, 4})), (TextEdit{1, 4, 5}));
+    EXPECT_EQ((TextEdit{2, 3, 1}.followedBy({5, 2, 0})), (TextEdit{2, 7, 3}));
+}
+
+TEST(TextEdit, isCutToTheTextOrTheWholeOfItWhereAReportCannotBe) {
+    struct Row {
+        TextEdit report;
+        std::size_t before;
+        std::size_t after;
+        TextEdit taken;
+    };
+    for (const auto& [report, before, after, taken] : {Row{{2, 5, 4}, 10, 9, {2, 5, 4}},
+                                                       {{8, 5, 6}, 10, 11, {8, 2, 3}},
+                                                       {{0, 1, 1}, 10, 12, {0, 10, 12}},
+                                                       {{12, 0, 0}, 10, 11, {0, 10, 11}}}) {
+        EXPECT_EQ(TextEdit::reported(report, before, after), taken) << before << ' ' << after;
+    }
+}
+
+TEST(LongLineWatch, knowsWhetherALineIsTooLongThroughRandomEdits) {
+    std::mt19937 random{1};
+    const auto upTo = [&](std::size_t most) {
+        return std::uniform_int_distribution<std::size_t>{0, most}(random);
+    };
+    std::u16string text;
+    LongLineWatch watch;
+    int changes = 0;
+    for (int i = 0; i < 3'000; ++i) {
+        const std::size_t position = upTo(text.size()), removed = upTo(1) * upTo(text.size() - position);
+        const std::u16string kinds[] = {u"\n", u"a\n", u"\na", std::u16string(5'000, u'a')};
+        const std::u16string& added = kinds[upTo(3)];
+        text.replace(position, removed, added);
+        const bool before = watch.hasLongLine();
+        watch.textEdited(text, {position, removed, added.size()});
+        std::size_t longest = 0;
+        for (std::size_t start = 0; start <= text.size();) {
+            const std::size_t end = std::min(text.find(u'\n', start), text.size());
+            longest = std::max(longest, end - start);
+            start = end + 1;
+        }
+        ASSERT_EQ(watch.hasLongLine(), longest > LongLineWatch::longestWrapped) << "edit " << i;
+        ASSERT_EQ(LongLineWatch::hasTooLongLine(text), watch.hasLongLine());
+        changes += watch.hasLongLine() != before ? 1 : 0;
+    }
+    EXPECT_GT(changes, 100) << "lines must become too long and cease to be";
+    for (const std::size_t units : {10'000U, 10'001U}) {
+        LongLineWatch fresh;
+        fresh.textEdited(u'\n' + std::u16string(units, u'a') + u"\nb", {units, 0, 1}); // its last letter
+        EXPECT_EQ(fresh.hasLongLine(), units > 10'000) << units;
+    }
 }
 
 } // namespace
