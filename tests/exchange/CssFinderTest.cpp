@@ -122,7 +122,7 @@ TEST(CssFinder, findsWhatIsInAPage) {
         {"<!DOCTYPE html><style type=a>\n.a { background: AB }</STYLE ><p style='background: CD'>",
          ".a: AB\nCD"},
         {"<p title=\"style='background: AB'\" STYLE = \"background: url(&quot;x;y&quot;), CD; "
-         "a:&#39;;mask:CD;&#x27;;mask:AB\"/>",
+         "a:&#39;;border-image:AB;&#x27;;mask:AB\"/>",
          "CD (other pictures left out)\nAB"},
         {"<b class=x style=background:AB>", ""}, // its value ends at the blank
         {"some text <b style=background:linear-gradient(90deg,#aaa,#bbb)>", "AB"},
