@@ -83,7 +83,8 @@ TEST_F(StylesheetTest, findsDeclarationsAfterAnUndoAndPastDraggedText) {
             }
         }
     }
-    const std::size_t places[] = {0, 28, 126, plain.size() - 2, plain.size()}; // at edges of declarations
+    const std::size_t filter = plain.find(u"\tfilter"), end = plain.size();
+    const std::size_t places[] = {0, 28, 126, filter, end - 2, end}; // at edges of declarations
     for (const std::size_t from : places) {
         for (const std::size_t to : places) {
             survive(std::u16string{plain}.insert(from, line), std::u16string{plain}.insert(to, line));

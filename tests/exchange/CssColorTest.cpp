@@ -63,7 +63,7 @@ TEST(CssColor, readsEverySyntax) {
     for (const std::string_view text :
          {"", "red blue", "currentcolor", "#12345", "#ggg", "rgb(1,2,3,4,5)", "rgb(1,2 3)", "rgb(1,50%,3)",
           "rgb(none,2,3)", "rgb(1 2 3 0.5)", "hsl(1 2% 3%", "hwb(1,2%,3%)", "color(p3 1 1 1)", "lab(1 2 3px)",
-          "rgb(1 2 3))", "rgb(1 2 calc(1px + 1))", "var(--x)"}) {
+          "rgb(1 2 3))", "rgb(1 2 calc(1px + 1))", "rgb(1 2 calc(1 (+ 2)))", "var(--x)"}) {
         EXPECT_EQ(described(text), text == "hsl(1 2% 3%" ? "8 8 7 100" : "none")
             << text; // ends with the text
     }

@@ -31,6 +31,7 @@ TEST(CssGradient, takesTheNearestDirection) {
             {"250grad,", "2 #0000ff 0, #ff0000 100"},
             {"1.570796rad,", "1 #ff0000 0, #0000ff 100"},
             {"37deg,", "2 #ff0000 0, #0000ff 100 (37° taken as 45°)"},
+            {"0.4deg,", "0 #ff0000 0, #0000ff 100 (0.4° taken as 0°)"},
             {"340deg,", "0 #ff0000 0, #0000ff 100 (340° taken as 0°)"},
             {"-20deg,", "0 #ff0000 0, #0000ff 100 (-20° taken as 0°)"},
             {"-1e30turn,", "0 #ff0000 0, #0000ff 100"},
