@@ -74,6 +74,7 @@ TEST(CssGradient, takesTheNearestDirection) {
             {"gradient(linear, left top, left top, from(red), to(blue))", ""},
             {"gradient(linear, left top, right top)", ""},
             {"gradient(linear, left top, right top, color-stop(red))", ""},
+            {"gradient(linear, rubbish, right top, from(red), to(blue))", ""},
             {"gradient(conic, left top, right top, from(red))", ""},
         },
         "");

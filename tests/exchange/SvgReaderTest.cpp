@@ -85,7 +85,6 @@ TEST(SvgReaderTest, takesALineAsTheNearestDirectionAndTellsWhatIsNotTheSame) {
         {"gradientTransform='skewX(45)' x2='0' y2='1'", {"0: " + turned}}, // slants lines that lie level
         {"gradientTransform='skewY(45)'", {"1: " + plain}},
         {"gradientTransform='skewX(45)'", {"2: #ff0000 0.5, #0000ff 1"}},
-        {"gradientTransform='rotate(90) nothing(1)'", {"1: " + plain}},
         {"gradientTransform='scale(1e200)'", {}},
         {"gradientTransform='scale(1e200,1e-200)'", {"1: #ff0000 0, #ff0000 1 (cut at the edges)"}},
         {"x1='.5' x2='.5'", {"1: #0000ff 1 (no length, its last color taken)"}},
@@ -99,9 +98,15 @@ TEST(SvgReaderTest, takesALineAsTheNearestDirectionAndTellsWhatIsNotTheSame) {
         {"style='color-interpolation: linearRGB'",
          {"1: " + plain + " (mixing in linear light taken as in sRGB)"}},
     };
+    for (const char* const none :
+         {"rotate(90) nothing(1)", "matrix(.5 0 0 1 0)", "matrix(.5 0 0 1 0 0 0)", "translate(.5 0 0)",
+          "scale(.5 1 1)", "rotate(90 0)", "rotate(90 0 0 0)", "skewX(30 0)", "skewY(30 0)", "skewX()"}) {
+        rows.push_back({std::string{"y2='1' gradientTransform='"} + none + "'", {"3: " + turned}});
+    }
     for (Row& row : rows) {
         row.text = svg(linear(row.text), "viewBox='0 0 20 40'");
     }
+    rows.push_back({linear("xmlns='http://www.w3.org/2000/svg'"), {"1: " + plain}}); // all that there is
     expectEach(rows);
 }
 
