@@ -97,6 +97,7 @@ void GradientIntake::openWaiting() {
 }
 
 void GradientIntake::takeTypedColor(const std::string& text) {
+    say({});
     const auto color = readCopiedColor(text);
     if (color) {
         takeColor(*color);

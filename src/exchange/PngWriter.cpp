@@ -126,9 +126,6 @@ std::error_code writePngFile(const GradientPicture& picture, const std::filesyst
     UserFile written{file};
     const std::error_code error = writePng(
         picture, [&](std::string_view bytes) { return written.write(bytes); }, progress);
-    if (!error && progress && !progress(1.0)) {
-        return std::make_error_code(std::errc::operation_canceled);
-    }
     return error ? error : written.commit(AtomicFile::Durability::Forced);
 }
 

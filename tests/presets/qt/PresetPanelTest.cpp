@@ -128,7 +128,8 @@ double contrastIn(const QImage& picture, const QRect& place, const QPalette& pal
     for (int y = place.top(); y <= place.bottom(); ++y) {
         for (int x = place.left(); x <= place.right(); ++x) {
             const RGBAComponents pixel = toComponents(picture.pixelColor(x, y));
-            strongest = std::max(strongest, contrastBetween(pixel, toComponents(palette.color(QPalette::Window))));
+            strongest =
+                std::max(strongest, contrastBetween(pixel, toComponents(palette.color(QPalette::Window))));
         }
     }
     return strongest;
