@@ -18,5 +18,6 @@ sleep 1
 if [ $# -gt 0 ]; then
     "$@" "$window"
 fi
-import -window "$window" "$picture"
+eval "$(xdotool getwindowgeometry --shell "$window")"
+import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage "$picture" # with the dialogs over it
 echo "Saved $picture"

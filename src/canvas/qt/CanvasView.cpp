@@ -1,9 +1,8 @@
 #include "canvas/qt/CanvasView.h"
 
-#include "foundation/Contrast.h"
 #include "foundation/NumberText.h"
 #include "foundation/qt/Flipped.h"
-#include "foundation/qt/ToQColor.h"
+#include "foundation/qt/ReadableColor.h"
 #include "foundation/qt/ToQString.h"
 #include "model/qt/ColorBridge.h"
 
@@ -84,11 +83,7 @@ void CanvasView::paintEvent(QPaintEvent* /*event*/) {
 
 // Where there is no stop.
 void CanvasView::paintInvitation(QPainter& painter) const {
-    const RGBAComponents background = toComponents(palette().color(QPalette::Window));
-    const RGBAComponents quiet =
-        laidOver(background, toComponents(palette().color(QPalette::PlaceholderText)));
-    const RGBAComponents text = toComponents(palette().color(QPalette::WindowText));
-    painter.setPen(toQColor(withContrast(textContrast, quiet, text, background)));
+    painter.setPen(readableOnWindow(palette(), QPalette::PlaceholderText, textContrast));
     painter.drawText(rect(), Qt::AlignCenter, tr("Press Insert to add a stop"));
 }
 

@@ -3,15 +3,17 @@
 #include "foundation/Contrast.h"
 #include "foundation/qt/ToQColor.h"
 
+#include <QPalette>
+
 namespace tessaly {
 
-/// The colour as it shows on its background, moved as far towards black or white as the contrast wants.
-inline QColor readableOn(const QColor& background, const QColor& color, double leastContrast) {
-    const RGBAComponents below = toComponents(background);
-    constexpr double rounding = 0.05; // to whole channels
-    const double away = isDark(background) ? 1.0 : 0.0;
-    return toQColor(withContrast(leastContrast + rounding, laidOver(below, toComponents(color)),
-                                 {away, away, away, 1.0}, below));
+/// A colour of the palette as it is seen on a window, opaque, with as much of the text's colour mixed into it
+/// as gives it that contrast.
+inline QColor readableOnWindow(const QPalette& palette, QPalette::ColorRole role, double contrast) {
+    constexpr double reserve = 1.02; // the display rounds to bytes
+    const RGBAComponents background = toComponents(palette.color(QPalette::Window));
+    return toQColor(withContrast(contrast * reserve, laidOver(background, toComponents(palette.color(role))),
+                                 toComponents(palette.color(QPalette::WindowText)), background));
 }
 
 } // namespace tessaly

@@ -68,8 +68,7 @@ void PresetGradienContainerView::paintEvent(QPaintEvent* event) {
         return;
     }
     QPainter painter{this};
-    const QColor marking =
-        readableOn(palette().color(QPalette::Window), palette().color(QPalette::Highlight), lineContrast);
+    const QColor marking = readableOnWindow(palette(), QPalette::Highlight, lineContrast);
     sheet_.paint(painter, *gallery_, event->rect(), *drag_);
     if (hasFocus() && keyboardFocus_.isShown()) {
         constexpr double reach = 1.0; // of the middle of the line, beyond the thumbnail

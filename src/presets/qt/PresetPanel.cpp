@@ -16,8 +16,8 @@ namespace tessaly {
 namespace {
 
 constexpr int spacing = 8;
-constexpr int leastHeight = 152; // of the scroll view: two rows of thumbnails and the start of a third
 constexpr int margin = 16;
+constexpr int leastHeight = 152; // of the scroll view: two rows of thumbnails and the start of a third
 
 // The container with a scroller beside it.
 int scrollViewWidth(const QScrollArea& view) {

@@ -33,8 +33,7 @@ void PresetScrollView::paintFrame() {
     const QRect whole{topLeft, bottomRight - QPoint{1, 1}};
     const int thickness = std::max(static_cast<int>(std::floor(devicePixelRatioF())), 1);
     const QRect within = whole.adjusted(thickness, thickness, -thickness, -thickness);
-    const QColor color =
-        readableOn(palette().color(QPalette::Window), palette().color(QPalette::Mid), lineContrast);
+    const QColor color = readableOnWindow(palette(), QPalette::Mid, lineContrast);
     painter.setWorldTransform(toDevice.inverted());
     for (const QRect& side : QRegion{whole}.subtracted(within)) {
         painter.fillRect(side, color);

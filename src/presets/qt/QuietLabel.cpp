@@ -14,8 +14,7 @@ QuietLabel::QuietLabel(const QString& text, QWidget* parent) : QLabel{text, pare
 
 void QuietLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter{this};
-    painter.setPen(readableOn(palette().color(QPalette::Window), palette().color(QPalette::PlaceholderText),
-                              textContrast));
+    painter.setPen(readableOnWindow(palette(), QPalette::PlaceholderText, textContrast));
     painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextWordWrap, text());
 }
 
