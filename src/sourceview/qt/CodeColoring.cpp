@@ -57,7 +57,7 @@ void CodeColoring::colorLine(const QTextBlock& line, std::span<const CodeStretch
     auto stretch = std::partition_point(stretches.begin(), stretches.end(),
                                         [&](const CodeStretch& each) { return each.range.end() <= start; });
     QList<QTextLayout::FormatRange> colors;
-    for (; stretch != stretches.end() && stretch->range.location < end; ++stretch) {
+    for (; start < end && stretch != stretches.end() && stretch->range.location < end; ++stretch) {
         const std::size_t from = std::max(stretch->range.location, start);
         const std::size_t to = std::min(stretch->range.end(), end);
         colors.append({static_cast<int>(from - start), static_cast<int>(to - from),

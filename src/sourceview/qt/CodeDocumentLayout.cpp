@@ -37,6 +37,9 @@ void CodeDocumentLayout::documentChanged(int from, int removed, int added) {
         return;
     }
     const QTextBlock line = document()->findBlock(from);
+    if (line.isValid() && isLong(line)) {
+        line.layout()->clearFormats(); // later it would have to be laid out again
+    }
     const bool isInOneLine = lines_ == document()->blockCount();
     lines_ = document()->blockCount();
     if (isInOneLine && line.isValid() && isLong(line)) {
