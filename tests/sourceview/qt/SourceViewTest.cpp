@@ -209,7 +209,7 @@ TEST_F(SourceViewTest, whatIsSeenIsColored) {
     view.verticalScrollBar()->setValue(300);
     page.grab();
     EXPECT_EQ(colorsOf(300), colorsOf(4));
-    select(view.document()->findBlockByNumber(300).position() + 2, 0);
+    select(static_cast<std::size_t>(view.document()->findBlockByNumber(300).position() + 2), 0);
     QTest::keyClicks(&view, u"/*"_s);
     page.grab();
     ASSERT_EQ(colorsOf(301).size(), 1);
