@@ -109,20 +109,20 @@ TEST_F(SavingTest, exportsPicturesOfAnySizeByTheirName) {
         const char* name;
         QString told;
     };
-    for (const auto& [name, told] :
+    for (const Case& row :
          {Case{"a.png", QStringLiteral("Saved in a.png")}, Case{"b.SVG", QStringLiteral("Saved in b.SVG")},
           Case{"c.jpg", QStringLiteral("Saved in c.jpg.png")},
           Case{"no/d.png", QStringLiteral("d.png was not saved: No such file or directory")}}) {
         item(Command::ExportPicture).trigger();
         auto* const dialog = window.findChild<PictureSizeDialog*>();
         const QList<QSpinBox*> sides = dialog->findChildren<QSpinBox*>();
-        EXPECT_EQ(sides[0]->value(), name == std::string{"a.png"} ? 1920 : 30) << "remembered";
+        EXPECT_EQ(sides[0]->value(), row.name == std::string{"a.png"} ? 1920 : 30) << "remembered";
         sides[0]->setValue(30);
         sides[1]->setValue(20);
         Q_EMIT dialog->chosen({30, 20});
         delete dialog;
-        answer(name);
-        EXPECT_TRUE(eventually([&] { return message() == told; })) << message().toStdString();
+        answer(row.name);
+        EXPECT_TRUE(eventually([&] { return message() == row.told; })) << message().toStdString();
     }
     EXPECT_EQ(QImage{QString::fromStdString((temporary.path / "a.png").string())}.size(), (QSize{30, 20}));
     EXPECT_EQ(QImage{QString::fromStdString((temporary.path / "c.jpg.png").string())}.size(),
