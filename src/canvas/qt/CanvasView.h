@@ -61,11 +61,11 @@ class CanvasView : public QWidget, public CanvasSurface, public AccessibleItems 
     void announceToAssistiveTools();
     void paintInvitation(QPainter& painter) const;
 
+    KeyboardFocus keyboardFocus_; ///< before the children, whose making is told by events
     CanvasGeometry geometry_;
     GradientEditor* editor_ = nullptr;
     CanvasPicture picture_;
     QMenu* popupMenu_;
-    KeyboardFocus keyboardFocus_;
 
     // What assistive tools were last told of the stops.
     int announcedCount_ = 0;

@@ -56,13 +56,13 @@ class MainTabView : public QWidget, public AccessibleItems {
     void drawSeparator(QPainter& painter, const TabSeparator& separator) const;
     void drawFocusFrame(QPainter& painter, const DrawnTabs& tabs) const;
 
+    KeyboardFocus keyboardFocus_;
     QStringList tabs_;
     QFont titleFont_; // as the titles were measured
     TabBarLayout layout_;
     TabBarColors colors_;
     QTimer nextPass_; // of the event loop
     std::int64_t selectIndex_ = 0;
-    KeyboardFocus keyboardFocus_;
 };
 
 } // namespace tessaly
