@@ -197,7 +197,9 @@ void Tessaly::observe() {
     needToUpdateWebCode_ = center.addObserver(canvasNotification::needToUpdateWebCode, &document_.editor(),
                                               [this](const Notification& /*notification*/) {
                                                   updateCode();
-                                                  updateMenu();
+                                                  if (!document_.history().isActing()) { // else at its end
+                                                      updateMenu();
+                                                  }
                                               });
 }
 

@@ -57,7 +57,6 @@ WindowArrangement::WindowArrangement(QWidget& window, const MainWindow::Views& v
       page_{views.stylesheet} {
     views.sourceCodeContainer->addWidget(views.stylesheet);
     views.sourceCodeContainer->addWidget(views.page);
-    views.preview->hide();
     auto* const header = new QHBoxLayout{header_};
     header->setContentsMargins(0, 0, 0, 0);
     header->setSpacing(0);

@@ -10,10 +10,10 @@
 namespace tessaly {
 
 Document::Document(const Views& views, const std::filesystem::path& applicationSupport,
-                   std::function<void()> historyChanged, History::Clock clock)
+                   std::function<void()> actionEnded, History::Clock clock)
     : history_{{[this] { return state(); },
                 [this](const DocumentState& shown, const DocumentState& wanted) { restore(shown, wanted); },
-                std::move(historyChanged)},
+                std::move(actionEnded)},
                std::move(clock)},
       editor_{record_, history_, views.geometry, views.surface, views.controls},
       gallery_{record_.gradient,

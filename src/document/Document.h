@@ -27,10 +27,10 @@ class Document {
         PresetGalleryView& gallery;
     };
 
-    /// The presets' folder is made in `applicationSupport`. `historyChanged`: what can be taken back or done
-    /// again may have another name.
+    /// The presets' folder is made in `applicationSupport`. `actionEnded`: what can be taken back or done
+    /// again may have another name; also after an undo or a redo.
     Document(const Views& views, const std::filesystem::path& applicationSupport,
-             std::function<void()> historyChanged, History::Clock clock = std::chrono::steady_clock::now);
+             std::function<void()> actionEnded, History::Clock clock = std::chrono::steady_clock::now);
 
     /// Reads the stored presets, and then starts with the default gradient; once, when everything is wired.
     void open();

@@ -63,12 +63,12 @@ void History::end() {
     share(after, open_.before);
     if (!sameContent(open_.before, after)) {
         record(std::move(after));
-        document_.historyChanged();
     }
     if (run_) {
         run_->last = clock_();
     }
     open_ = {};
+    document_.actionEnded();
 }
 
 void History::act(std::string_view name, const Run& run, const std::function<void()>& change) {
@@ -169,7 +169,7 @@ void History::restore(const DocumentState& shown, const DocumentState& wanted) {
     ++depth_; // what the controls report while they are written to is no action
     document_.restore(shown, wanted);
     --depth_;
-    document_.historyChanged();
+    document_.actionEnded();
 }
 
 void History::prependPresets(const GradientList& presets) {

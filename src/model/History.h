@@ -22,7 +22,7 @@ class History {
         std::function<DocumentState()> state;
         /// Brings back `wanted` where `shown` is; the lists of presets only if the two differ in them.
         std::function<void(const DocumentState& shown, const DocumentState& wanted)> restore;
-        std::function<void()> historyChanged; ///< the names of the next steps may be others
+        std::function<void()> actionEnded; ///< or a step was taken back or done again
     };
 
     struct Limits {
@@ -43,6 +43,7 @@ class History {
     /// An action, named after EditStep.h, that takes its time. Actions within it are part of it.
     void begin(std::string_view name) { begin(name, {}); }
     void end();
+    bool isActing() const { return depth_ > 0; }
     /// Gives the action under way another name.
     void rename(std::string_view name) { open_.name = name; }
 

@@ -10,7 +10,7 @@
 namespace tessaly {
 namespace {
 
-constexpr std::size_t mostPictures = 100; // three times as many as can be seen at once
+constexpr std::size_t mostPictures = 1'000; // by far more than can be seen at once, some 10 MB
 constexpr double fadedOpacity = 0.3;
 
 } // namespace

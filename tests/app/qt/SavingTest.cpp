@@ -76,8 +76,11 @@ TEST_F(SavingTest, aFileFollowsTheStylesheetUntilOthersChangeIt) {
     EXPECT_TRUE(eventually([&] { return contentsOf(file) == code(); })) << "what the user typed, too";
 
     std::ofstream{file} << "theirs";
-    item(Command::Reverse).trigger();
+    const QPoint marker = views.canvas->accessibleItemRect(0).center();
+    QTest::mousePress(views.canvas, Qt::LeftButton, {}, marker);
+    QTest::mouseMove(views.canvas, marker + QPoint{40, 0});
     EXPECT_TRUE(eventually([&] { return !item(Command::SaveOnEveryChange).isChecked(); }));
+    QTest::mouseRelease(views.canvas, Qt::LeftButton, {}, marker + QPoint{40, 0});
     EXPECT_EQ(
         message(),
         QStringLiteral("page.css was not saved: Changed by another program; Save Stylesheet As replaces it"));
@@ -119,8 +122,9 @@ TEST_F(SavingTest, exportsPicturesOfAnySizeByTheirName) {
         EXPECT_EQ(sides[0]->value(), row.name == std::string{"a.png"} ? 1920 : 30) << "remembered";
         sides[0]->setValue(30);
         sides[1]->setValue(20);
-        Q_EMIT dialog->chosen({30, 20});
-        delete dialog;
+        for (QPushButton* const button : dialog->findChildren<QPushButton*>()) {
+            button->isDefault() ? button->click() : void();
+        }
         answer(row.name);
         EXPECT_TRUE(eventually([&] { return message() == row.told; })) << message().toStdString();
     }
