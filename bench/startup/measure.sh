@@ -24,9 +24,9 @@ presets() {
 presets many 10000 5
 presets large 1 100000
 
-# start NAME PROGRAM DATA-FOLDER: appends milliseconds and KiB to the file NAME.
+# start NAME PROGRAM DATA-FOLDER: appends milliseconds and KiB to NAME.starts.
 start() {
-    timeout 60 "$bin/tessaly_startup_$2" "$(date +%s%N)" "$work/$3" >>"$work/$1" 2>"$work/log" || {
+    timeout 60 "$bin/tessaly_startup_$2" "$(date +%s%N)" "$work/$3" >>"$work/$1.starts" 2>"$work/log" || {
         tail -n 20 "$work/log" >&2
         exit 1
     }
@@ -43,7 +43,7 @@ for _ in $(seq 11); do # the first of each only warms up
 done
 
 median() { # of a column of a file
-    tail -n +2 "$work/$1" | cut -d' ' -f"$2" | sort -n |
+    tail -n +2 "$work/$1.starts" | cut -d' ' -f"$2" | sort -n |
         awk '{ v[NR] = $1 } END { print (v[int((NR + 1) / 2)] + v[int(NR / 2) + 1]) / 2 }'
 }
 awk -v OFS='\t' -v pt="$(median program 1)" -v bt="$(median bare 1)" -v mt="$(median presets 1)" \
