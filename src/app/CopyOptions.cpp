@@ -15,6 +15,8 @@ CopyOptions::CopyOptions(QWidget* parent)
     setToolTip(tr("Copy in another form"));
     setFixedWidth(arrowWidth);
     setMenu(forms_);
+    // An item that assistive tools press leaves its menu open, and beneath one no command acts.
+    connect(forms_, &QMenu::triggered, forms_, &QMenu::hide);
 }
 
 } // namespace tessaly

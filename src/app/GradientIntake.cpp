@@ -4,7 +4,6 @@
 #include "app/MainWindow.h"
 #include "app/MessageLine.h"
 #include "app/WorkBeside.h"
-#include "canvas/qt/StopControlPanel.h"
 #include "document/Document.h"
 #include "foundation/qt/ToQString.h"
 #include "model/EditStep.h"
@@ -24,6 +23,14 @@ namespace {
 constexpr std::size_t readAtOnce = std::size_t{256} << 10U; // what takes longer than a picture of the display
 
 const QString svg = QStringLiteral("image/svg+xml");
+
+// Adds a phrase to those that are told.
+void addTo(std::string& told, const std::string& phrase) {
+    if (!told.empty() && !phrase.empty()) {
+        told += "; ";
+    }
+    told += phrase;
+}
 
 } // namespace
 
@@ -51,11 +58,10 @@ void GradientIntake::takeFrom(const QMimeData& data, const QString& source, std:
     const QList<QUrl> urls = data.urls();
     const auto file = std::ranges::find_if(urls, &QUrl::isLocalFile);
     if (file != urls.end()) {
-        openFile(file->toLocalFile());
-        if (const auto further = std::ranges::count_if(file + 1, urls.end(), &QUrl::isLocalFile);
-            further > 0) {
-            say(tr("%n more file(s) left out", nullptr, static_cast<int>(further)));
-        }
+        const auto further = std::ranges::count_if(file + 1, urls.end(), &QUrl::isLocalFile);
+        const QString leftOut = tr("%n more file(s) left out", nullptr, static_cast<int>(further));
+        waiting_ += {file->toLocalFile(), further > 0 ? leftOut.toStdString() : std::string{}};
+        openWaiting();
         return;
     }
     const std::string text =
@@ -77,7 +83,7 @@ void GradientIntake::open() {
 }
 
 void GradientIntake::openFile(const QString& path) {
-    waiting_ += path;
+    waiting_ += {path, {}};
     openWaiting();
 }
 
@@ -89,11 +95,16 @@ void GradientIntake::openWaiting() {
         retry_.start();
         return;
     }
-    const QString path = waiting_.takeFirst();
+    const WaitingFile next = waiting_.takeFirst();
     retry_.start(); // for the next one
-    read([file = std::filesystem::path{path.toStdU16String()}](
-             const Progress& progress) { return readIncomingFile(file, progress); },
-         static_cast<std::size_t>(QFileInfo{path}.size()), editStep::openGradient);
+    read(
+        [file = std::filesystem::path{next.path.toStdU16String()},
+         leftOut = next.leftOut](const Progress& progress) {
+            Incoming incoming = readIncomingFile(file, progress);
+            addTo(incoming.gradients.empty() ? incoming.failure : incoming.leftOut, leftOut);
+            return incoming;
+        },
+        static_cast<std::size_t>(QFileInfo{next.path}.size()), editStep::openGradient);
 }
 
 void GradientIntake::takeTypedColor(const std::string& text) {
@@ -134,14 +145,12 @@ void GradientIntake::take(const Incoming& incoming, std::string_view step) {
 void GradientIntake::takeGradient(const FoundGradient& found, const std::string& leftOut,
                                   std::string_view step) {
     document_.takeGradient(found.gradient, step);
-    QStringList told;
+    std::string told;
     for (const std::string& note : found.notes) {
-        told += toQString(note);
+        addTo(told, note);
     }
-    if (!leftOut.empty()) {
-        told += toQString(leftOut);
-    }
-    say(told.join(QStringLiteral("; ")));
+    addTo(told, leftOut);
+    say(toQString(told));
 }
 
 void GradientIntake::takeColor(const ReadColor& color) {

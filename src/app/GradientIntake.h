@@ -2,8 +2,9 @@
 
 #include "document/Incoming.h"
 
+#include <QList>
 #include <QObject>
-#include <QStringList>
+#include <QString>
 #include <QTimer>
 #include <functional>
 #include <string_view>
@@ -37,6 +38,10 @@ class GradientIntake : public QObject {
   private:
     void openWaiting();
 
+    struct WaitingFile {
+        QString path;
+        std::string leftOut; ///< what was dropped with it, a phrase; empty: nothing
+    };
     using Reader = std::function<Incoming(const Progress& progress)>;
 
     void takeFrom(const QMimeData& data, const QString& source, std::string_view step);
@@ -49,7 +54,7 @@ class GradientIntake : public QObject {
 
     Document& document_;
     MainWindow& window_;
-    QStringList waiting_; ///< files to open
+    QList<WaitingFile> waiting_;
     QTimer retry_;
 };
 

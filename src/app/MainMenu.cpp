@@ -5,6 +5,8 @@
 #include <QAction>
 #include <QKeySequence>
 #include <QMenu>
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace tessaly {
@@ -66,6 +68,10 @@ constexpr std::array<Item, commandCount> items{{
     {Command::Homepage, help, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Homepage")},
     {Command::RelatedApplications, help, QT_TRANSLATE_NOOP("tessaly::MainMenu", "&Related Applications")},
 }};
+
+static_assert(std::ranges::is_sorted(items, std::less_equal{}, &Item::command) &&
+                  items.front().command == Command{},
+              "each at its place");
 
 const Item& itemOf(Command command) {
     return items[static_cast<std::size_t>(command)];

@@ -71,11 +71,13 @@ void StylesheetFile::changed() {
     }
 }
 
-void StylesheetFile::saveNow() {
-    if (const std::error_code error = write(*file_, AtomicFile::Durability::Eventual)) {
-        tell(*file_, error);
-        setFollowing(false);
+QString StylesheetFile::saveNow() {
+    const std::error_code error = write(*file_, AtomicFile::Durability::Eventual);
+    if (!error) {
+        return {};
     }
+    setFollowing(false);
+    return tell(*file_, error);
 }
 
 void StylesheetFile::finish() {
@@ -83,9 +85,8 @@ void StylesheetFile::finish() {
         return;
     }
     toBeSaved_.stop();
-    saveNow();
-    if (!follows_) { // the window may be closed already
-        DiagnosticLog::write(window_.views().message->accessibleDescription().toStdString());
+    if (const QString told = saveNow(); !told.isEmpty()) { // the window may be closed already
+        DiagnosticLog::write(told.toStdString());
     }
 }
 
@@ -93,10 +94,12 @@ std::error_code StylesheetFile::write(SavedFile& file, AtomicFile::Durability du
     return file.save(toUtf8(view_.text()), durability);
 }
 
-void StylesheetFile::tell(const SavedFile& file, std::error_code error) {
+QString StylesheetFile::tell(const SavedFile& file, std::error_code error) {
     const bool isTheirs = error == UserFileError::ChangedByOthers;
-    window_.views().message->say(tellSaved(file.path(), error) +
-                                 (isTheirs ? tr("; Save Stylesheet As replaces it") : QString{}));
+    const QString told =
+        tellSaved(file.path(), error) + (isTheirs ? tr("; Save Stylesheet As replaces it") : QString{});
+    window_.views().message->say(told);
+    return told;
 }
 
 void StylesheetFile::setFollowing(bool follows) {

@@ -40,9 +40,10 @@ class StylesheetFile : public QObject {
     void ask(const std::function<void(bool saved)>& then);
     bool saveIn(SavedFile& file);
     void changed();
-    void saveNow();
+    /// What was told; empty: it was saved.
+    QString saveNow();
     std::error_code write(SavedFile& file, AtomicFile::Durability durability) const;
-    void tell(const SavedFile& file, std::error_code error);
+    QString tell(const SavedFile& file, std::error_code error);
     void setFollowing(bool follows);
 
     const CustomTextView& view_;

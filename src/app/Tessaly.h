@@ -4,6 +4,7 @@
 #include "app/CodeTextAdapter.h"
 #include "app/GradientExport.h"
 #include "app/GradientIntake.h"
+#include "app/MenuAnswers.h"
 #include "app/StylesheetFile.h"
 #include "codegen/PreviewFiles.h"
 #include "codegen/Stylesheet.h"
@@ -13,18 +14,14 @@
 #include <QObject>
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <memory>
 
 namespace tessaly {
 
-class About;
 class MainWindow;
-class RelatedApps;
 
 /// The program behind its one window: makes everything that the views show and work on, lends it to them,
-/// keeps the code current with the gradient, switches the three pages under the tab bar and answers the
-/// window's buttons.
+/// keeps the code current with the gradient and switches the three pages under the tab bar.
 class Tessaly : public QObject {
     Q_OBJECT
 
@@ -43,11 +40,7 @@ class Tessaly : public QObject {
 
   private:
     void lendToViews();
-    void answerMenu();
-    void runCommand(const std::function<void()>& run);
     void observe();
-    void takeStep(bool (History::*step)());
-    void updateMenu();
     void writeCode();
     void updateCode();
     void writeCodeAnew();
@@ -63,8 +56,7 @@ class Tessaly : public QObject {
     CodeCopy copy_;
     StylesheetFile stylesheetFile_;
     GradientExport export_;
-    About* about_ = nullptr; ///< like the next, none before it is first shown
-    RelatedApps* relatedApps_ = nullptr;
+    MenuAnswers menuAnswers_;
     NotificationCenter::Observation selectIndexChanged_;
     NotificationCenter::Observation needToUpdateWebCode_;
 };

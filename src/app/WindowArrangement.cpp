@@ -101,6 +101,9 @@ void WindowArrangement::placeTools(QHBoxLayout& header, QSize room) {
 }
 
 void WindowArrangement::showPage(QWidget* page) {
+    if (page == page_) {
+        return;
+    }
     page_ = page;
     if (page != views_.preview) {
         views_.sourceCodeContainer->setCurrentWidget(page);

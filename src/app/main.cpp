@@ -90,7 +90,6 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(toQString(product::name));
     QApplication::setApplicationVersion(toQString(product::version()));
     answerCommandLine(argc, argv);
-    std::setlocale(LC_ALL, ""); // the toolkit would do so, and beside it would be too late
     const std::jthread fonts = loadFontConfiguration();
     QApplication application{argc, argv};
     QApplication::setDesktopFileName(toQString(product::desktopId()));

@@ -19,7 +19,7 @@ struct Stops {
     std::int64_t selected;
     bool carriesOpacity; ///< in the notation
 
-    bool isSelected(std::int64_t index) const { return index >= 0 && index < std::ssize(list); }
+    bool hasSelection() const { return selected >= 0 && selected < std::ssize(list); }
 };
 
 // As it is drawn; a colour that cannot be seen, since it is transparent, is that of `near`.
@@ -34,7 +34,7 @@ ColorStop drawnAt(double position, const Stops& stops, const ColorStop& near) {
 }
 
 void addInBetween(Stops& stops) {
-    if (!stops.isSelected(stops.selected) || stops.list.size() < 2) {
+    if (!stops.hasSelection() || stops.list.size() < 2) {
         return;
     }
     const bool isLast = stops.selected + 1 == std::ssize(stops.list);
@@ -45,7 +45,7 @@ void addInBetween(Stops& stops) {
 }
 
 void duplicate(Stops& stops) {
-    if (stops.isSelected(stops.selected)) {
+    if (stops.hasSelection()) {
         const auto original = stops.list.begin() + stops.selected;
         stops.list.insert(original + 1, ColorStop{*original});
         ++stops.selected;
@@ -57,7 +57,7 @@ void reverse(Stops& stops) {
     for (ColorStop& stop : stops.list) {
         stop.position = 1.0 - stop.position;
     }
-    if (stops.isSelected(stops.selected)) {
+    if (stops.hasSelection()) {
         stops.selected = std::ssize(stops.list) - 1 - stops.selected;
     }
 }
@@ -80,22 +80,25 @@ void sort(Stops& stops) {
     std::ranges::stable_sort(order, {}, [&](std::int64_t place) { return stopAt(place).position; });
     std::vector<ColorStop> sorted(order.size());
     std::ranges::transform(order, sorted.begin(), stopAt);
-    if (stops.isSelected(stops.selected)) {
+    if (stops.hasSelection()) {
         stops.selected = std::ranges::find(order, stops.selected) - order.begin();
     }
     stops.list = std::move(sorted);
 }
 
 struct Tool {
+    StopTool tool;
     std::string_view name;
     void (*apply)(Stops&);
 };
 
-constexpr std::array<Tool, allStopTools.size()> tools{{{editStep::addStopInBetween, addInBetween},
-                                                       {editStep::duplicateStop, duplicate},
-                                                       {editStep::reverse, reverse},
-                                                       {editStep::distributeEvenly, distribute},
-                                                       {editStep::sortStops, sort}}};
+constexpr std::array<Tool, allStopTools.size()> tools{
+    {{StopTool::AddInBetween, editStep::addStopInBetween, addInBetween},
+     {StopTool::Duplicate, editStep::duplicateStop, duplicate},
+     {StopTool::Reverse, editStep::reverse, reverse},
+     {StopTool::Distribute, editStep::distributeEvenly, distribute},
+     {StopTool::Sort, editStep::sortStops, sort}}};
+static_assert(std::ranges::equal(tools, allStopTools, {}, &Tool::tool), "each at its place");
 
 const Tool& toolOf(StopTool tool) {
     return tools[static_cast<std::size_t>(tool)];

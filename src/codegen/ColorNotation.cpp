@@ -25,6 +25,7 @@ std::string alpha(double opacity) {
 } // namespace
 
 std::optional<std::string> colorText(std::int64_t notation, const Color& color, double opacity) {
+    static_assert(colorFormat::notations.size() == 5, "one case for each");
     switch (notation) {
     case colorFormat::hexadecimal:
         return hexadecimalText(color);

@@ -42,6 +42,8 @@ constexpr std::array dialects{
     GradientDialect{"-ms-linear-gradient", "-ms-radial-gradient", legacyPhrases},
 };
 
+static_assert(dialects.size() == declarationCount - 2, "all but the plain colour and the filter");
+
 std::string colorOf(const ColorStop& stop, std::int64_t notation) {
     return colorNotation::colorText(notation, stop.color, stop.opacity).value_or(std::string{null});
 }

@@ -1,6 +1,7 @@
 #include "codegen/PreviewFiles.h"
 
 #include "codegen/CodeText.h"
+#include "codegen/PageText.h"
 #include "codegen/WebView.h"
 #include "foundation/DiagnosticLog.h"
 #include "foundation/Utf8.h"
@@ -9,12 +10,9 @@
 
 namespace tessaly {
 
-PreviewFiles::PreviewFiles(const CodeText& page, const CodeText& stylesheet, WebView& webView,
+PreviewFiles::PreviewFiles(const CodeText& stylesheet, WebView& webView,
                            std::filesystem::path temporaryDirectory)
-    : page_{page},
-      stylesheet_{stylesheet},
-      webView_{webView},
-      temporaryDirectory_{std::move(temporaryDirectory)} {}
+    : stylesheet_{stylesheet}, webView_{webView}, temporaryDirectory_{std::move(temporaryDirectory)} {}
 
 void PreviewFiles::createHTMLIndexFile() {
     std::unique_ptr<PreviewFolder> folder = PreviewFolder::create(temporaryDirectory_);
@@ -23,7 +21,7 @@ void PreviewFiles::createHTMLIndexFile() {
     }
     folder_.swap(folder); // the one from before goes at the end
     const std::filesystem::path htmlPath = folder_->path() / PreviewFolder::pageName;
-    folder_->write(PreviewFolder::pageName, toUtf8(page_.text())); // missing, it is not in place
+    folder_->write(PreviewFolder::pageName, pageText); // missing, it is not in place
     writeStylesheet();
     DiagnosticLog::write("htmlPath: " + htmlPath.native());
     webView_.loadFile(htmlPath);

@@ -12,13 +12,12 @@ namespace tessaly {
 class CodeText;
 class WebView;
 
-/// Keeps the two files that the preview shows: the page, written once, and the stylesheet, each the text of
-/// its code view.
+/// Keeps the two files that the preview shows: the page as it is at the start, and the stylesheet as its code
+/// view has it.
 class PreviewFiles {
   public:
-    /// The views must outlive the object. The preview folder will be made in `temporaryDirectory`.
-    PreviewFiles(const CodeText& page, const CodeText& stylesheet, WebView& webView,
-                 std::filesystem::path temporaryDirectory);
+    /// Both must outlive the object. The preview folder will be made in `temporaryDirectory`.
+    PreviewFiles(const CodeText& stylesheet, WebView& webView, std::filesystem::path temporaryDirectory);
 
     /// Makes the preview folder, writes both files and loads the page. Without a folder there is no preview.
     void createHTMLIndexFile();
@@ -33,7 +32,6 @@ class PreviewFiles {
   private:
     void writeStylesheet();
 
-    const CodeText& page_;
     const CodeText& stylesheet_;
     WebView& webView_;
     std::filesystem::path temporaryDirectory_;

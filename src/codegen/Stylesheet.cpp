@@ -52,8 +52,6 @@ TextRange find(const std::u16string& wanted, std::u16string_view text, std::size
     return found == npos ? TextRange{} : TextRange{found, wanted.size()};
 }
 
-constexpr std::hash<std::u16string_view> hashOf;
-
 } // namespace
 
 void Stylesheet::insertCSS3Code(const Gradient& gradient, std::int64_t notation) {
@@ -67,7 +65,7 @@ void Stylesheet::writeAnew(const Gradient& gradient, std::int64_t notation) {
     view_.typeOver(stylesheetText(declarationTexts(gradient, notation)));
     laidOut(gradient, notation); // once what is typed has been followed
     written_ = Written{gradient, notation, view_.text().size()};
-    rememberText(); // and the one before, for an undo
+    remember(shownText()); // and the one before, for an undo
 }
 
 // Of the whole text, which is answered.
@@ -82,7 +80,8 @@ std::string Stylesheet::laidOut(const Gradient& gradient, std::int64_t notation)
 }
 
 bool Stylesheet::update(const Gradient& gradient, std::int64_t notation) {
-    if (written_ == Written{gradient, notation, view_.text().size()}) {
+    if (written_ && written_->notation == notation && written_->length == view_.text().size() &&
+        written_->gradient == gradient) {
         return false;
     }
     texts_ = declarationTexts(gradient, notation);
@@ -105,25 +104,21 @@ bool Stylesheet::update(const Gradient& gradient, std::int64_t notation) {
 void Stylesheet::written(const Gradient& gradient, std::int64_t notation) {
     written_ = Written{gradient, notation, view_.text().size()};
     knownTexts_.clear();
-    rememberText();
+    remember(shownText());
 }
 
-Stylesheet::KnownText* Stylesheet::knownText() {
+Stylesheet::TextKey Stylesheet::shownText() const {
     const std::u16string_view text = view_.text();
-    const std::size_t hash = hashOf(text);
-    const auto isText = [&](const KnownText& known) {
-        return known.hash == hash && known.length == text.size();
-    };
-    const auto known = std::ranges::find_if(knownTexts_, isText);
-    return known == knownTexts_.end() ? nullptr : &*known;
+    return {std::hash<std::u16string_view>{}(text), text.size()};
 }
 
-void Stylesheet::rememberText() {
-    if (KnownText* const known = knownText()) {
+void Stylesheet::remember(const TextKey& text) {
+    const auto known = std::ranges::find(knownTexts_, text, &KnownText::key);
+    if (known != knownTexts_.end()) {
         known->ranges = ranges_;
         return;
     }
-    knownTexts_.push_back({hashOf(view_.text()), view_.text().size(), ranges_});
+    knownTexts_.push_back({text, ranges_});
     if (knownTexts_.size() > mostKnownTexts) {
         knownTexts_.pop_front();
     }
@@ -136,7 +131,9 @@ void Stylesheet::edited(const TextEdit& edit) {
     for (const Declaration declaration : allDeclarations) {
         ranges_[declaration] = followed(before[declaration], edit);
     }
-    if (const KnownText* const known = knownText()) {
+    const TextKey shown = shownText();
+    const auto known = std::ranges::find(knownTexts_, shown, &KnownText::key);
+    if (known != knownTexts_.end()) {
         ranges_ = known->ranges; // an undo or a redo has brought the text back
         return;
     }
@@ -146,7 +143,7 @@ void Stylesheet::edited(const TextEdit& edit) {
         }
         findDeclarations(before, edit);
     }
-    rememberText();
+    remember(shown);
 }
 
 // A line feed typed at the end of a declaration's last line, before the one that ends it, takes its place:

@@ -44,21 +44,25 @@ class Stylesheet {
         Gradient gradient;
         std::int64_t notation;
         std::size_t length;
-
-        bool operator==(const Written&) const = default;
     };
 
-    /// The ranges in a text, which is known by hash and length.
-    struct KnownText {
+    /// What a text is known by.
+    struct TextKey {
         std::size_t hash;
         std::size_t length;
+
+        bool operator==(const TextKey&) const = default;
+    };
+
+    /// The ranges in a text.
+    struct KnownText {
+        TextKey key;
         DeclarationRanges ranges;
     };
     static constexpr std::size_t mostKnownTexts = 1'000;
 
-    /// None: that of the view is not known.
-    KnownText* knownText();
-    void rememberText();
+    TextKey shownText() const;
+    void remember(const TextKey& text);
     std::string laidOut(const Gradient& gradient, std::int64_t notation);
     void written(const Gradient& gradient, std::int64_t notation);
     void keepLineFeedsApart(const DeclarationRanges& before, std::size_t typedAt);

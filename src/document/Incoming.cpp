@@ -20,6 +20,10 @@ Incoming failed(std::string sentence) {
     return incoming;
 }
 
+Incoming tooLong(const std::string& source) {
+    return failed("More than " + std::to_string(longestIncoming >> 20U) + " MB in " + source + ": not read");
+}
+
 // Why nothing can be taken.
 std::string failureOf(const Reading& reading, const std::string& source) {
     if (reading.leftOut == 0) {
@@ -60,7 +64,7 @@ Incoming readPresets(const std::filesystem::path& file, const std::string& name)
 
 Incoming readIncomingText(std::string_view text, const std::string& source, const Progress& progress) {
     if (text.size() > longestIncoming) {
-        return failed("More than 16 MB in " + source + ": not read");
+        return tooLong(source);
     }
     Incoming incoming;
     if (text.size() <= longestColor) {
@@ -93,7 +97,7 @@ Incoming readIncomingFile(const std::filesystem::path& file, const Progress& pro
         return failed(name + " cannot be read");
     }
     if (size > longestIncoming) {
-        return failed("More than 16 MB in " + name + ": not read");
+        return tooLong(name);
     }
     const std::string text{std::istreambuf_iterator<char>{stream}, {}};
     return text.starts_with(databaseStart) ? readPresets(file, name) : readIncomingText(text, name, progress);

@@ -1,5 +1,7 @@
 #include "exchange/ColorSpaces.h"
 
+#include "foundation/SrgbCurve.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -49,10 +51,6 @@ Triple mapped(const Triple& channels, auto curve) {
     std::ranges::transform(channels, result.begin(),
                            [&](double c) { return std::copysign(curve(std::abs(c)), c); });
     return result;
-}
-
-double linearFromSrgb(double c) {
-    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
 }
 
 double srgbFromLinear(double c) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Character.h"
+
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -8,16 +10,15 @@
 /// be part of a name, well-formed or not.
 namespace tessaly {
 
-constexpr bool isCssBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
-}
-
 /// The text without blanks at its ends.
 constexpr std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\n\r\f";
-    const std::size_t begin = text.find_first_not_of(blanks);
-    return begin == std::string_view::npos ? std::string_view{}
-                                           : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 constexpr bool isCssLineBreak(char c) {
@@ -30,10 +31,6 @@ constexpr bool isDigit(char c) {
 
 constexpr char lowered(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-constexpr bool isLetter(char c) {
-    return lowered(c) >= 'a' && lowered(c) <= 'z';
 }
 
 /// 0 ... 15; -1: it is no hexadecimal digit.

@@ -50,9 +50,11 @@ void CssDefinitions::gather(std::string_view text) {
             scopes.pop_back();
         } else if (item->name.starts_with("--") || isCssName(item->name, "color")) {
             const std::string_view property = item->name.starts_with("--") ? item->name : "color";
-            definitions_.push_back({item->rule, property, scopes.back().isPlain, item->text});
+            Definition definition{item->rule, property, scopes.back().isPlain, item->isImportant, item->text};
+            definitions_.push_back(definition);
             if (scopes.back().isRoot) {
-                definitions_.push_back({0, property, scopes.back().isPlain, item->text});
+                definition.rule = 0;
+                definitions_.push_back(definition);
             }
         }
     }
@@ -62,7 +64,7 @@ void CssDefinitions::gather(std::string_view text) {
 std::optional<std::string_view> CssDefinitions::find(std::size_t rule, std::string_view property) {
     if (!areSorted_) {
         std::ranges::stable_sort(definitions_, {}, [](const Definition& d) {
-            return std::tuple{d.rule, d.property, d.isPlain};
+            return std::tuple{d.rule, d.property, d.isPlain, d.isImportant};
         });
         areSorted_ = true;
     }

@@ -18,7 +18,8 @@ class CssDefinitions {
     /// Adds those of a text, which must outlive this.
     void gather(std::string_view text);
 
-    /// What the last declaration of a property of that rule says; none: there is none.
+    /// What the declaration of a property of that rule says that counts: of the important ones the last, else
+    /// of all. None: there is none.
     std::optional<std::string_view> find(std::size_t rule, std::string_view property);
 
     /// The value with what its names stand for, in that rule or else in the text itself, or what the value
@@ -32,6 +33,7 @@ class CssDefinitions {
         std::size_t rule;
         std::string_view property;
         bool isPlain; ///< does not stand within an at-rule, which need not hold
+        bool isImportant;
         std::string_view value;
     };
 

@@ -1,8 +1,7 @@
 #include "exchange/CssFinder.h"
 
+#include "exchange/CssCharacter.h"
 #include "foundation/Utf8.h"
-
-#include <algorithm>
 
 namespace tessaly {
 namespace {
@@ -21,10 +20,7 @@ std::string nameOf(std::string_view selector) {
         const bool isFurtherBlank = token.kind == Kind::Blank && name.ends_with(' ');
         name += token.kind != Kind::Blank ? token.text.substr(0, longestName) : isFurtherBlank ? "" : " ";
     }
-    const auto begin = std::min(name.find_first_not_of(' '), name.size());
-    const auto end = name.find_last_not_of(' ') + 1;
-    return std::string{
-        utf8Prefix(std::string_view{name}.substr(begin, std::max(begin, end) - begin), longestName)};
+    return std::string{utf8Prefix(trimmed(name), longestName)};
 }
 
 // A value that is a string holds a filter.

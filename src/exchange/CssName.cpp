@@ -19,7 +19,7 @@ char32_t takeEscapedCharacter(std::string_view& text) {
     text.remove_prefix(digits);
     if (text.starts_with("\r\n")) {
         text.remove_prefix(2);
-    } else if (!text.empty() && isCssBlank(text.front())) {
+    } else if (!text.empty() && isBlank(text.front())) {
         text.remove_prefix(1);
     }
     return character == 0 ? replacementCharacter : character;

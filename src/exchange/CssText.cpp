@@ -24,7 +24,7 @@ bool CssText::startsNumber(std::size_t place) const {
 }
 
 std::size_t CssText::blanksEnd(std::size_t place) const {
-    while (isCssBlank(at(place))) {
+    while (isBlank(at(place))) {
         ++place;
     }
     return place;
@@ -43,7 +43,7 @@ std::size_t CssText::escapeEnd(std::size_t place) const {
     if (at(end) == '\r' && at(end + 1) == '\n') {
         return end + 2;
     }
-    return isCssBlank(at(end)) ? end + 1 : end;
+    return isBlank(at(end)) ? end + 1 : end;
 }
 
 std::size_t CssText::nameEnd(std::size_t place) const {

@@ -18,10 +18,10 @@ constexpr std::array<Start, 256> makeStarts() {
     std::array<Start, 256> starts{};
     for (std::size_t byte = 0; byte < starts.size(); ++byte) {
         const char c = static_cast<char>(static_cast<unsigned char>(byte));
-        starts[byte] = isCssBlank(c)                                   ? Start::Blank
+        starts[byte] = isBlank(c)                                      ? Start::Blank
                        : startsCssName(c)                              ? Start::Name
                        : isDigit(c)                                    ? Start::Digit
-                       : c == '"' || c == '\''                         ? Start::Quote
+                       : isQuote(c)                                    ? Start::Quote
                        : c == '+' || c == '-' || c == '.' || c == '\\' ? Start::Sign
                                                                        : Start::Mark;
     }
@@ -66,7 +66,7 @@ CssToken CssTokenizer::takeName() {
         return take(Kind::Ident, end, name);
     }
     const std::size_t argument = text_.blanksEnd(end + 1);
-    if (isCssName(name, "url") && text_.at(argument) != '"' && text_.at(argument) != '\'') {
+    if (isCssName(name, "url") && !isQuote(text_.at(argument))) {
         return takeUrl(argument);
     }
     return take(Kind::Function, end + 1, name);

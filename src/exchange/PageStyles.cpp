@@ -16,7 +16,7 @@ constexpr std::array<std::string_view, 7> rawElements{"style", "script", "textar
                                                       "xmp",   "iframe", "noembed"};
 
 bool endsTagName(char c) {
-    return isCssBlank(c) || c == '/' || c == '>';
+    return isBlank(c) || c == '/' || c == '>';
 }
 
 } // namespace
@@ -68,7 +68,7 @@ std::string_view PageStyles::readName() {
 }
 
 void PageStyles::passBlanks() {
-    while (isCssBlank(at(place_))) {
+    while (isBlank(at(place_))) {
         ++place_;
     }
 }
@@ -81,19 +81,19 @@ std::string_view PageStyles::readUntil(std::string_view end) {
 }
 
 std::string_view PageStyles::readAttributeValue() {
-    if (at(place_) == '"' || at(place_) == '\'') {
+    if (isQuote(at(place_))) {
         ++place_;
         return readUntil(page_.substr(place_ - 1, 1));
     }
     const std::size_t begin = place_;
-    while (place_ < page_.size() && !isCssBlank(page_[place_]) && page_[place_] != '>') {
+    while (place_ < page_.size() && !isBlank(page_[place_]) && page_[place_] != '>') {
         ++place_;
     }
     return page_.substr(begin, place_ - begin);
 }
 
 bool PageStyles::readAttribute() {
-    while (isCssBlank(at(place_)) || at(place_) == '/') {
+    while (isBlank(at(place_)) || at(place_) == '/') {
         ++place_;
     }
     if (place_ >= page_.size() || at(place_) == '>') {

@@ -27,8 +27,6 @@ struct Writing {
     std::error_code error{};           // of the sink
 };
 
-// What libpng calls must leave nothing to clean up when it jumps.
-
 [[noreturn]] void fail(png_structp png, png_const_charp /*message*/) {
     png_longjmp(png, 1);
 }

@@ -24,15 +24,10 @@ std::int64_t notationFor(const Gradient& gradient) {
 constexpr std::size_t columns = 10; // of the grid of squares
 constexpr std::size_t step = 72;    // a square and the gap to the next one
 
-std::string sizeText(std::size_t count) {
-    return " width=\"" + std::to_string(columns * step) + "\" height=\"" +
-           std::to_string((count + columns - 1) / columns * step) + '"';
-}
-
 std::string squareText(std::size_t index) {
-    return "<rect x=\"" + std::to_string(index % columns * step) + "\" y=\"" +
-           std::to_string(index / columns * step) + R"(" width="64" height="64" fill="url(#)" +
-           nameOf(index) + ")\"/>\n";
+    return "<rect" + svgAttribute("x", std::to_string(index % columns * step)) +
+           svgAttribute("y", std::to_string(index / columns * step)) + svgSizeText(64, 64) +
+           svgAttribute("fill", "url(#" + nameOf(index) + ')') + "/>\n";
 }
 
 } // namespace
@@ -49,14 +44,15 @@ std::string presetsCssText(std::span<const Gradient> gradients) {
 }
 
 std::string presetsSvgText(std::span<const Gradient> gradients) {
-    std::string text = "<svg xmlns=\"http://www.w3.org/2000/svg\"" + sizeText(gradients.size()) + ">\n";
+    std::string text;
     for (std::size_t i = 0; i < gradients.size(); ++i) {
         if (!gradients[i].stops().empty()) {
             text += svgGradientText(nameOf(i), gradients[i], GradientRamp::Opacity::Drawn, std::nullopt);
             text += squareText(i);
         }
     }
-    return text + "</svg>\n";
+    const std::size_t rows = (gradients.size() + columns - 1) / columns;
+    return svgDocumentText(columns * step, static_cast<std::int64_t>(rows * step), text);
 }
 
 } // namespace tessaly

@@ -20,23 +20,6 @@ double moved(double position, StopTrack track) {
     return track == StopTrack{} ? position : tidied(track.start + position * (track.end - track.start));
 }
 
-// The colour that a browser has on the way from one to the other, 0 ... 1.
-ReadColor mixed(const ReadColor& from, const ReadColor& to, double way, StopMixing mixing) {
-    const double alpha = from.alpha + (to.alpha - from.alpha) * way;
-    const bool isPlain = mixing == StopMixing::Plain;
-    if (alpha <= 0.0 && !isPlain) {
-        return {from.color, 0.0};
-    }
-    const RGBAComponents a = from.color.calibratedRGB().value_or(RGBAComponents{});
-    const RGBAComponents b = to.color.calibratedRGB().value_or(RGBAComponents{});
-    const auto channel = [&](double start, double end) {
-        return isPlain ? start + (end - start) * way
-                       : (start * from.alpha * (1 - way) + end * to.alpha * way) / alpha;
-    };
-    return {Color::calibratedRGB(channel(a.red, b.red), channel(a.green, b.green), channel(a.blue, b.blue)),
-            alpha};
-}
-
 bool isInside(double position) {
     return position >= 0.0 && position <= 1.0;
 }

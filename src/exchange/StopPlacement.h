@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exchange/CssColor.h"
+#include "exchange/StopMixing.h"
 #include "model/ColorStop.h"
 
 #include <span>
@@ -22,9 +23,6 @@ struct StopTrack {
 
     bool operator==(const StopTrack&) const = default;
 };
-
-/// How the colours between two stops are found: by their opacity, as CSS does, or as they are, as SVG does.
-enum class StopMixing { Premultiplied, Plain };
 
 /// Where the stops of a gradient are, as a browser finds it: positions that are left out are spread, one
 /// below an earlier one is drawn at that one. Stands in for what a gradient here cannot say.

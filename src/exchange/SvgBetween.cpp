@@ -1,5 +1,7 @@
 #include "exchange/SvgBetween.h"
 
+#include "exchange/StopMixing.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -8,30 +10,19 @@ namespace {
 
 constexpr double unseen = 1.0 / 512.0; // half a level
 
-RGBAComponents componentsOf(const ColorStop& stop) {
-    return stop.color.calibratedRGB().value_or(RGBAComponents{});
-}
-
-double distance(const RGBAComponents& a, const RGBAComponents& b) {
-    return std::max({std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue)});
-}
-
 // What CSS shows where the opacity between the two has come to that value.
-ColorStop mixed(const ColorStop& before, const ColorStop& after, double opacity) {
+ColorStop stopAt(double opacity, const ColorStop& before, const ColorStop& after) {
     const double way = (opacity - before.opacity) / (after.opacity - before.opacity);
-    const double share = way * after.opacity / opacity;
-    const RGBAComponents a = componentsOf(before);
-    const RGBAComponents b = componentsOf(after);
-    const auto mix = [share](double from, double to) { return from + share * (to - from); };
-    return {std::clamp(before.position + way * (after.position - before.position), before.position,
-                       after.position),
-            Color::calibratedRGB(mix(a.red, b.red), mix(a.green, b.green), mix(a.blue, b.blue)), opacity};
+    const double position = before.position + way * (after.position - before.position);
+    const ReadColor shown =
+        mixed({before.color, before.opacity}, {after.color, after.opacity}, way, StopMixing::Premultiplied);
+    return {std::clamp(position, before.position, after.position), shown.color, opacity};
 }
 
 } // namespace
 
 std::vector<ColorStop> stopsBetween(const ColorStop& before, const ColorStop& after) {
-    const double colors = distance(componentsOf(before), componentsOf(after));
+    const double colors = colorDistance(before.color, after.color);
     const double opacities = std::abs(before.opacity - after.opacity);
     // Of two stops the one is off by s (1 - s) times the product of both differences, at most a quarter of
     // it.
@@ -54,7 +45,7 @@ std::vector<ColorStop> stopsBetween(const ColorStop& before, const ColorStop& af
     const int pieces = std::max(static_cast<int>(std::ceil(std::abs(ratio) / largestRatio)), 2);
     std::vector<ColorStop> stops;
     for (int piece = 1; piece < pieces; ++piece) {
-        stops.push_back(mixed(before, after, before.opacity * std::exp(ratio * piece / pieces)));
+        stops.push_back(stopAt(before.opacity * std::exp(ratio * piece / pieces), before, after));
     }
     return stops;
 }

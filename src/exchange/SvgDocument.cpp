@@ -38,15 +38,6 @@ std::optional<bool> isRepeated(std::string_view method) {
     return method == "reflect" ? std::optional{true} : choice(method, "pad", "repeat");
 }
 
-bool isHelper(std::string_view classes) {
-    while (const auto name = takeWord(classes)) {
-        if (*name == helperClass) {
-            return true;
-        }
-    }
-    return false;
-}
-
 // What Tessaly holds beside the bytes that it wrote, unless the bytes are others by now.
 Color heldColor(std::string_view held, const Color& written) {
     std::array<double, 3> channels{};
@@ -132,7 +123,7 @@ void SvgDocument::addGradient(bool isRadial, const XmlAttributes& attributes) {
 
 void SvgDocument::addStop(const XmlAttributes& attributes) {
     SvgGradient& gradient = gradients_.back();
-    if (isHelper(valueOr(attributes, "class"))) {
+    if (hasWord(valueOr(attributes, "class"), helperClass)) {
         if (gradient.stopCount > 0) {
             stops_.back().isHelped = true;
         }

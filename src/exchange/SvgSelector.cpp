@@ -7,20 +7,7 @@
 #include <algorithm>
 
 namespace tessaly {
-namespace {
-
 using Kind = CssToken::Kind;
-
-bool isOneOf(std::string_view classes, std::string_view name) {
-    while (const auto word = takeWord(classes)) {
-        if (*word == name) {
-            return true;
-        }
-    }
-    return false;
-}
-
-} // namespace
 
 SvgSelector::SvgSelector(std::string_view text) {
     CssTokenizer tokens{text};
@@ -72,7 +59,7 @@ std::string SvgSelector::key() const {
 
 bool SvgSelector::Step::matches(const SvgElement& element) const {
     return (name.empty() || name == element.name) && (id.empty() || id == element.id) &&
-           std::ranges::all_of(classes, [&](const std::string& c) { return isOneOf(element.classes, c); });
+           std::ranges::all_of(classes, [&](const std::string& c) { return hasWord(element.classes, c); });
 }
 
 bool SvgSelector::matches(SvgPath path) const {

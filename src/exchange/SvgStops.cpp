@@ -25,12 +25,9 @@ bool isMixingSeen(std::span<const SvgStop> stops, StopTrack track) {
         if (a.isHelped || way <= 0.0) {
             return false;
         }
-        const RGBAComponents one = a.color.color.calibratedRGB().value_or(RGBAComponents{});
-        const RGBAComponents other = b.color.color.calibratedRGB().value_or(RGBAComponents{});
-        const double distance = std::max({std::abs(one.red - other.red), std::abs(one.green - other.green),
-                                          std::abs(one.blue - other.blue)});
+        const double colors = colorDistance(a.color.color, b.color.color);
         const double share = way / (b.position - a.position);
-        return distance * std::abs(a.color.alpha - b.color.alpha) * share * share > seen;
+        return colors * std::abs(a.color.alpha - b.color.alpha) * share * share > seen;
     };
     return std::ranges::adjacent_find(stops, differs) != stops.end();
 }

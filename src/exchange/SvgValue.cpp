@@ -8,17 +8,26 @@
 
 namespace tessaly {
 void skipSeparators(std::string_view& text) {
-    while (!text.empty() && (text.front() == ',' || isCssBlank(text.front()))) {
+    while (!text.empty() && (text.front() == ',' || isBlank(text.front()))) {
         text.remove_prefix(1);
     }
 }
 
 std::optional<std::string_view> takeWord(std::string_view& text) {
     text = trimmed(text);
-    const auto end = std::ranges::find_if(text, isCssBlank);
+    const auto end = std::ranges::find_if(text, isBlank<char>);
     const std::string_view word = text.substr(0, static_cast<std::size_t>(end - text.begin()));
     text.remove_prefix(word.size());
     return word.empty() ? std::nullopt : std::optional{word};
+}
+
+bool hasWord(std::string_view text, std::string_view word) {
+    while (const auto taken = takeWord(text)) {
+        if (*taken == word) {
+            return true;
+        }
+    }
+    return false;
 }
 
 std::optional<double> takeNumber(std::string_view& text) {

@@ -11,6 +11,9 @@ void skipSeparators(std::string_view& text);
 /// Takes the next word, which ends at a blank, off the front of the text.
 std::optional<std::string_view> takeWord(std::string_view& text);
 
+/// Whether that is one of the words of the text.
+bool hasWord(std::string_view text, std::string_view word);
+
 /// Takes a number off the front of the text. None: no finite one stands there, and the text stays.
 std::optional<double> takeNumber(std::string_view& text);
 

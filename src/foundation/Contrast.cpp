@@ -1,18 +1,15 @@
 #include "foundation/Contrast.h"
 
+#include "foundation/SrgbCurve.h"
+
 #include <algorithm>
-#include <cmath>
 
 namespace tessaly {
 namespace {
 
-double linear(double component) {
-    constexpr double straightEnd = 0.04045; // below it the curve of sRGB is a line
-    return component <= straightEnd ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
-}
-
 double luminance(const RGBAComponents& color) {
-    return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
+    return 0.2126 * linearFromSrgb(color.red) + 0.7152 * linearFromSrgb(color.green) +
+           0.0722 * linearFromSrgb(color.blue);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "sourceview/CssLexer.h"
 
-#include "sourceview/CodeCharacter.h"
+#include "foundation/Character.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "sourceview/HtmlLexer.h"
 
-#include "sourceview/CodeCharacter.h"
+#include "foundation/Character.h"
 
 #include <algorithm>
 #include <utility>
@@ -8,8 +8,14 @@
 namespace tessaly {
 namespace {
 
-constexpr std::u16string_view endsOfName = u" \t\n\r\f=/>\"'";
-constexpr std::u16string_view endsOfValue = u" \t\n\r\f>"; // of one without quotes
+bool endsName(char16_t c) {
+    return isBlank(c) || isQuote(c) || c == u'=' || c == u'/' || c == u'>';
+}
+
+// A value without quotes.
+bool endsValue(char16_t c) {
+    return isBlank(c) || c == u'>';
+}
 
 } // namespace
 
@@ -30,7 +36,7 @@ std::optional<CodeStretch> HtmlLexer::nextInText() {
     if (startsTag(at_ + 1)) {
         isInTag_ = true;
         isValueNext_ = false;
-        return take(endOf(endsOfName, at_ + 2), CodeRole::Name);
+        return take(endOf(endsName, at_ + 2), CodeRole::Name);
     }
     ++at_;
     return std::nullopt;
@@ -51,8 +57,8 @@ std::optional<CodeStretch> HtmlLexer::nextInTag() {
         isInTag_ = c != u'>';
         return take(at_ + 1, CodeRole::Name);
     }
-    return isValue ? take(endOf(endsOfValue, at_), CodeRole::Value)
-                   : take(endOf(endsOfName, at_), CodeRole::Property);
+    return isValue ? take(endOf(endsValue, at_), CodeRole::Value)
+                   : take(endOf(endsName, at_), CodeRole::Property);
 }
 
 CodeStretch HtmlLexer::take(std::size_t end, CodeRole role) {
@@ -66,8 +72,10 @@ std::size_t HtmlLexer::behind(std::u16string_view closing, std::size_t from) con
     return end == std::u16string_view::npos ? text_.size() : end + closing.size();
 }
 
-std::size_t HtmlLexer::endOf(std::u16string_view ends, std::size_t from) const {
-    return std::min(text_.find_first_of(ends, from), text_.size());
+std::size_t HtmlLexer::endOf(bool (*ends)(char16_t), std::size_t from) const {
+    const std::u16string_view rest = text_.substr(from);
+    const auto end = std::ranges::find_if(rest, ends);
+    return from + static_cast<std::size_t>(end - rest.begin());
 }
 
 // What stands behind a less-than sign.

@@ -25,7 +25,7 @@ class HtmlLexer {
     std::optional<CodeStretch> nextInTag();
     CodeStretch take(std::size_t end, CodeRole role);
     std::size_t behind(std::u16string_view closing, std::size_t from) const;
-    std::size_t endOf(std::u16string_view ends, std::size_t from) const;
+    std::size_t endOf(bool (*ends)(char16_t), std::size_t from) const;
     bool startsTag(std::size_t place) const;
 
     std::u16string_view text_;

@@ -45,8 +45,7 @@ TEST(StopTools, RearrangeTheStopsAndTakeTheSelectionAlong) {
 TEST(StopTools, AddAStopInBetweenThatCannotBeSeen) {
     const std::vector<ColorStop> stops{{0.0, red, 0.5}, {0.5, blue}, {1.0, green, 0.0}};
     for (const std::int64_t notation : {colorFormat::rgba, colorFormat::hexadecimal}) {
-        const auto opacity = colorFormat::carriesOpacity(notation) ? GradientRamp::Opacity::Drawn
-                                                                   : GradientRamp::Opacity::Ignored;
+        const auto opacity = GradientRamp::opacityIn(notation);
         const GradientRamp before{stops, opacity};
         for (const std::int64_t selected : {0, 1, 2}) {
             const auto result = appliedTo(record(stops, notation), selected, StopTool::AddInBetween);

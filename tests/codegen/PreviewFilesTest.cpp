@@ -1,5 +1,6 @@
 #include "codegen/PreviewFiles.h"
 
+#include "codegen/PageText.h"
 #include "codegen/WebView.h"
 #include "support/FakeCodeText.h"
 #include "support/FileSizeLimit.h"
@@ -32,22 +33,20 @@ class PreviewFilesTest : public testing::Test {
     const LogCapture log;
     const TemporaryFolder temporary;
     const fs::path first = temporary.path / "WebFolder0", second = temporary.path / "WebFolder1";
-    FakeCodeText html, css;
+    FakeCodeText css;
     FakeWebView web;
-    std::optional<PreviewFiles> files{std::in_place, html, css, web, temporary.path};
+    std::optional<PreviewFiles> files{std::in_place, css, web, temporary.path};
 };
 
 TEST_F(PreviewFilesTest, lieInTheFirstFreeFolderAndGoWithItAtTheEnd) {
     fs::create_symlink("nowhere", first);
-    html.contents = u"the page";
     files->createHTMLIndexFile();
     EXPECT_EQ(fs::status(second).permissions(), fs::perms::owner_all);
     EXPECT_EQ(web.loaded, second / "index.html");
-    html.contents = u"edited by hand";
     update(u"changed");
     EXPECT_EQ(contentsOf(second / "styles.css"), "changed");
     EXPECT_EQ(web.reloads, 1);
-    EXPECT_EQ(contentsOf(second / "index.html"), "the page") << "never rewritten";
+    EXPECT_EQ(contentsOf(second / "index.html"), pageText);
     EXPECT_TRUE(files->isAsWritten());
     std::ofstream{second / "styles.css"} << "another";
     EXPECT_FALSE(files->isAsWritten()) << "somebody else wrote it, in as many bytes";
@@ -56,7 +55,7 @@ TEST_F(PreviewFilesTest, lieInTheFirstFreeFolderAndGoWithItAtTheEnd) {
 }
 
 TEST_F(PreviewFilesTest, areMissingWhenTheDiskRefusesAndNothingElseIs) {
-    PreviewFiles{html, css, web, temporary.path / "missing"}.createHTMLIndexFile();
+    PreviewFiles{css, web, temporary.path / "missing"}.createHTMLIndexFile();
     EXPECT_TRUE(lastLogged("No preview folder: "));
     EXPECT_EQ(web.loaded, "");
     css.contents = u"old";
@@ -65,14 +64,14 @@ TEST_F(PreviewFilesTest, areMissingWhenTheDiskRefusesAndNothingElseIs) {
     EXPECT_FALSE(files->isAsWritten()) << "there is none";
     full.reset();
     update(u"old");
-    EXPECT_TRUE(files->isAsWritten());
-    fs::remove(first / "styles.css");
-    fs::create_directories(first / "styles.css" / "theirs");
+    EXPECT_TRUE(files->isAsWritten()) << "in another folder";
+    fs::remove(second / "styles.css");
+    fs::create_directories(second / "styles.css" / "theirs");
     update(u"new");
     EXPECT_TRUE(lastLogged("Preview file not written: "));
     EXPECT_FALSE(files->isAsWritten()) << "to be tried again";
     files.reset();
-    EXPECT_TRUE(fs::exists(first / "styles.css" / "theirs"));
+    EXPECT_TRUE(fs::exists(second / "styles.css" / "theirs"));
 }
 
 TEST_F(PreviewFilesTest, areMadeAnewWhenTheirFolderIsTakenAwayAndNothingInItsPlaceIsTouched) {

@@ -77,13 +77,14 @@ TEST(CssFinder, findsWhatIsInAStylesheet) {
 
 TEST(CssFinder, putsInWhatATextDefines) {
     expectAll({
-        {"a { background: linear-gradient(90deg, currentColor, #bbb); color: #aaa !important }", "a: AB"},
+        {"a { background: linear-gradient(90deg, currentColor, #bbb); color: #aaa !important; color: red }",
+         "a: AB"},
         {"color: #aaa; background: linear-gradient(90deg, currentcolor, #bbb)", "AB"},
         {"a { color: #aaa } b { background: linear-gradient(currentcolor, #bbb) }", ""},
         {"<p style='background: linear-gradient(90deg, currentColor, #bbb); color: #aaa'>", "AB"},
         {"a { background: linear-gradient(calc(2 * VAR(--w)), var(--a), var(--n, var(--m, #bbb))) }"
          "/* all */ b, :root { --w: 45deg; --a: var(--c); --c: #aaa } i { --c: red }"
-         "@media print { :root { --a: red } }",
+         "@media print { :root { --a: red !important } }",
          "a: AB"},
         {":root { --a: red; --d: var(--d) } a { background: linear-gradient(90deg,var(--a),var(--b)); --a: "
          "#aaa;"

@@ -1,5 +1,6 @@
 #include "codegen/StylesheetText.h"
 #include "exchange/CssReader.h"
+#include "support/Gradients.h"
 #include "support/SameGradient.h"
 
 #include <gtest/gtest.h>
@@ -19,26 +20,14 @@ void expectSame(const std::string& text, const Gradient& gradient, std::int64_t 
     EXPECT_TRUE(isSameButForDigits(found.gradient, gradient, notation)) << text;
 }
 
-// Some stops share a position, some channels are full or 0.
-Gradient randomGradient(std::mt19937& random, std::int64_t orientation) {
-    std::uniform_real_distribution<double> fraction{0.0, 1.0};
-    std::vector<ColorStop> stops(std::uniform_int_distribution<std::size_t>{1, 50}(random));
-    const auto channel = [&] { return std::clamp(fraction(random) * 1.2 - 0.1, 0.0, 1.0); };
-    for (ColorStop& stop : stops) {
-        const bool repeats = &stop != &stops.front() && fraction(random) < 0.2;
-        const double position = repeats ? (&stop)[-1].position : fraction(random);
-        stop = {position, Color::calibratedRGB(channel(), channel(), channel()), fraction(random)};
-    }
-    return Gradient{std::move(stops), orientation};
-}
-
 TEST(CssRoundTrip, readsWhatTheProgramWrites) {
     std::mt19937 random{7};
     for (int round = 0; round < 40 && !testing::Test::HasFailure(); ++round) {
         for (std::int64_t orientation = orientation::bottomToTop; orientation <= orientation::radial;
              ++orientation) {
             for (std::int64_t notation = 0; notation < std::ssize(colorFormat::notations); ++notation) {
-                const Gradient gradient = randomGradient(random, orientation);
+                Gradient gradient = randomGradient(random);
+                gradient.setOrientation(orientation);
                 const auto texts = declarationTexts(gradient, notation);
                 using enum Declaration;
                 const bool isSorted = std::ranges::is_sorted(gradient.stops(), {}, &ColorStop::position);

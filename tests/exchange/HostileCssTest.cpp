@@ -1,4 +1,5 @@
 #include "exchange/CssReader.h"
+#include "support/Repeated.h"
 
 #include <gtest/gtest.h>
 
@@ -6,14 +7,6 @@ namespace tessaly {
 namespace {
 
 constexpr std::size_t megabyte = 1U << 20U;
-
-std::string repeated(std::string_view piece, std::size_t count) {
-    std::string text;
-    for (std::size_t i = 0; i < count; ++i) {
-        text += piece;
-    }
-    return text;
-}
 
 TEST(HostileCss, isAnswered) {
     const std::vector<std::pair<std::string, std::size_t>> rows{

@@ -3,6 +3,7 @@
 #include "foundation/NumberText.h"
 #include "model/ColorConversion.h"
 #include "raster/GradientRaster.h"
+#include "support/Repeated.h"
 
 #include <algorithm>
 #include <cmath>
@@ -246,13 +247,6 @@ TEST(SvgReaderTest, paintsTheSamePictureInASquareBox) {
 }
 
 TEST(SvgReaderTest, answersToAnythingWithoutGrowing) {
-    const auto times = [](std::size_t count, const std::string& text) {
-        std::string all;
-        for (std::size_t i = 0; i < count; ++i) {
-            all += text;
-        }
-        return all;
-    };
     const std::string good = svg(linear(""));
     const std::string entities =
         "<!DOCTYPE svg [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;'>]>";
@@ -261,18 +255,18 @@ TEST(SvgReaderTest, answersToAnythingWithoutGrowing) {
              entities + svg(linear("id='&b;'")), "<!-- " + good,
              "<!DOCTYPE svg [<!ENTITY a SYSTEM 'file:///etc/passwd'>]>" + svg(linear("") + "&a;"),
              svg(linear("id='\xED\xA0\x80'")), svg(linear("") + std::string(1, '\0')),
-             svg(times(100'000, "<g>")), times(100'000, "<"), times(100'000, "<svg><!--"),
-             times(100'000, "<svg"), times(100'000, "<svg a='")}) {
+             svg(repeated("<g>", 100'000)), repeated("<", 100'000), repeated("<svg><!--", 100'000),
+             repeated("<svg", 100'000), repeated("<svg a='", 100'000)}) {
         EXPECT_TRUE(readSvgGradients(none).gradients.empty()) << none.substr(0, 100);
     }
     for (const std::string& one : std::vector<std::string>{
              "<!DOCTYPE svg PUBLIC 'a' 'http://127.0.0.1:1/none.dtd'>" + good,
              "<!DOCTYPE svg [<!ENTITY % a SYSTEM 'file:///etc/passwd'>%a;]>" + good,
-             svg(times(100'000, "<g>") + linear("", "<stop/>") + times(100'000, "</g>")),
+             svg(repeated("<g>", 100'000) + linear("", "<stop/>") + repeated("</g>", 100'000)),
              svg(linear("id='" + std::string(10'000'000, 'a') + "'")),
-             svg(linear("") + "<style>" + times(1'000'000, "({[") + "</style>"),
-             svg(linear("", "<stop class='" + times(3000, "a ") + "' stop-color='currentColor'/>") +
-                 "<style>" + times(3000, ".b .a{stop-color:red}") + "</style>")}) {
+             svg(linear("") + "<style>" + repeated("({[", 1'000'000) + "</style>"),
+             svg(linear("", "<stop class='" + repeated("a ", 3000) + "' stop-color='currentColor'/>") +
+                 "<style>" + repeated(".b .a{stop-color:red}", 3000) + "</style>")}) {
         EXPECT_EQ(readSvgGradients(one).gradients.size(), 1U) << one.substr(0, 100);
     }
 
@@ -285,11 +279,11 @@ TEST(SvgReaderTest, answersToAnythingWithoutGrowing) {
     for (int i = 1; i < 10'000; ++i) {
         chain += linear("id='" + std::to_string(i) + "' href='#" + std::to_string(i - 1) + "'", "");
     }
-    const std::string ownStops = linear("id='s'", times(10'001, "<stop/>"));
+    const std::string ownStops = linear("id='s'", repeated("<stop/>", 10'001));
     for (const auto& [text, gradients, stops] : std::vector<Limit>{
              {chain + linear("id='too-many'"), 10'000, 2},
              {ownStops, 1, 10'000},
-             {ownStops + times(100, linear("href='#s'", "")), 25, 10'000},
+             {ownStops + repeated(linear("href='#s'", ""), 100), 25, 10'000},
              {linear("") + "<!--" + std::string(16 << 20, 'a'), 1, 2},
          }) {
         const auto reading = readSvgGradients(svg(text));

@@ -3,9 +3,9 @@
 #include "exchange/Readers.h"
 #include "exchange/SvgWriter.h"
 #include "model/ColorFormat.h"
+#include "support/Gradients.h"
 
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -13,23 +13,6 @@ namespace tessaly {
 namespace {
 
 using Opacity = GradientRamp::Opacity;
-
-// Unsorted, some stops at one position, some unseen or opaque, colors of bytes and between them.
-Gradient randomGradient(std::mt19937& random) {
-    std::uniform_real_distribution<double> fraction{0.0, 1.0};
-    const auto channel = [&] {
-        const double value = std::clamp(fraction(random) * 1.2 - 0.1, 0.0, 1.0);
-        return fraction(random) < 0.5 ? static_cast<float>(std::lround(value * 255)) / 255.0F : value;
-    };
-    std::vector<ColorStop> stops(std::uniform_int_distribution<std::size_t>{1, 20}(random));
-    for (ColorStop& stop : stops) {
-        const bool repeats = &stop != &stops.front() && fraction(random) < 0.2;
-        const double opacity = fraction(random) * (fraction(random) < 0.2 ? 1e-6 : 1.2);
-        stop = {repeats ? (&stop)[-1].position : fraction(random),
-                Color::calibratedRGB(channel(), channel(), channel()), std::min(opacity, 1.0)};
-    }
-    return Gradient{stops, std::uniform_int_distribution<std::int64_t>{0, orientation::radial}(random)};
-}
 
 Gradient opaque(const Gradient& gradient) {
     std::vector<ColorStop> stops = gradient.stops();

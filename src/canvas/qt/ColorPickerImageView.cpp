@@ -2,6 +2,7 @@
 
 #include "canvas/CanvasNotification.h"
 #include "foundation/NotificationCenter.h"
+#include "foundation/qt/KeptKeys.h"
 #include "model/qt/ColorBridge.h"
 
 #include <QColorDialog>
@@ -122,7 +123,7 @@ bool ColorPickerImageView::eventFilter(QObject* watched, QEvent* event) {
         Q_EMIT pickingGivenUp(); // and then the panel closes
     }
     // All that is typed in the panel is picked at once: what takes it back is the document's.
-    const bool isStep = key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+    const bool isStep = isHistoryKey(key);
     if (isStep && watched != colorPanel_) {
         event->ignore();
     }

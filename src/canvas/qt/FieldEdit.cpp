@@ -38,12 +38,10 @@ bool FieldEdit::event(QEvent* event) {
     if (keepKeys(*event, {Qt::Key_Insert}) || leaveKeys(*event)) {
         return true;
     }
-    if (event->type() == QEvent::ShortcutOverride && QLineEdit::text() == shown_) {
-        const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) {
-            event->ignore();
-            return true;
-        }
+    if (event->type() == QEvent::ShortcutOverride && QLineEdit::text() == shown_ &&
+        isHistoryKey(static_cast<const QKeyEvent&>(*event))) {
+        event->ignore();
+        return true;
     }
     return QLineEdit::event(event);
 }

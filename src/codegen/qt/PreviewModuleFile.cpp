@@ -44,7 +44,13 @@ LoadedPreviewModule loadPreviewModule(const QString& path) {
     }
     provideShareContext();
     QObject* const instance = loader.instance();
-    return {qobject_cast<PreviewModule*>(instance), instance == nullptr ? loader.errorString() : QString{}};
+    if (instance == nullptr) {
+        return {nullptr, loader.errorString()};
+    }
+    auto* const module = qobject_cast<PreviewModule*>(instance);
+    return {module, module == nullptr
+                        ? QCoreApplication::translate("Preview", "%1 holds no preview").arg(path)
+                        : QString{}};
 }
 
 } // namespace tessaly

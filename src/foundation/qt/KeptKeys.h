@@ -20,6 +20,10 @@ inline bool keepKeys(QEvent& event, std::initializer_list<int> keys) {
     return kept;
 }
 
+inline bool isHistoryKey(const QKeyEvent& key) {
+    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+}
+
 /// Leaves keys to the menus that a text would take for itself on some desktops: Ctrl+D and Ctrl+E. To be
 /// called first in `event`.
 inline bool leaveKeys(QEvent& event) {

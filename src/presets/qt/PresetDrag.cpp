@@ -74,11 +74,13 @@ void PresetDrag::follow(const QMouseEvent& event) {
 
 // At the edge of what is to be seen the thumbnails move under the hand.
 void PresetDrag::scroll() {
-    point_ = container_.mapFromGlobal(hand_);
+    const QPointF point = container_.mapFromGlobal(hand_);
+    if (std::exchange(point_, point) != point) {
+        container_.update();
+    }
     const QRect seen = container_.visibleRegion().boundingRect();
     const int y = std::clamp(qRound(point_.y()), seen.top() - scrollReach, seen.bottom() + scrollReach);
     Q_EMIT toBeSeen({seen.left(), y, 1, 1});
-    container_.update();
 }
 
 void PresetDrag::finish() {
@@ -106,7 +108,7 @@ std::optional<PresetSlotGeometry::Landing> PresetDrag::landing() const {
     return gallery_->slots().landingOf(held_, {point_.x(), point_.y()}, gallery_->presetGradient().size());
 }
 
-void PresetDrag::paint(QPainter& painter, const PresetSheet& sheet, const QColor& markColor) const {
+void PresetDrag::paint(QPainter& painter, PresetSheet& sheet, const QColor& markColor) const {
     if (!isUnderWay_) {
         return;
     }

@@ -253,6 +253,12 @@ TEST_F(CommandsTest, takesWhatIsPastedDroppedAndTypedOrSaysWhyNot) {
     EXPECT_EQ(presets(), 2);
     EXPECT_TRUE(item(u"Undo Add to Presets"_s).isEnabled());
     EXPECT_EQ(code(), taken);
+
+    const std::string file = temporary.path / "one.css";
+    std::ofstream{file} << "background: linear-gradient(37deg, red, blue)";
+    dropped.setUrls({QUrl::fromLocalFile(QString::fromStdString(file)), QUrl::fromLocalFile(u"/other"_s)});
+    Q_EMIT window().dropped(dropped);
+    EXPECT_EQ(message(), u"37° taken as 45°; 1 more file(s) left out"_s);
 }
 
 TEST_F(CommandsTest, listensToItsOwnTabs) {

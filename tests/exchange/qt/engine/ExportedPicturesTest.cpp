@@ -79,8 +79,7 @@ int levelsOff(const QImage& one, const QImage& other) {
 }
 
 void expectSamePictures(BoxPage& page, const Gradient& gradient, std::int64_t notation, QSize size) {
-    const auto opacity =
-        colorFormat::carriesOpacity(notation) ? GradientRamp::Opacity::Drawn : GradientRamp::Opacity::Ignored;
+    const auto opacity = GradientRamp::opacityIn(notation);
     const std::array contents{standardValueText(gradient, notation),
                               svgPictureText(gradient, opacity, size.width(), size.height())};
     const std::vector<BoxPage::Picture> painted = page.paint(contents);
@@ -101,6 +100,23 @@ TEST_P(ExportedPictures, areWhatTheEnginePaints) {
         const std::int64_t notation = i % 4 == 3 ? colorFormat::hexadecimal : colorFormat::rgba;
         const std::int64_t orientation = i % (orientation::radial + 1);
         expectSamePictures(page, randomGradient(random, orientation, notation), notation, GetParam());
+    }
+}
+
+// In numbers that every notation holds.
+TEST(ExportedPicture, isWhatTheEnginePaintsInEveryOrientationAndNotation) {
+    constexpr QSize size{400, 236};
+    BoxPage page{size, 1, 2};
+    ASSERT_TRUE(page.open());
+    Gradient gradient{{{0.1, Color::calibratedRGB(1.0, 0.2, 0.0)},
+                       {0.25, Color::white(), 0.5},
+                       {0.6, Color::black(), 0.2},
+                       {0.999, Color::calibratedRGB(0.0, 0.2, 0.4), 0.8}}};
+    for (std::int64_t orientation = 0; orientation <= orientation::radial; ++orientation) {
+        gradient.setOrientation(orientation);
+        for (std::int64_t notation = 0; notation < std::ssize(colorFormat::notations); ++notation) {
+            expectSamePictures(page, gradient, notation, size);
+        }
     }
 }
 
