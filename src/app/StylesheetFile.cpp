@@ -96,7 +96,7 @@ std::error_code StylesheetFile::write(SavedFile& file, AtomicFile::Durability du
 
 QString StylesheetFile::tell(const SavedFile& file, std::error_code error) {
     const bool isTheirs = error == UserFileError::ChangedByOthers;
-    const QString told =
+    QString told =
         tellSaved(file.path(), error) + (isTheirs ? tr("; Save Stylesheet As replaces it") : QString{});
     window_.views().message->say(told);
     return told;

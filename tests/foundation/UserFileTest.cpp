@@ -54,9 +54,11 @@ TEST(UserFile, tellsEveryFailureAndLeavesTheOldFileWhole) {
         fs::permissions(folder / name, fs::perms::owner_read | fs::perms::owner_exec);
     }
     const auto full = [] { return limitFileSize(4096); };
-    const auto failingSync = [] {
-        FailingDisk::failAt(2, {EIO, false}); // the folder is opened before
-        return std::shared_ptr<void>{};
+    const auto failing = [](int error) {
+        return [error] {
+            FailingDisk::failAt(2, {error, false}); // the folder is opened before
+            return std::shared_ptr<void>{};
+        };
     };
     struct Row {
         const char* file;
@@ -74,7 +76,9 @@ TEST(UserFile, tellsEveryFailureAndLeavesTheOldFileWhole) {
                            {"in/new.css", std::errc::permission_denied},
                            {"old.css", std::errc::file_too_large, full},
                            {"new.css", std::errc::file_too_large, full},
-                           {"old.css", std::errc::io_error, failingSync}}) {
+                           {"old.css", std::errc::io_error, failing(EIO)},
+                           {"old.css", std::errc::no_space_on_device, failing(ENOSPC)},
+                           {"old.css", std::errc::read_only_file_system, failing(EROFS)}}) {
         auto fault = row.fault();
         EXPECT_EQ(writeUserFile(folder / row.file, large, Durability::Forced), row.expected) << row.file;
         fault.reset();
