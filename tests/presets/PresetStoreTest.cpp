@@ -109,6 +109,17 @@ TEST_F(PresetStoreTest, goesOnAfterAFailedMainRowAlone) {
     EXPECT_EQ(rows, (std::vector<std::vector<std::string>>{{"", wide, "0"}, {"", wide, "1"}}));
 }
 
+TEST_F(PresetStoreTest, savesNothingWhereWhatWasThereCannotGo) {
+    PresetProgram program = start();
+    program.gallery.addGradientIntoPreset();
+    program.store.executeSQL(
+        "create trigger a before delete on AdditionalTable begin select raise(abort, 'stays'); end");
+    program.gallery.addGradientIntoPreset();
+    EXPECT_TRUE(log.has("Error delete data!"));
+    EXPECT_EQ(log.messages.back(), "Presets not saved: stays");
+    EXPECT_EQ(shell("select count(*) from AdditionalTable"), "2\n") << "none with the stops of another";
+}
+
 TEST_F(PresetStoreTest, worksOnWithoutADatabase) {
     std::ofstream{support.path / "deep"} << "in the way";
     PresetProgram program = start();
