@@ -3,18 +3,15 @@
 /// Classes of characters, independent of the locale; of the units of UTF-8 and of UTF-16.
 namespace tessaly {
 
-template <typename Unit>
-constexpr bool isBlank(Unit c) {
+constexpr bool isBlank(auto c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
 }
 
-template <typename Unit>
-constexpr bool isQuote(Unit c) {
+constexpr bool isQuote(auto c) {
     return c == '"' || c == '\'';
 }
 
-template <typename Unit>
-constexpr bool isLetter(Unit c) {
+constexpr bool isLetter(auto c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 

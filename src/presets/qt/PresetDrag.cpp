@@ -108,7 +108,7 @@ std::optional<PresetSlotGeometry::Landing> PresetDrag::landing() const {
     return gallery_->slots().landingOf(held_, {point_.x(), point_.y()}, gallery_->presetGradient().size());
 }
 
-void PresetDrag::paint(QPainter& painter, PresetSheet& sheet, const QColor& markColor) const {
+void PresetDrag::paint(QPainter& painter, const PresetSheet& sheet, const QColor& markColor) const {
     if (!isUnderWay_) {
         return;
     }

@@ -38,7 +38,7 @@ class PresetDrag : public QObject {
     bool carries(std::size_t position) const { return isUnderWay_ && held_ == position; }
 
     /// Paints the thumbnail in the hand, and a mark where it would land.
-    void paint(QPainter& painter, PresetSheet& sheet, const QColor& markColor) const;
+    void paint(QPainter& painter, const PresetSheet& sheet, const QColor& markColor) const;
 
   Q_SIGNALS:
     /// A place of the container that is to come into view.

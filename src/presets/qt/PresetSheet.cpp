@@ -16,7 +16,7 @@ constexpr double fadedOpacity = 0.3;
 } // namespace
 
 void PresetSheet::paint(QPainter& painter, const PresetGallery& gallery, const QRect& area,
-                        const PresetDrag& drag) {
+                        const PresetDrag& drag) const {
     const GradientList& presets = gallery.presetGradient();
     const auto visible =
         PresetSlotGeometry::positionsBetween(area.top(), area.top() + area.height(), presets.size());
@@ -29,7 +29,7 @@ void PresetSheet::paint(QPainter& painter, const PresetGallery& gallery, const Q
 }
 
 void PresetSheet::paintThumbnail(QPainter& painter, const std::shared_ptr<const Gradient>& gradient,
-                                 QPointF origin) {
+                                 QPointF origin) const {
     const double ratio = painter.device()->devicePixelRatioF();
     const bool isElsewhere = std::exchange(ratio_, ratio) != ratio; // on another screen
     if (isElsewhere || pictures_.size() > mostPictures) {

@@ -20,14 +20,16 @@ class PresetGallery;
 class PresetSheet {
   public:
     /// Those that reach into an area of the container; one that is carried away fades there.
-    void paint(QPainter& painter, const PresetGallery& gallery, const QRect& area, const PresetDrag& drag);
+    void paint(QPainter& painter, const PresetGallery& gallery, const QRect& area,
+               const PresetDrag& drag) const;
 
     /// One, with its top left corner at `origin`.
-    void paintThumbnail(QPainter& painter, const std::shared_ptr<const Gradient>& gradient, QPointF origin);
+    void paintThumbnail(QPainter& painter, const std::shared_ptr<const Gradient>& gradient,
+                        QPointF origin) const;
 
   private:
-    double ratio_ = 0; ///< of device pixels to points, in the pictures
-    std::unordered_map<std::shared_ptr<const Gradient>, QImage> pictures_;
+    mutable double ratio_ = 0; ///< of device pixels to points, in the pictures
+    mutable std::unordered_map<std::shared_ptr<const Gradient>, QImage> pictures_;
 };
 
 } // namespace tessaly

@@ -11,6 +11,7 @@
 #include "foundation/NotificationCenter.h"
 #include "sourceview/qt/CustomTextView.h"
 #include "sourceview/qt/SourceView.h"
+#include "support/Eventually.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryFolder.h"
 
@@ -22,6 +23,7 @@
 #include <QListView>
 #include <QMenu>
 #include <QMimeData>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -70,6 +72,20 @@ class CommandsTest : public testing::Test {
     void paste(const QString& text) {
         QGuiApplication::clipboard()->setText(text);
         key(Qt::Key_V, control);
+    }
+    // As a drag that comes to the middle of a widget and is let go there.
+    static bool drop(QWidget& on, const QMimeData& data) {
+        const QPoint place = on.rect().center();
+        QDragEnterEvent enter{place, Qt::CopyAction, &data, Qt::LeftButton, {}};
+        QDropEvent drop{place, Qt::CopyAction, &data, Qt::LeftButton, {}};
+        for (QDropEvent* const event : {static_cast<QDropEvent*>(&enter), &drop}) {
+            event->ignore();
+            QApplication::sendEvent(&on, event);
+            if (!event->isAccepted()) {
+                return false;
+            }
+        }
+        return true;
     }
     int presets() {
         return QAccessible::queryAccessibleInterface(window().findChild<QWidget*>(u"presets"_s))
@@ -242,7 +258,7 @@ TEST_F(CommandsTest, takesWhatIsPastedDroppedAndTypedOrSaysWhyNot) {
 
     QMimeData dropped;
     dropped.setText(u".a{background:radial-gradient(red,blue)} .b{background:linear-gradient(red,lime)}"_s);
-    Q_EMIT window().dropped(dropped);
+    EXPECT_TRUE(drop(window(), dropped));
     auto* chooser = window().findChild<GradientChooser*>();
     ASSERT_NE(chooser, nullptr);
     auto* const list = chooser->findChild<QListView*>();
@@ -257,8 +273,21 @@ TEST_F(CommandsTest, takesWhatIsPastedDroppedAndTypedOrSaysWhyNot) {
     const std::string file = temporary.path / "one.css";
     std::ofstream{file} << "background: linear-gradient(37deg, red, blue)";
     dropped.setUrls({QUrl::fromLocalFile(QString::fromStdString(file)), QUrl::fromLocalFile(u"/other"_s)});
-    Q_EMIT window().dropped(dropped);
+    QWidget& codeView = *views().stylesheet->textView().viewport();
+    EXPECT_TRUE(drop(codeView, dropped)) << "left to the window";
     EXPECT_EQ(message(), u"37° taken as 45°; 1 more file(s) left out"_s);
+    item(u"Undo"_s).trigger();
+
+    dropped.clear();
+    dropped.setText(u"/* typed */"_s + QString{600'000, u' '} + u"background: linear-gradient(red, blue)"_s);
+    EXPECT_TRUE(drop(window(), dropped));
+    window().findChild<QProgressDialog*>()->findChild<QPushButton*>()->click();
+    EXPECT_TRUE(eventually([&] { return window().findChild<QProgressDialog*>() == nullptr; }));
+    EXPECT_EQ(code(), taken);
+    EXPECT_TRUE(drop(window(), dropped));
+    EXPECT_TRUE(eventually([&] { return code() != taken; }));
+    EXPECT_TRUE(drop(codeView, dropped));
+    EXPECT_TRUE(code().contains(u"/* typed */"_s));
 }
 
 TEST_F(CommandsTest, listensToItsOwnTabs) {
