@@ -4,10 +4,10 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QDataStream>
 #include <QDeadlineTimer>
-#include <QLocalSocket>
 #include <QStandardPaths>
+#include <cerrno>
+#include <system_error>
 
 namespace tessaly {
 namespace {
@@ -24,20 +24,6 @@ QString pathFor(const QString& folder, const char* ending) {
            QString::fromLatin1(hash) + QString::fromLatin1(ending);
 }
 
-constexpr char answer = '\n'; // anything: it says that the event loop there runs
-
-bool tellFirst(const QString& socketPath, const QStringList& files, const QDeadlineTimer& end) {
-    const auto left = [&end] { return static_cast<int>(end.remainingTime()); };
-    QLocalSocket first;
-    first.connectToServer(socketPath);
-    if (!first.waitForConnected(left())) {
-        return false;
-    }
-    QDataStream message{&first};
-    message << files;
-    return first.waitForReadyRead(left());
-}
-
 } // namespace
 
 SingleInstance::SingleInstance(const QString& folder, const QStringList& files, QObject* parent)
@@ -49,7 +35,7 @@ SingleInstance::SingleInstance(const QString& folder, const QStringList& files, 
     // A copy that does not answer is closing, or has started just now.
     const QDeadlineTimer end{patience};
     while (!first_ && !heard_ && !end.hasExpired()) {
-        heard_ = tellFirst(socketPath, files, end);
+        heard_ = InstanceSocket::tell(socketPath, files, end);
         first_ = !heard_ && lock_.tryLock(pause);
     }
     if (first_) {
@@ -60,33 +46,12 @@ SingleInstance::SingleInstance(const QString& folder, const QStringList& files, 
 }
 
 void SingleInstance::listen(const QString& socketPath) {
-    // A crash leaves it; nobody else can own it while we have the lock.
-    QLocalServer::removeServer(socketPath);
-    server_.setSocketOptions(QLocalServer::UserAccessOption);
-    connect(&server_, &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket* const caller = server_.nextPendingConnection()) {
-            connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-            connect(caller, &QLocalSocket::readyRead, this, [this, caller] { hear(*caller); });
-            hear(*caller); // what is there already
-        }
-    });
+    connect(&socket_, &InstanceSocket::told, this, &SingleInstance::startedAgain);
     // From then on a new start waits for the lock instead of asking in vain.
-    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &server_, &QLocalServer::close);
-    if (!server_.listen(socketPath)) {
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &socket_, &InstanceSocket::close);
+    if (!socket_.listen(socketPath)) {
         DiagnosticLog::write("A second start will not show this window: " +
-                             server_.errorString().toStdString());
-    }
-}
-
-void SingleInstance::hear(QLocalSocket& caller) {
-    QStringList files;
-    QDataStream message{&caller};
-    message.startTransaction();
-    message >> files;
-    if (message.commitTransaction()) { // else the rest is still to come
-        caller.write(&answer, 1);
-        caller.flush();
-        Q_EMIT startedAgain(files);
+                             std::generic_category().message(errno));
     }
 }
 

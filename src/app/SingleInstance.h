@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLocalServer>
+#include "app/InstanceSocket.h"
+
 #include <QLockFile>
 #include <QObject>
 #include <QStringList>
@@ -29,10 +30,9 @@ class SingleInstance : public QObject {
 
   private:
     void listen(const QString& socketPath);
-    void hear(QLocalSocket& caller);
 
     QLockFile lock_;
-    QLocalServer server_;
+    InstanceSocket socket_;
     bool first_;
     bool heard_ = false;
 };
