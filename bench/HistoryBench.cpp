@@ -1,9 +1,10 @@
-// A step taken back and done again, as the user sees it, and what it keeps.
+// The move of a stop taken back and done again, as the user sees it, and what it keeps.
 
 #include "Measure.h"
 #include "app/MainMenu.h"
 #include "app/MainWindow.h"
 #include "app/Tessaly.h"
+#include "canvas/qt/CanvasView.h"
 #include "document/Document.h"
 #include "presets/qt/PresetGradienContainerView.h"
 #include "support/FakeControls.h"
@@ -11,6 +12,7 @@
 #include "support/TemporaryFolder.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QMenu>
 #include <benchmark/benchmark.h>
 #include <vector>
@@ -47,7 +49,13 @@ void stepBack(benchmark::State& state) {
     store(temporary.path, state.range(0), state.range(1));
     Tessaly program{temporary.path, temporary.path};
     program.mainWindow().findChild<PresetGradienContainerView*>()->pressAccessibleItem(0);
+    QKeyEvent right{QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier};
+    QCoreApplication::sendEvent(program.mainWindow().views().canvas, &right);
     const QList<QAction*> items = program.mainWindow().views().menu->actions().at(1)->menu()->actions();
+    if (items.front()->text() != QStringLiteral("&Undo Move Stop")) {
+        state.SkipWithError("nothing was moved");
+        return;
+    }
     measure(state, [&](std::size_t number) { items.at(static_cast<int>(number % 2))->trigger(); });
     state.counters["bytes"] = static_cast<double>(bytesOfStep(temporary.path));
 }

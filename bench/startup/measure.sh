@@ -24,12 +24,22 @@ presets() {
 presets many 10000 5
 presets large 1 100000
 
-# start NAME PROGRAM DATA-FOLDER: appends milliseconds and KiB to NAME.starts.
+stolen() { # what the host has given to others of the time of these processors
+    awk '/^cpu / { print $9 }' /proc/stat
+}
+# start NAME PROGRAM DATA-FOLDER: appends milliseconds and KiB to NAME.starts. One that the host disturbed counts only
+# when it disturbs all.
 start() {
-    timeout 60 "$bin/tessaly_startup_$2" "$(date +%s%N)" "$work/$3" >>"$work/$1.starts" 2>"$work/log" || {
-        tail -n 20 "$work/log" >&2
-        exit 1
-    }
+    local taken before
+    for _ in $(seq 10); do
+        before=$(stolen)
+        taken=$(timeout 60 "$bin/tessaly_startup_$2" "$(date +%s%N)" "$work/$3" 2>"$work/log") || {
+            tail -n 20 "$work/log" >&2
+            exit 1
+        }
+        [ "$(stolen)" != "$before" ] || break
+    done
+    echo "$taken" >>"$work/$1.starts"
 }
 for _ in $(seq 11); do # the first of each only warms up
     start bare bare none
