@@ -3,6 +3,7 @@
 #include "model/Orientation.h"
 #include "raster/DiscRaster.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <functional>

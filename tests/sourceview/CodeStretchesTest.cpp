@@ -4,6 +4,7 @@
 #include "foundation/Contrast.h"
 #include "sourceview/CodeColors.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 

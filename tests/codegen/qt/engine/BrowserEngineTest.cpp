@@ -10,6 +10,7 @@
 #include <QWebEngineView>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace tessaly {
 namespace {
