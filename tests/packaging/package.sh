@@ -25,8 +25,10 @@ must dpkg --root="$root" --log="$work/dpkg.log" --force-not-root -i "$deb"
 
 id=example.tessaly.Tessaly
 must desktop-file-validate "$share/applications/$id.desktop"
-# There is no homepage until an owner gives one.
-must appstreamcli validate-tree --no-net --override=url-homepage-missing=info "$root"
+# There is no homepage until an owner gives one, of which newer validators warn and older ones know nothing.
+unnamed=--override=url-homepage-missing=info
+! appstreamcli validate-tree "$unnamed" --no-net "$root" 2>&1 | grep -q 'not recognized' || unnamed=--no-net
+must appstreamcli validate-tree "$unnamed" --no-net "$root"
 must grep -q "<launchable type=\"desktop-id\">$id.desktop<" "$share/metainfo/$id.metainfo.xml"
 must mandoc -T lint -W warning "$share/man/man1/tessaly.1.gz"
 must grep -qx "Icon=$id" "$share/applications/$id.desktop"
