@@ -27,7 +27,7 @@ id=example.tessaly.Tessaly
 must desktop-file-validate "$share/applications/$id.desktop"
 # There is no homepage until an owner gives one, of which newer validators warn and older ones know nothing.
 unnamed=--override=url-homepage-missing=info
-! appstreamcli validate-tree "$unnamed" --no-net "$root" 2>&1 | grep -q 'not recognized' || unnamed=--no-net
+! grep -q 'not recognized' <(appstreamcli validate-tree "$unnamed" --no-net "$root" 2>&1) || unnamed=--no-net
 must appstreamcli validate-tree "$unnamed" --no-net "$root"
 must grep -q "<launchable type=\"desktop-id\">$id.desktop<" "$share/metainfo/$id.metainfo.xml"
 must mandoc -T lint -W warning "$share/man/man1/tessaly.1.gz"
@@ -37,7 +37,7 @@ for size in 16 22 24 32 48 64 128 256 512; do
     file "$share/icons/hicolor/${size}x$size/apps/$id.png" >"$work/log"
     grep -q "PNG image data, $size x $size," "$work/log" || fail "no icon of $size pixels"
 done
-must lintian --allow-root --fail-on error,warning "$deb"
+must lintian --allow-root --fail-on error,warning --suppress-tags appstream-metadata-validation-failed "$deb"
 
 files() {
     (cd "$1" && find usr -type f -printf '%m %p\n' | sort)
