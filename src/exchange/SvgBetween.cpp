@@ -8,7 +8,8 @@
 namespace tessaly {
 namespace {
 
-constexpr double unseen = 1.0 / 512.0; // half a level
+constexpr double unseen = 1.0 / 1024.0; // a quarter of a level
+constexpr double levels = 255.0;        // of an opacity: engines keep a byte of it
 
 // What CSS shows where the opacity between the two has come to that value.
 ColorStop stopAt(double opacity, const ColorStop& before, const ColorStop& after) {
@@ -45,7 +46,15 @@ std::vector<ColorStop> stopsBetween(const ColorStop& before, const ColorStop& af
     const int pieces = std::max(static_cast<int>(std::ceil(std::abs(ratio) / largestRatio)), 2);
     std::vector<ColorStop> stops;
     for (int piece = 1; piece < pieces; ++piece) {
-        stops.push_back(stopAt(before.opacity * std::exp(ratio * piece / pieces), before, after));
+        const double last = stops.empty() ? before.opacity : stops.back().opacity;
+        const auto isAhead = [&](double opacity) {
+            return (opacity - last) * (after.opacity - opacity) > 0.0;
+        };
+        const double wanted = before.opacity * std::exp(ratio * piece / pieces);
+        const double kept = std::round(wanted * levels) / levels;
+        if (isAhead(kept) || isAhead(wanted)) {
+            stops.push_back(stopAt(isAhead(kept) ? kept : wanted, before, after));
+        }
     }
     return stops;
 }

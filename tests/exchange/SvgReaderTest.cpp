@@ -167,8 +167,8 @@ TEST(SvgReaderTest, findsTheStopsOfADocumentWithTheirStyles) {
              "#888 } #g.e .b.c{stop-color:#00f} svg #g linearGradient#h stop, #g g .a, g.d .c, rect #i {"
              "stop-color:#fff !important} :root .d .x { stop-color: #123456 }</style>"),
          {"1: #ff0000 0, #0000ff 0, #ff00ff 0, #123456 0"}},
-        {stops("<stop class='a'/>",
-               "linearGradient > .a:not(.b, g) { stop-color: #f00 } .a[x='b .a'] , p > .a{}"),
+        {stops("<stop class='a'/>", "linearGradient > .a:not(.b, g) { stop-color: #f00 } "
+                                    ".a[x='b .a'] , p > .a{} .a:hover{stop-color:#00f}"),
          {"1: #000000 0 (style of a stop left out: it needs another selector)"}},
         {stops("<stop class='a b' id='i'/><stop class='b a' stop-color='#fff'/><stop class='x'/>",
                "/* { */ .a{stop-color:#f00} .b, p > q , #j {stop-color:#00f;stop-opacity:.5} "
