@@ -19,6 +19,8 @@ class InstanceSocket : public QObject {
 
   public:
     explicit InstanceSocket(QObject* parent = nullptr) : QObject{parent} {}
+    InstanceSocket(const InstanceSocket&) = delete;
+    InstanceSocket& operator=(const InstanceSocket&) = delete;
     ~InstanceSocket() override;
 
     /// Tells the copy that listens at `path` what files to open. True when it has answered by `end`, which it
