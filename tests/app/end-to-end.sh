@@ -8,8 +8,7 @@ program=$1
 . "$(dirname "$0")/../support/places.sh"
 . "$(dirname "$0")/../support/private.sh"
 styles=$TMPDIR/WebFolder0/styles.css
-openbox >/dev/null 2>&1 & # a window manager: it is what asks a window to close
-eventually wmctrl -m # it manages what is mapped from now on; what is mapped while it starts may stay hidden
+manage_windows
 expect() {
     eventually grep -qF -- "$1" "$styles"
 }
@@ -19,10 +18,14 @@ at() {
 click_at() {
     at "$@" && xdotool click 1
 }
+# Types a number into the field at x, y.
+fill() {
+    click_at "$1" "$2" && xdotool key ctrl+a && xdotool type "$3" && xdotool key Return
+}
 begin() {
     "$program" 2>"$work/log" &
     pid=$!
-    window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$pid" --name '^Tessaly$' | head -n 1) || fail "no window"
+    eventually find_window
     expect '#ffffff 100%);'
 }
 # Ends the program by the command, and in order.
@@ -49,9 +52,9 @@ kill -CONT "$pid"
 at $last_marker && xdotool mousedown 1
 at 400 208 && at $middle_of_track && xdotool mouseup 1
 expect '#ffffff 50%);'
-at 182 208 && xdotool click --repeat 2 --delay 60 1 # a new stop at a quarter, selected
+at 182 208 && xdotool click --repeat 2 --delay 1 1 # a new stop at a quarter, selected
 expect '#000000 25%,'
-at $red && xdotool click --repeat 3 --delay 60 1 && xdotool type 255 && xdotool key Return
+fill $red 255
 expect '#ff0000 25%,'
 
 click_at $code && xdotool key ctrl+Home && xdotool type 'a' # into the stylesheet
@@ -95,7 +98,7 @@ none_is_stored() {
 eventually none_is_stored
 at $middle_of_track && xdotool mousedown 1 && at 474 208 && xdotool mouseup 1 # the white one lies below
 expect '75%);'
-click_at $red && xdotool click --repeat 2 --delay 60 1 && xdotool type 128 && xdotool key Return
+fill $red 128
 expect '#80'
 click_at $first_marker && xdotool key Delete # the stop, not the text
 stops_in_standard_form() {
@@ -112,6 +115,7 @@ echo '.a { background: linear-gradient(to top, teal 0%, gold 100%) }' >"$work/a.
 timeout 10 "$program" "$work/a.css" 2>"$work/third" || fail "a second start with a file did not end"
 expect '#008080 0%,'
 printf 'radial-gradient(lime, navy)' | xclip -in -selection clipboard
+eventually copied 'lime'
 xdotool key ctrl+v
 expect '#00ff00 0%,'
 xdotool key ctrl+z ctrl+z

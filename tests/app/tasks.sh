@@ -5,8 +5,7 @@ program=$1 way=$2
 here=$(realpath "$(dirname "$0")")
 . "$here/../support/private.sh"
 
-openbox >/dev/null 2>&1 & # gives the keyboard to the window that comes up
-eventually wmctrl -m
+manage_windows
 bus=()
 [ "$way" = keyboard ] || bus=(env -u DBUS_SESSION_BUS_ADDRESS QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 dbus-run-session --)
 cd "$work"

@@ -32,6 +32,14 @@ fail() {
 set -E
 trap 'fail "line $LINENO: $BASH_COMMAND"' ERR
 
+# Starts a window manager, which gives the keyboard to the window that comes up and asks one to close. It leaves the mouse
+# to the windows: a click that had to pass by it could be overtaken by the keys that follow.
+manage_windows() {
+    echo '<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>' >"$work/openbox.xml"
+    openbox --config-file "$work/openbox.xml" >/dev/null 2>&1 &
+    eventually wmctrl -m # it manages what is mapped from now on; what is mapped while it starts may stay hidden
+}
+
 # Waits for a command to succeed, on a busy machine too.
 eventually() {
     for _ in $(seq 300); do
@@ -39,4 +47,9 @@ eventually() {
         sleep 0.1
     done
     fail "never came true: $*"
+}
+
+# The window of the program, whose process is $pid. Sets $window.
+find_window() {
+    window=$(xdotool search --onlyvisible --pid "$pid" --name '^Tessaly$') && [ -n "$window" ]
 }
