@@ -1,5 +1,7 @@
 #include "app/CopyOptions.h"
 
+#include "foundation/qt/CloseWhenTriggered.h"
+
 #include <QMenu>
 
 namespace tessaly {
@@ -15,8 +17,7 @@ CopyOptions::CopyOptions(QWidget* parent)
     setToolTip(tr("Copy in another form"));
     setFixedWidth(arrowWidth);
     setMenu(forms_);
-    // An item that assistive tools press leaves its menu open, and beneath one no command acts.
-    connect(forms_, &QMenu::triggered, forms_, &QMenu::hide);
+    closeWhenTriggered(*forms_);
 }
 
 } // namespace tessaly

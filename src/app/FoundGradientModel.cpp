@@ -15,14 +15,6 @@ QString nameOf(const FoundGradient& found, int row) {
     return found.name.empty() ? FoundGradientModel::tr("Gradient %1").arg(row + 1) : toQString(found.name);
 }
 
-QString notesOf(const FoundGradient& found) {
-    QStringList notes;
-    for (const std::string& note : found.notes) {
-        notes += toQString(note);
-    }
-    return notes.join(QStringLiteral("; "));
-}
-
 QPixmap thumbnailOf(const Gradient& gradient) {
     constexpr auto size = static_cast<int>(PresetSlotGeometry::thumbnailSize);
     const double ratio = qApp->devicePixelRatio();
@@ -45,13 +37,13 @@ QVariant FoundGradientModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return found.notes.empty() ? nameOf(found, index.row())
-                                   : nameOf(found, index.row()) + u'\n' + notesOf(found);
+                                   : nameOf(found, index.row()) + u'\n' + toQString(notesOf(found));
     case Qt::DecorationRole:
         return thumbnailOf(found.gradient);
     case Qt::ToolTipRole:
-        return notesOf(found).toHtmlEscaped(); // they carry words of the file
+        return toQString(notesOf(found)).toHtmlEscaped(); // they carry words of the file
     case Qt::AccessibleDescriptionRole:
-        return notesOf(found);
+        return toQString(notesOf(found));
     case Qt::AccessibleTextRole:
         return nameOf(found, index.row());
     default:

@@ -52,10 +52,10 @@ GradientChooser::GradientChooser(const Incoming& incoming, QWidget* parent)
     auto* const layout = new QVBoxLayout{this};
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(spacing);
-    const QString leftOut =
-        incoming.leftOut.empty() ? QString{} : QStringLiteral("; ") + toQString(incoming.leftOut);
-    auto* const label = new QLabel{
-        tr("%n &gradients were found%1:", nullptr, static_cast<int>(gradients_.size())).arg(leftOut)};
+    std::string told =
+        tr("%n &gradients were found", nullptr, static_cast<int>(gradients_.size())).toStdString();
+    addPhrase(told, incoming.leftOut);
+    auto* const label = new QLabel{toQString(told) + u':'};
     label->setWordWrap(true);
     label->setBuddy(list_);
     layout->addWidget(label);

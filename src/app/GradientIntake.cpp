@@ -24,14 +24,6 @@ constexpr std::size_t readAtOnce = std::size_t{256} << 10U; // what takes longer
 
 const QString svg = QStringLiteral("image/svg+xml");
 
-// Adds a phrase to those that are told.
-void addTo(std::string& told, const std::string& phrase) {
-    if (!told.empty() && !phrase.empty()) {
-        told += "; ";
-    }
-    told += phrase;
-}
-
 } // namespace
 
 GradientIntake::GradientIntake(Document& document, MainWindow& window)
@@ -101,7 +93,7 @@ void GradientIntake::openWaiting() {
         [file = std::filesystem::path{next.path.toStdU16String()},
          leftOut = next.leftOut](const Progress& progress) {
             Incoming incoming = readIncomingFile(file, progress);
-            addTo(incoming.gradients.empty() ? incoming.failure : incoming.leftOut, leftOut);
+            addPhrase(incoming.gradients.empty() ? incoming.failure : incoming.leftOut, leftOut);
             return incoming;
         },
         static_cast<std::size_t>(QFileInfo{next.path}.size()), editStep::openGradient);
@@ -145,11 +137,8 @@ void GradientIntake::take(const Incoming& incoming, std::string_view step) {
 void GradientIntake::takeGradient(const FoundGradient& found, const std::string& leftOut,
                                   std::string_view step) {
     document_.takeGradient(found.gradient, step);
-    std::string told;
-    for (const std::string& note : found.notes) {
-        addTo(told, note);
-    }
-    addTo(told, leftOut);
+    std::string told = notesOf(found);
+    addPhrase(told, leftOut);
     say(toQString(told));
 }
 

@@ -1,5 +1,6 @@
 #include "app/MainMenu.h"
 
+#include "foundation/qt/CloseWhenTriggered.h"
 #include "foundation/qt/ToQString.h"
 
 #include <QAction>
@@ -85,8 +86,7 @@ MainMenu::MainMenu(QWidget* parent) : QMenuBar{parent} {
     for (const Item& item : items) {
         if (menu == nullptr || opened != item.menu) {
             menu = addMenu(tr(item.menu));
-            // An item that assistive tools press leaves its menu open, and beneath one no command acts.
-            connect(menu, &QMenu::triggered, menu, &QMenu::hide);
+            closeWhenTriggered(*menu);
             opened = item.menu;
         } else if (item.separated) {
             menu->addSeparator();

@@ -99,8 +99,8 @@ void MenuAnswers::answerGradient() {
     QMenu& markerMenu = with_.window.views().canvas->markerMenu();
     markerMenu.addSeparator();
     for (const ToolCommand& entry : toolCommands) {
+        markerMenu.addAction(&with_.window.views().menu->actionOf(entry.command)); // first, so that it closes
         on(entry.command, [this, tool = entry.tool] { with_.document.use(tool); });
-        markerMenu.addAction(&with_.window.views().menu->actionOf(entry.command));
     }
     connect(&markerMenu, &QMenu::aboutToShow, this, &MenuAnswers::update);
 }

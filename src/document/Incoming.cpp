@@ -37,15 +37,14 @@ std::string failureOf(const Reading& reading, const std::string& source) {
 }
 
 std::string leftOutOf(const Reading& reading) {
-    std::string unread = reading.complete ? "" : "what was too much to read is left out";
-    if (reading.leftOut == 0) {
-        return unread;
+    std::string text;
+    if (reading.leftOut > 0) {
+        const bool isOne = reading.leftOut == 1;
+        text = std::to_string(reading.leftOut) + " more gradient" + (isOne ? "" : "s") + " left out: ";
+        text.append(isOne ? "it " : "the first ").append(reading.reason);
     }
-    const bool isOne = reading.leftOut == 1;
-    std::string text =
-        std::to_string(reading.leftOut) + " more gradient" + (isOne ? "" : "s") + " left out: ";
-    text.append(isOne ? "it " : "the first ").append(reading.reason);
-    return unread.empty() ? text : text + "; " + unread;
+    addPhrase(text, reading.complete ? "" : "what was too much to read is left out");
+    return text;
 }
 
 Incoming readPresets(const std::filesystem::path& file, const std::string& name) {

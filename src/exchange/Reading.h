@@ -24,6 +24,12 @@ struct Reading {
     std::string_view reason{}; ///< why the first of them cannot, a phrase such as "is conic"; static
 };
 
+/// Adds a phrase to those that are told in one line; an empty one adds nothing.
+void addPhrase(std::string& told, std::string_view phrase);
+
+/// All notes in one line.
+std::string notesOf(const FoundGradient& found);
+
 /// Is told the share 0 ... 1 that is read or written; false from it ends that. A reading is then empty.
 using Progress = std::function<bool(double share)>;
 

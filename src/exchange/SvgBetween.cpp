@@ -52,8 +52,8 @@ std::vector<ColorStop> stopsBetween(const ColorStop& before, const ColorStop& af
         };
         const double wanted = before.opacity * std::exp(ratio * piece / pieces);
         const double kept = std::round(wanted * levels) / levels;
-        if (isAhead(kept) || isAhead(wanted)) {
-            stops.push_back(stopAt(isAhead(kept) ? kept : wanted, before, after));
+        if (const double opacity = isAhead(kept) ? kept : wanted; isAhead(opacity)) {
+            stops.push_back(stopAt(opacity, before, after));
         }
     }
     return stops;

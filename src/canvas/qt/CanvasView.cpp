@@ -1,6 +1,7 @@
 #include "canvas/qt/CanvasView.h"
 
 #include "foundation/NumberText.h"
+#include "foundation/qt/CloseWhenTriggered.h"
 #include "foundation/qt/Flipped.h"
 #include "foundation/qt/ReadableColor.h"
 #include "foundation/qt/ToQString.h"
@@ -34,6 +35,7 @@ CanvasView::CanvasView(QWidget* parent)
     setAccessibleName(tr("Gradient canvas"));
     setToolTip(tr("Double click to add a stop, drag to move it"));
     setAttribute(Qt::WA_OpaquePaintEvent);
+    closeWhenTriggered(*popupMenu_);
     popupMenu_->addAction(tr("Delete Marker"), this, [this] { editor_->interaction().deleteColorMarker(); });
 }
 

@@ -1,6 +1,7 @@
 #include "presets/qt/PresetGradienContainerView.h"
 
 #include "foundation/DiagnosticLog.h"
+#include "foundation/qt/CloseWhenTriggered.h"
 #include "foundation/qt/KeptKeys.h"
 #include "foundation/qt/ReadableColor.h"
 #include "presets/PresetGallery.h"
@@ -35,6 +36,7 @@ PresetGradienContainerView::PresetGradienContainerView(QWidget* parent)
     installAccessibleItems();
     setAccessibleName(tr("Presets"));
     setFocusPolicy(Qt::StrongFocus);
+    closeWhenTriggered(*menu_);
     connect(drag_, &PresetDrag::toBeSeen, this, &PresetGradienContainerView::toBeSeen);
 }
 

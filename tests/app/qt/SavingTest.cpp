@@ -123,7 +123,9 @@ TEST_F(SavingTest, exportsPicturesOfAnySizeByTheirName) {
         sides[0]->setValue(30);
         sides[1]->setValue(20);
         for (QPushButton* const button : dialog->findChildren<QPushButton*>()) {
-            button->isDefault() ? button->click() : void();
+            if (button->isDefault()) {
+                button->click();
+            }
         }
         answer(row.name);
         EXPECT_TRUE(eventually([&] { return message() == row.told; })) << message().toStdString();
