@@ -9,7 +9,7 @@ namespace tessaly {
 namespace {
 
 constexpr std::size_t mostRules = 10'000;
-constexpr std::size_t mostWork = std::size_t{64} << 20U;
+constexpr std::size_t mostWork = std::size_t{16} << 20U; // elements and bytes looked at
 
 } // namespace
 
