@@ -63,7 +63,7 @@ MainWindow::MainWindow(QWidget* parent)
     const QSize room = screen()->availableSize() - frame;
     arrangement_ = std::make_unique<WindowArrangement>(*this, views_, room);
     resize(QSize{minimumSizeHint().width(), startHeight}.boundedTo(room));
-    layout()->activate(); // the presets ask how high their list is
+    arrangement_->layOut(); // the presets ask how high their list is
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -31,6 +31,12 @@ constexpr int canvasColumn = 0;
 constexpr int presetsColumn = 1;
 constexpr int previewColumn = 2;
 
+// No wider than it must be: the buttons take the width of the list above them.
+class Snug : public QWidget {
+  public:
+    QSize sizeHint() const override { return {minimumSizeHint().width(), QWidget::sizeHint().height()}; }
+};
+
 // As wide as its title, where the style would have it wider.
 void narrow(QPushButton& button) {
     constexpr int padding = 12;
@@ -50,11 +56,7 @@ QBoxLayout* rowOf(std::initializer_list<QPushButton*> buttons) {
 } // namespace
 
 WindowArrangement::WindowArrangement(QWidget& window, const MainWindow::Views& views, QSize room)
-    : views_{views},
-      grid_{new QGridLayout},
-      side_{new QWidget},
-      header_{new QWidget},
-      page_{views.stylesheet} {
+    : views_{views}, grid_{new QGridLayout}, side_{new Snug}, header_{new QWidget}, page_{views.stylesheet} {
     views.sourceCodeContainer->addWidget(views.stylesheet);
     views.sourceCodeContainer->addWidget(views.page);
     auto* const header = new QHBoxLayout{header_};
@@ -98,6 +100,13 @@ void WindowArrangement::placeTools(QHBoxLayout& header, QSize room) {
     grid_->addWidget(views_.stopControls, controlsRow, canvasColumn, 1, 2, Qt::AlignLeft | Qt::AlignTop);
     header.insertSpacing(1, spacing);
     header.insertLayout(2, buttons);
+}
+
+void WindowArrangement::layOut() {
+    for (const QWidget* const widget :
+         std::initializer_list<const QWidget*>{grid_->parentWidget(), side_, views_.presets}) {
+        widget->layout()->activate();
+    }
 }
 
 void WindowArrangement::showPage(QWidget* page) {

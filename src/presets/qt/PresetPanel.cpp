@@ -42,7 +42,7 @@ PresetPanel::PresetPanel(QWidget* parent)
     QScrollArea& scrollView = *presetGradienContainerScrollView_;
     scrollView.setWidget(presetGradienContainerView_);
     scrollView.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrollView.setFixedWidth(scrollViewWidth(scrollView));
+    scrollView.setMinimumWidth(scrollViewWidth(scrollView));
     scrollView.setMinimumHeight(leastHeight);
     scrollView.setFocusPolicy(Qt::NoFocus);
     connect(presetGradienContainerView_, &PresetGradienContainerView::toBeSeen, this,

@@ -23,6 +23,12 @@ bool PresetScrollView::event(QEvent* event) {
     return QScrollArea::event(event);
 }
 
+void PresetScrollView::resizeEvent(QResizeEvent* event) {
+    const int spare = width() - minimumWidth();
+    setViewportMargins(spare / 2, 0, spare - spare / 2, 0);
+    QScrollArea::resizeEvent(event);
+}
+
 // The toolkit cuts a widget at its edges rounded to pixels; a line that is drawn in points may round
 // otherwise and be cut off, or be covered by what lies within the frame.
 void PresetScrollView::paintFrame() {

@@ -9,6 +9,7 @@
 #include "canvas/qt/ColorPickerImageView.h"
 #include "chrome/qt/MainTabView.h"
 #include "foundation/NotificationCenter.h"
+#include "presets/qt/PresetGradienContainerView.h"
 #include "sourceview/qt/CustomTextView.h"
 #include "sourceview/qt/SourceView.h"
 #include "support/Eventually.h"
@@ -290,6 +291,19 @@ TEST_F(CommandsTest, takesWhatIsPastedDroppedAndTypedOrSaysWhyNot) {
     EXPECT_TRUE(eventually([&] { return code() != taken; }));
     EXPECT_TRUE(drop(codeView, dropped));
     EXPECT_TRUE(code().contains(u"/* typed */"_s));
+}
+
+TEST_F(CommandsTest, listsPresetsAtTheStartAsItDidBefore) {
+    const auto fifth = [this] {
+        return window().findChild<PresetGradienContainerView*>(u"presets"_s)->accessibleItemRect(4);
+    };
+    for (int i = 0; i < 11; ++i) { // more than the list is high
+        window().findChild<QPushButton*>(u"addPreset"_s)->click();
+    }
+    const QRect before = fifth();
+    program.reset();
+    program = std::make_unique<Tessaly>(temporary.path, temporary.path);
+    EXPECT_EQ(fifth(), before);
 }
 
 TEST_F(CommandsTest, listensToItsOwnTabs) {

@@ -136,6 +136,14 @@ double contrastIn(const QImage& picture, const QRect& place, const QPalette& pal
 }
 
 // Run at several scales.
+TEST_F(PresetPanelTest, endsWithItsButtonAndKeepsThumbnailsToTheMiddleHoweverWideItIs) {
+    const auto& list = *panel->findChild<QScrollArea*>();
+    const int usual = container.mapTo(&list, QPoint{}).x();
+    panel->resize(panel->minimumSizeHint().width() + 100, panel->height());
+    EXPECT_EQ(list.geometry().right(), panel->findChild<QPushButton*>()->geometry().right());
+    EXPECT_EQ(container.mapTo(&list, QPoint{}).x(), usual + 50);
+}
+
 TEST_F(PresetPanelTest, frameAndNoteCanBeSeenOnAnyDesktopAndTheFocusAfterAKeyAlone) {
     auto* const view = panel->findChild<QScrollArea*>();
     panel->layout()->setContentsMargins(3, 3, 3, 3);   // at a scale of 1.25 the frame lies between pixels
