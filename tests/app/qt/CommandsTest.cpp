@@ -40,11 +40,15 @@ constexpr auto control = Qt::ControlModifier;
 class CommandsTest : public testing::Test {
   protected:
     CommandsTest() {
-        program->mainWindow().show();
-        QApplication::setActiveWindow(&window());
+        window().show();
+        activateWindow();
         views().canvas->setFocus();
     }
 
+    void activateWindow() {
+        window().activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+    }
     MainWindow& window() { return program->mainWindow(); }
     const MainWindow::Views& views() { return window().views(); }
     QString code() { return views().stylesheet->textView().toPlainText(); }
@@ -237,7 +241,7 @@ TEST_F(CommandsTest, picksOfOneVisitToThePanelAreOneStepUnlessTheyAreGivenUp) {
         panel->close();
     }
     EXPECT_TRUE(code().contains(u"#00ff00"_s)) << code().toStdString();
-    QApplication::setActiveWindow(&window());
+    activateWindow();
     undo();
     EXPECT_TRUE(code().contains(u"#ff0000"_s)) << code().toStdString();
     undo();
