@@ -15,8 +15,8 @@ class WindowArrangement {
     /// font large, the buttons stand beside the tabs.
     WindowArrangement(QWidget& window, const MainWindow::Views& views, QSize room);
 
-    /// Gives the list of presets its size in a window that is not shown yet: what is hidden is not laid out by
-    /// itself.
+    /// Gives the list of presets its size in a window that is not shown yet: what is hidden is not laid out
+    /// by itself.
     void layOut();
 
     /// One of the pages under the tab bar.
