@@ -99,7 +99,8 @@ void MenuAnswers::answerGradient() {
     QMenu& markerMenu = with_.window.views().canvas->markerMenu();
     markerMenu.addSeparator();
     for (const ToolCommand& entry : toolCommands) {
-        markerMenu.addAction(&with_.window.views().menu->actionOf(entry.command)); // first, so that it closes
+        // Added before it is answered, so that the menu is closed by then.
+        markerMenu.addAction(&with_.window.views().menu->actionOf(entry.command));
         on(entry.command, [this, tool = entry.tool] { with_.document.use(tool); });
     }
     connect(&markerMenu, &QMenu::aboutToShow, this, &MenuAnswers::update);

@@ -50,6 +50,7 @@ std::vector<ColorStop> stopsBetween(const ColorStop& before, const ColorStop& af
         const auto isAhead = [&](double opacity) {
             return (opacity - last) * (after.opacity - opacity) > 0.0;
         };
+        // What engines keep, unless it is that of a neighbour.
         const double wanted = before.opacity * std::exp(ratio * piece / pieces);
         const double kept = std::round(wanted * levels) / levels;
         if (const double opacity = isAhead(kept) ? kept : wanted; isAhead(opacity)) {

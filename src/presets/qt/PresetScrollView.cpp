@@ -23,6 +23,7 @@ bool PresetScrollView::event(QEvent* event) {
     return QScrollArea::event(event);
 }
 
+// Margins, and no alignment: a scroller that is hidden must not shift them.
 void PresetScrollView::resizeEvent(QResizeEvent* event) {
     const int spare = width() - minimumWidth();
     setViewportMargins(spare / 2, 0, spare - spare / 2, 0);

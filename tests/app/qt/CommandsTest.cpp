@@ -305,6 +305,7 @@ TEST_F(CommandsTest, listsPresetsAtTheStartAsItDidBefore) {
         window().findChild<QPushButton*>(u"addPreset"_s)->click();
     }
     const QRect before = fifth();
+    EXPECT_EQ(before.left(), 211) << "as beside a scroller";
     program.reset();
     program = std::make_unique<Tessaly>(temporary.path, temporary.path);
     EXPECT_EQ(fifth(), before);

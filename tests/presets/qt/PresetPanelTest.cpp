@@ -135,7 +135,6 @@ double contrastIn(const QImage& picture, const QRect& place, const QPalette& pal
     return strongest;
 }
 
-// Run at several scales.
 TEST_F(PresetPanelTest, endsWithItsButtonAndKeepsThumbnailsToTheMiddleHoweverWideItIs) {
     const auto& list = *panel->findChild<QScrollArea*>();
     const int usual = container.mapTo(&list, QPoint{}).x();
@@ -144,6 +143,7 @@ TEST_F(PresetPanelTest, endsWithItsButtonAndKeepsThumbnailsToTheMiddleHoweverWid
     EXPECT_EQ(container.mapTo(&list, QPoint{}).x(), usual + 50);
 }
 
+// Run at several scales.
 TEST_F(PresetPanelTest, frameAndNoteCanBeSeenOnAnyDesktopAndTheFocusAfterAKeyAlone) {
     auto* const view = panel->findChild<QScrollArea*>();
     panel->layout()->setContentsMargins(3, 3, 3, 3);   // at a scale of 1.25 the frame lies between pixels
